@@ -1,0 +1,26 @@
+#pragma once
+
+#include <deque>
+
+#include "forms/Desktop.h"
+
+namespace forms {
+
+/// What a desktop is without a screen: fixed measures, no help viewer, and a queue in the place of an event loop. What
+/// it takes to answer forms and messages is up to the class that derives from it.
+class HeadlessDesktop : public Desktop {
+ public:
+  std::int32_t showHelp(std::int32_t, const std::string&, std::int16_t) override { return 0; }
+  void closeAllHelp() override {}
+  void processEvents() override;
+  void runLater(std::function<void()> task) override { tasks_.push_back(std::move(task)); }
+  void setMousePointer(MousePointer) override {}
+  Size textSize(const std::string& text, const Font& font, Twips width) const override;
+  Twips twipsPerPixelX() const override { return 15; }
+  Twips twipsPerPixelY() const override { return 15; }
+
+ private:
+  std::deque<std::function<void()>> tasks_;
+};
+
+}  // namespace forms

@@ -1,0 +1,118 @@
+#include "forms/ListView.h"
+
+#include <algorithm>
+
+namespace forms {
+
+std::string ListView::shownText() const {
+  std::string all;
+  for (const Row& row : rows_) {
+    if (!all.empty()) all += " / ";
+    for (std::size_t i = 0; i < row.texts.size(); ++i) all += (i ? " | " : "") + row.texts[i];
+  }
+  return all;
+}
+
+std::int32_t ListView::addRow(const std::vector<std::string>& texts, std::int32_t data) {
+  rows_.push_back({texts, data});
+  rows_.back().texts.resize(std::max(columns_.size(), texts.size()));
+  changed();
+  return rowCount() - 1;
+}
+
+void ListView::removeRow(std::int32_t row) {
+  rowAt(row);
+  editing_ = false;
+  rows_.erase(rows_.begin() + row);
+  if (selected_ > row || selected_ >= rowCount()) --selected_;
+  changed();
+}
+
+void ListView::clear() {
+  rows_.clear();
+  selected_ = -1;
+  editing_ = false;
+  changed();
+}
+
+const ListView::Row& ListView::rowAt(std::int32_t row) const {
+  if (row < 0 || row >= rowCount()) {
+    throw Error(errors::indexOutOfRange,
+                "The list \"" + name() + "\" has no row " + std::to_string(row) + ".");
+  }
+  return rows_[static_cast<std::size_t>(row)];
+}
+
+std::string& ListView::place(std::int32_t row, std::int32_t column) {
+  rowAt(row);
+  auto& texts = rows_[static_cast<std::size_t>(row)].texts;
+  if (column < 0 || column >= static_cast<std::int32_t>(texts.size())) {
+    throw Error(errors::indexOutOfRange,
+                "The list \"" + name() + "\" has no column " + std::to_string(column) + ".");
+  }
+  return texts[static_cast<std::size_t>(column)];
+}
+
+const std::string& ListView::text(std::int32_t row, std::int32_t column) const {
+  return const_cast<ListView*>(this)->place(row, column);
+}
+
+void ListView::setText(std::int32_t row, std::int32_t column, const std::string& text) {
+  set(place(row, column), text);
+}
+
+void ListView::setSelectedRow(std::int32_t row) {
+  if (row != -1) rowAt(row);
+  if (row != selected_) userEndLabelEdit(true);
+  if (set(selected_, row)) itemClick.raise();
+}
+
+void ListView::startLabelEdit() {
+  if (selected_ < 0 || editing_) return;
+  bool cancel = false;
+  beforeLabelEdit.raise(cancel);
+  if (cancel) return;
+  editedText_ = text(selected_, 0);
+  set(editing_, true);
+}
+
+void ListView::userSelect(std::int32_t row) {
+  rowAt(row);
+  userEndLabelEdit(true);
+  set(selected_, row);
+  itemClick.raise();
+}
+
+void ListView::userDoubleClick(std::int32_t row) {
+  userSelect(row);
+  doubleClick.raise();
+}
+
+void ListView::userEndLabelEdit(bool accept) {
+  if (!editing_) return;
+  editing_ = false;
+  if (accept) {
+    bool cancel = false;
+    std::string label = editedText_;
+    afterLabelEdit.raise(cancel, label);
+    if (!cancel) place(selected_, 0) = label;
+  }
+  changed();
+}
+
+bool ListView::userKey(const KeyDown& key) {
+  if (editing_) {
+    if (key.code != keys::enter && key.code != keys::escape) return false;
+    userEndLabelEdit(key.code == keys::enter);
+    return true;
+  }
+  if (key.code == keys::f2 && labelEditable_) {
+    startLabelEdit();
+    return true;
+  }
+  if ((key.code != keys::up && key.code != keys::down) || rows_.empty()) return false;
+  setSelectedRow(std::clamp(selected_ + (key.code == keys::down ? 1 : -1), 0, rowCount() - 1));
+  return true;
+}
+
+}  // namespace forms

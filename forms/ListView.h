@@ -1,0 +1,79 @@
+#pragma once
+
+#include <vector>
+
+#include "forms/Control.h"
+
+namespace forms {
+
+/// Rows with columns, of which one row can be selected and the text of the first column edited in place. Rows and
+/// columns count from 0; row -1 is none.
+class ListView : public Control {
+ public:
+  ListView(Container& container, std::string name) : Control(container, std::move(name)) {
+    setBackColor(colors::windowBackground);
+  }
+
+  Kind kind() const override { return Kind::listView; }
+  bool takesFocus() const override { return true; }
+  std::string shownText() const override;
+
+  void setColumns(const std::vector<std::string>& headings) { set(columns_, headings); }
+  const std::vector<std::string>& columns() const { return columns_; }
+  bool showsHeadings() const { return headings_; }
+  void setShowsHeadings(bool shows) { set(headings_, shows); }
+  bool isLabelEditable() const { return labelEditable_; }
+  void setLabelEditable(bool editable) { labelEditable_ = editable; }
+
+  /// Adds a row at the end and answers its number. Missing columns are empty.
+  std::int32_t addRow(const std::vector<std::string>& texts, std::int32_t data = 0);
+  void removeRow(std::int32_t row);
+  void clear();
+  std::int32_t rowCount() const { return static_cast<std::int32_t>(rows_.size()); }
+  /// Raise Error 9 for a row or column that there is not.
+  const std::string& text(std::int32_t row, std::int32_t column) const;
+  void setText(std::int32_t row, std::int32_t column, const std::string& text);
+  std::int32_t data(std::int32_t row) const { return rowAt(row).data; }
+
+  std::int32_t selectedRow() const { return selected_; }
+  /// Raises `itemClick` when another row becomes selected.
+  void setSelectedRow(std::int32_t row);
+
+  bool isEditing() const { return editing_; }
+  /// Opens the editor of the selected row's label. Nothing happens without a selected row.
+  void startLabelEdit();
+
+  Event<> itemClick;
+  Event<> doubleClick;
+  /// A label edit is about to open; True keeps it from opening.
+  Event<bool&> beforeLabelEdit;
+  /// A label edit ends; True in the first argument keeps the old label. The text may be changed.
+  Event<bool&, std::string&> afterLabelEdit;
+
+ private:
+  friend class User;
+  struct Row {
+    std::vector<std::string> texts;
+    std::int32_t data;
+  };
+  const Row& rowAt(std::int32_t row) const;
+  std::string& place(std::int32_t row, std::int32_t column);
+
+  void userSelect(std::int32_t row);
+  void userDoubleClick(std::int32_t row);
+  /// What stands in the open editor.
+  void userEditLabel(const std::string& text) { editedText_ = text; }
+  void userEndLabelEdit(bool accept);
+  bool userKey(const KeyDown& key) override;
+  void endEditing() override { userEndLabelEdit(true); }
+
+  std::vector<std::string> columns_;
+  std::vector<Row> rows_;
+  std::int32_t selected_ = -1;
+  bool headings_ = true;
+  bool labelEditable_ = false;
+  bool editing_ = false;
+  std::string editedText_;
+};
+
+}  // namespace forms

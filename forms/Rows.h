@@ -1,0 +1,76 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/Control.h"
+#include "forms/Frame.h"
+#include "forms/Geometry.h"
+
+/// Lays a page out in rows, with the sizes that the front end gives to texts, so that a page fits any font:
+///
+///     layOut({100, 310, 6800, 6000}, {
+///         item(lblBanner),
+///         box(Frame3, {
+///             row({item(ctlImageDisplay, {480, 480}), rest(lblDescription), item(cmdChoose)}),
+///             columns({{item(lblTransport(0)), rest(ctlCommands(0))},
+///                      {item(lblTransport(1)), rest(ctlCommands(1))}}),
+///         }),
+///     });
+///
+/// Hidden controls keep their place, so that nothing moves when they show.
+namespace forms {
+
+/// A piece of a page. Built by the functions below and placed by `layOut`.
+class Block {
+ public:
+  virtual ~Block() = default;
+  /// The width that it takes when it may have any.
+  virtual Twips naturalWidth() const = 0;
+  /// The height that it takes at a width.
+  virtual Twips heightAt(Twips width) const = 0;
+  virtual void place(const Rect& area) const = 0;
+  /// Whether it takes the width that the others of its row leave.
+  virtual bool takesRest() const { return false; }
+};
+
+using Piece = std::shared_ptr<const Block>;
+using Pieces = std::vector<Piece>;
+
+/// A control at its natural size: that of its text, or for a box or list a common one.
+Piece item(Control& control);
+/// A control at a fixed size.
+Piece item(Control& control, Size size);
+/// A control of a fixed width and its natural height.
+Piece wide(Control& control, Twips width);
+/// A control that takes the width that is left; its text is broken into lines.
+Piece rest(Control& control);
+/// A control that takes the width that is left, at a fixed height.
+Piece rest(Control& control, Twips height);
+/// Empty room, across or down as it stands.
+Piece gap(Twips size);
+/// Empty room that takes the width that is left.
+Piece spring();
+
+/// Side by side, centred on one another.
+Piece row(Pieces pieces);
+/// One below the other.
+Piece column(Pieces pieces);
+/// One below the other, moved in from the left.
+Piece indented(Pieces pieces);
+/// Rows whose pieces stand in common columns.
+Piece columns(std::vector<Pieces> rows);
+/// A frame with its contents, one below the other.
+Piece box(Frame& frame, Pieces pieces);
+/// Pieces of which only one is visible at a time, in one place.
+Piece either(Pieces pieces);
+
+/// Places the pieces, one below the other, from the upper left corner of the area. What does not fit below is placed
+/// there all the same. Returns the height used.
+Twips layOut(const Rect& area, Pieces pieces);
+
+/// The size of a control at its own text and font; above a width of 0 its text is broken into lines.
+Size naturalSize(const Control& control, Twips width = 0);
+
+}  // namespace forms

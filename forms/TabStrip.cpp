@@ -1,0 +1,51 @@
+#include "forms/TabStrip.h"
+
+#include <algorithm>
+
+#include "forms/Form.h"
+
+namespace forms {
+
+TabStrip::TabStrip(Container& container, std::string name) : Control(container, std::move(name)) {
+  for (std::size_t i = 0; i < pages_.size(); ++i) pages_[i].caption = "Tab " + std::to_string(i);
+}
+
+const TabStrip::Page& TabStrip::at(std::int16_t page) const {
+  if (page < 0 || page >= pageCount) {
+    throw Error(errors::indexOutOfRange,
+                "The tab strip \"" + name() + "\" has no page " + std::to_string(page) + ".");
+  }
+  return pages_[static_cast<std::size_t>(page)];
+}
+
+TabStrip::Page& TabStrip::at(std::int16_t page) {
+  return const_cast<Page&>(static_cast<const TabStrip*>(this)->at(page));
+}
+
+void TabStrip::setPageCaption(std::int16_t page, const std::string& caption) {
+  set(at(page).caption, caption);
+}
+
+void TabStrip::setPagePicture(std::int16_t page, const Picture& picture) {
+  set(at(page).picture, picture);
+}
+
+void TabStrip::setPageVisible(std::int16_t page, bool visible) { set(at(page).visible, visible); }
+
+void TabStrip::setCurrentPage(std::int16_t page) {
+  at(page);
+  if (form()) form()->focus().endEditing();
+  const std::int16_t previous = current_;
+  if (set(current_, page)) pageChanged.raise(previous);
+}
+
+std::int16_t TabStrip::pageOf(const Control& control) const {
+  const auto found = pageOf_.find(&control);
+  return found == pageOf_.end() ? std::int16_t{-1} : found->second;
+}
+
+std::int16_t TabStrip::rows() const {
+  return static_cast<std::int16_t>((pageCount + tabsPerRow_ - 1) / std::max<int>(1, tabsPerRow_));
+}
+
+}  // namespace forms

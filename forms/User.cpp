@@ -1,0 +1,219 @@
+#include "forms/User.h"
+
+#include <algorithm>
+
+#include "forms/Application.h"
+#include "forms/CommandButton.h"
+#include "forms/DropDownList.h"
+#include "forms/Form.h"
+#include "forms/Label.h"
+#include "forms/ListBox.h"
+#include "forms/ListView.h"
+#include "forms/OptionButton.h"
+#include "forms/TabStrip.h"
+#include "forms/Text.h"
+#include "forms/TextBox.h"
+#include "forms/ToolBar.h"
+
+namespace forms {
+namespace {
+
+constexpr std::int16_t shiftKey = 1;
+constexpr std::int16_t altKey = 4;
+
+/// Whether a click with the mouse takes the focus along. A label leaves it where it is.
+bool takesFocusByMouse(const Control& control) {
+  return control.takesFocus() && control.kind() != Kind::label;
+}
+
+void collectUsable(const Container& container, std::vector<Control*>& found) {
+  for (Control* child : container.children()) {
+    if (!child->isUsable()) continue;
+    found.push_back(child);
+    if (const Container* inner = child->asContainer()) collectUsable(*inner, found);
+  }
+}
+
+Control* findButton(Form& form, bool (CommandButton::*has)() const) {
+  std::vector<Control*> controls;
+  collectUsable(form, controls);
+  for (Control* control : controls) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (button && (button->*has)()) return button;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void User::check(const Control& control) const {
+  if (!control.isUsable()) {
+    throw Refused("\"" + control.name() + "\" is " + (control.isShown() ? "disabled" : "hidden") + ".");
+  }
+  if (control.form() != application_.activeForm()) {
+    throw Refused("\"" + control.name() + "\" lies behind another window.");
+  }
+}
+
+void User::settle() {
+  if (Form* form = application_.activeForm()) form->focus().settle();
+}
+
+/// False when a validation kept the focus.
+bool User::reach(Control& control) {
+  check(control);
+  return !takesFocusByMouse(control) || control.form()->focus().moveByUser(control);
+}
+
+void User::click(Control& control) {
+  if (reach(control)) control.userClick();
+  settle();
+}
+
+void User::press(CommandButton& button, MouseButton mouseButton) {
+  if (reach(button)) button.mouseDown.raise(mouseButton);
+  settle();
+}
+
+bool User::moveFocus(Control& control) {
+  check(control);
+  const bool moved = control.form()->focus().moveByUser(control);
+  settle();
+  return moved;
+}
+
+void User::tab() { press(keys::tab); }
+
+void User::shiftTab() { press(keys::tab, shiftKey); }
+
+void User::type(TextBox& box, const std::string& text) {
+  if (!reach(box)) return;
+  for (const char32_t character : toCodePoints(text)) box.userType(character);
+  settle();
+}
+
+void User::replaceText(TextBox& box, const std::string& text) {
+  if (!reach(box)) return;
+  box.selectAll();
+  box.userInsert(text);
+  settle();
+}
+
+void User::edit(TextBox& box, const std::string& text, std::int32_t caret) {
+  if (reach(box)) box.userEdit(text, caret);
+  settle();
+}
+
+void User::press(std::int16_t code, std::int16_t shift) {
+  Form* form = application_.activeForm();
+  if (!form) return;
+  KeyDown key{code, shift};
+  if (form->keyPreview()) form->keyDown.raise(key);
+  Control* control = form->focus().control();
+  if (key.code != 0 && control) control->keyDown.raise(key);
+  if (key.code != 0 && !(control && control->isUsable() && control->userKey(key))) {
+    pressOnForm(*form, key);
+  }
+  settle();
+}
+
+bool User::pressOnForm(Form& form, const KeyDown& key) {
+  if ((key.shift & altKey) != 0) return pressAccelerator(static_cast<char32_t>(key.code));
+  if (key.code == keys::tab) {
+    return (key.shift & shiftKey) != 0 ? form.focus().moveToPrevious() : form.focus().moveToNext();
+  }
+  Control* button = nullptr;
+  if (key.code == keys::enter) button = findButton(form, &CommandButton::isDefault);
+  if (key.code == keys::escape) button = findButton(form, &CommandButton::isCancel);
+  if (button && form.focus().moveByUser(*button)) button->userClick();
+  return button != nullptr;
+}
+
+bool User::pressAccelerator(char32_t letter) {
+  Form* form = application_.activeForm();
+  if (!form) return false;
+  std::vector<Control*> controls;
+  collectUsable(*form, controls);
+  const auto bearer = std::find_if(controls.begin(), controls.end(), [&](Control* control) {
+    const auto* captioned = dynamic_cast<Captioned*>(control);
+    return captioned && captioned->accelerator() == lowerCase(letter);
+  });
+  if (bearer == controls.end()) return false;
+  if ((*bearer)->kind() != Kind::label || (*bearer)->takesFocus()) {
+    if (!(*bearer)->takesFocus() || form->focus().moveByUser(**bearer)) (*bearer)->userClick();
+  } else {
+    const auto next = std::find_if(bearer, controls.end(), [](Control* c) { return c->isStop(); });
+    if (next != controls.end()) form->focus().moveByUser(**next);
+  }
+  settle();
+  return true;
+}
+
+void User::select(ListBox& list, std::int32_t place) {
+  if (reach(list)) list.userSelect(place);
+  settle();
+}
+
+void User::doubleClick(ListBox& list, std::int32_t place) {
+  if (reach(list)) list.userDoubleClick(place);
+  settle();
+}
+
+void User::select(DropDownList& list, std::int32_t place) {
+  if (reach(list)) list.userSelect(place);
+  settle();
+}
+
+void User::select(ListView& list, std::int32_t row) {
+  if (reach(list)) list.userSelect(row);
+  settle();
+}
+
+void User::doubleClick(ListView& list, std::int32_t row) {
+  if (reach(list)) list.userDoubleClick(row);
+  settle();
+}
+
+void User::editLabel(ListView& list, std::int32_t row, const std::string& text) {
+  if (!list.isLabelEditable()) throw Refused("The labels of \"" + list.name() + "\" can't be edited.");
+  if (!reach(list)) return;
+  list.userSelect(row);
+  list.startLabelEdit();
+  list.userEditLabel(text);
+  list.userEndLabelEdit(true);
+  settle();
+}
+
+void User::labelText(ListView& list, const std::string& text) { list.userEditLabel(text); }
+
+void User::endLabelEdit(ListView& list, bool accept) {
+  list.userEndLabelEdit(accept);
+  settle();
+}
+
+void User::select(TabStrip& strip, std::int16_t page) {
+  check(strip);
+  strip.userSelect(page);
+  settle();
+}
+
+void User::choose(ToolBar& toolBar, const std::string& tag) {
+  const auto& menu = toolBar.menu();
+  const auto entry = std::find_if(menu.begin(), menu.end(), [&](const MenuEntry& candidate) {
+    return candidate.tag == tag && candidate.enabled;
+  });
+  if (entry == menu.end()) {
+    throw Refused("\"" + toolBar.name() + "\" has no entry \"" + tag + "\".");
+  }
+  if (reach(toolBar)) toolBar.userChoose(tag);
+  settle();
+}
+
+bool User::close(Form& form) {
+  if (&form != application_.activeForm()) {
+    throw Refused("The window \"" + form.caption() + "\" lies behind another one.");
+  }
+  return form.unload(UnloadMode::closeBox);
+}
+
+}  // namespace forms

@@ -1,11 +1,15 @@
 #include "forms/Application.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <utility>
 
 #include "forms/Error.h"
 #include "forms/Event.h"
 #include "forms/Form.h"
 #include "forms/Paths.h"
+#include "forms/Text.h"
 
 namespace forms {
 namespace {
@@ -17,37 +21,50 @@ std::string withoutClosingBackslash(std::string folder) {
   return folder;
 }
 
-/// Takes a form off the list of those that are shown, however its wait ends.
-class Shown {
+/// Takes a form off the list of those that run, however its wait ends.
+class Running {
  public:
-  Shown(std::vector<Form*>& forms, Form& form) : forms_(forms), form_(form) {
+  Running(std::vector<Form*>& forms, Form& form) : forms_(forms), form_(form) {
     forms_.push_back(&form_);
   }
-  ~Shown() { std::erase(forms_, &form_); }
-  Shown(const Shown&) = delete;
-  Shown& operator=(const Shown&) = delete;
+  ~Running() { std::erase(forms_, &form_); }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
 
  private:
   std::vector<Form*>& forms_;
   Form& form_;
 };
 
-bool matches(std::string_view name, std::string_view pattern) {
-  if (pattern.empty()) return name.empty();
-  if (pattern.front() == '*') {
-    return matches(name, pattern.substr(1)) || (!name.empty() && matches(name.substr(1), pattern));
+/// A `*` takes as little as it can at first; where the rest then fails, the last one takes a
+/// character more.
+bool matches(std::u32string_view name, std::u32string_view pattern) {
+  std::size_t n = 0;
+  std::size_t p = 0;
+  std::size_t star = std::u32string_view::npos;
+  std::size_t taken = 0;
+  while (n < name.size()) {
+    if (p < pattern.size() && pattern[p] == U'*') {
+      star = p++;
+      taken = n;
+    } else if (p < pattern.size() && (pattern[p] == U'?' || pattern[p] == name[n])) {
+      ++p;
+      ++n;
+    } else if (star != std::u32string_view::npos) {
+      p = star + 1;
+      n = ++taken;
+    } else {
+      return false;
+    }
   }
-  if (name.empty() || (pattern.front() != '?' && pattern.front() != name.front())) return false;
-  return matches(name.substr(1), pattern.substr(1));
+  return pattern.find_first_not_of(U'*', p) == std::u32string_view::npos;
 }
 
-bool anyFileMatches(const std::filesystem::path& pattern) {
-  std::error_code failure;
-  for (const auto& entry : std::filesystem::directory_iterator(pattern.parent_path(), failure)) {
-    if (entry.is_regular_file(failure) &&
-        matches(entry.path().filename().string(), pattern.filename().string())) {
-      return true;
-    }
+bool anyFileMatches(const std::filesystem::path& path) {
+  const std::u32string pattern = toCodePoints(path.filename().string());
+  for (const auto& entry : std::filesystem::directory_iterator(path.parent_path())) {
+    const std::u32string name = toCodePoints(entry.path().filename().string());
+    if (entry.is_regular_file() && matches(name, pattern)) return true;
   }
   return false;
 }
@@ -75,15 +92,21 @@ Application& Application::current() {
 }
 
 void Application::changeFolder(const std::string& folder) {
-  const std::filesystem::path path = toMachinePath(folder);
-  std::error_code failure;
-  if (!std::filesystem::is_directory(path, failure)) {
-    throw Error(errors::pathNotFound, "Path not found: " + folder);
-  }
-  currentFolder_ = fromMachinePath(path);
+  if (!findsFolder(folder)) throw Error(errors::pathNotFound, "Path not found: " + folder);
+  currentFolder_ =
+      withoutClosingBackslash(fromMachinePath(toMachinePath(folder).lexically_normal()));
 }
 
-Form* Application::activeForm() const { return shown_.empty() ? nullptr : shown_.back(); }
+std::vector<Form*> Application::openForms() const {
+  std::vector<Form*> open = running_;
+  std::erase_if(open, [](const Form* form) { return !form->isVisible(); });
+  return open;
+}
+
+Form* Application::activeForm() const {
+  const auto open = openForms();
+  return open.empty() ? nullptr : open.back();
+}
 
 Answer Application::messageBox(const std::string& text, Buttons buttons, Icon icon,
                                const std::string& caption) {
@@ -102,7 +125,7 @@ bool Application::findsFile(std::string_view path) const {
 
 bool Application::findsFolder(std::string_view path) const {
   try {
-    return std::filesystem::is_directory(toMachinePath(path));
+    return !path.empty() && std::filesystem::is_directory(toMachinePath(path));
   } catch (const std::exception&) {
     return false;
   }
@@ -118,10 +141,10 @@ Picture Application::loadPicture(std::string_view path) const {
 void Application::runModal(Form& form, Form* owner) {
   Form* below = owner ? owner : activeForm();
   {
-    const Shown shown(shown_, form);
+    const Running running(running_, form);
     desktop_.runModal(form, below);
   }
-  if (Form* uncovered = activeForm()) uncovered->activateNow();
+  if (Form* uncovered = activeForm()) uncovered->activate();
 }
 
 }  // namespace forms

@@ -21,14 +21,16 @@ class CommandButton : public Captioned {
   bool isFlat() const { return flat_; }
   void setFlat(bool flat) { set(flat_, flat); }
 
-  /// Enter clicks the default button of a form where the focus is on none, Escape its cancel button.
+  /// Enter clicks the default button of a form where the control with the focus has no use for it,
+  /// Escape the cancel button. A click on the cancel button validates nothing.
   bool isDefault() const { return default_; }
   void setDefault(bool isDefault) { set(default_, isDefault); }
   bool isCancel() const { return cancel_; }
   void setCancel(bool isCancel) { set(cancel_, isCancel); }
 
   Event<> click;
-  /// Goes before `click`; a press with the right button raises this alone.
+  /// A mouse button went down on it. The left one goes before `click`; the right one raises this
+  /// alone, and a key none.
   Event<MouseButton> mouseDown;
 
  private:

@@ -9,6 +9,7 @@ namespace forms {
 
 Container::~Container() {
   for (Control* child : children_) {
+    if (child->root_ == this) continue;
     child->container_ = child->root_;
     child->container_->children_.push_back(child);
   }
@@ -22,6 +23,10 @@ bool Container::contains(const Control& control) const {
     container = &holder->container();
   }
   return true;
+}
+
+void Container::readLast(Control& child) {
+  if (std::erase(children_, &child) > 0) children_.push_back(&child);
 }
 
 void Container::adopt(Control& child) {

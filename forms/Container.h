@@ -29,6 +29,9 @@ class Container {
 
   bool contains(const Control& control) const;
 
+  /// Makes a child the last one in the order of reading.
+  void readLast(Control& child);
+
  protected:
   Container() = default;
 

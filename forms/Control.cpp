@@ -9,22 +9,38 @@ namespace forms {
 
 std::string toText(Kind kind) {
   switch (kind) {
-    case Kind::label: return "label";
-    case Kind::textBox: return "text box";
-    case Kind::checkBox: return "check box";
-    case Kind::optionButton: return "option button";
-    case Kind::commandButton: return "button";
-    case Kind::frame: return "frame";
-    case Kind::line: return "line";
-    case Kind::image: return "image";
-    case Kind::listBox: return "list box";
-    case Kind::dropDownList: return "drop-down list";
-    case Kind::listView: return "list view";
-    case Kind::textView: return "text view";
-    case Kind::progressBar: return "progress bar";
-    case Kind::toolBar: return "toolbar";
-    case Kind::tabStrip: return "tab strip";
-    case Kind::userControl: return "user control";
+    case Kind::label:
+      return "label";
+    case Kind::textBox:
+      return "text box";
+    case Kind::checkBox:
+      return "check box";
+    case Kind::optionButton:
+      return "option button";
+    case Kind::commandButton:
+      return "button";
+    case Kind::frame:
+      return "frame";
+    case Kind::line:
+      return "line";
+    case Kind::image:
+      return "image";
+    case Kind::listBox:
+      return "list box";
+    case Kind::dropDownList:
+      return "drop-down list";
+    case Kind::listView:
+      return "list view";
+    case Kind::textView:
+      return "text view";
+    case Kind::progressBar:
+      return "progress bar";
+    case Kind::toolBar:
+      return "toolbar";
+    case Kind::tabStrip:
+      return "tab strip";
+    case Kind::userControl:
+      return "user control";
   }
   return {};
 }
@@ -44,6 +60,12 @@ Control::~Control() {
 Form* Control::form() const { return root_->ownerForm(); }
 
 void Control::setContainer(Container& container) {
+  const Container* inside = asContainer();
+  const Control* holder = container.asControl();
+  if (&container.contentRoot() != root_ || holder == this ||
+      (inside && holder && inside->contains(*holder))) {
+    throw Error(errors::invalidCall, "\"" + name_ + "\" can't be moved into that container.");
+  }
   container_->release(*this);
   container_ = &container;
   container_->adopt(*this);

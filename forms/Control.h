@@ -74,11 +74,12 @@ enum class Kind {
 /// The word for a kind in a listing, such as "text box".
 std::string toText(Kind kind);
 
-/// A control: state and events, and nothing drawn. It belongs to the container that it was created in and to that
-/// container's root; both outlive it, or it tells them that it goes.
+/// A control: state and events, and nothing drawn. It belongs to the container that it was created
+/// in and to that container's root; both outlive it, or it tells them that it goes.
 ///
-/// What the program sets and what a user does are different calls. A setter never looks at `enabled`, `visible` or the
-/// focus and raises exactly what its contract says; what a user does goes through `User`, which obeys all three.
+/// What the program sets and what a user does are different calls. A setter never looks at
+/// `enabled`, `visible` or the focus and raises exactly what its contract says; what a user does
+/// goes through `User`, which obeys all three.
 class Control {
  public:
   Control(Container& container, std::string name);
@@ -88,7 +89,8 @@ class Control {
 
   virtual Kind kind() const = 0;
 
-  /// Unique within the root. A member of a control array is named with its index: "txtDelay(0)".
+  /// Unique within the root: a second control of a name raises Error 457. A member of a control
+  /// array is named with its index: "txtDelay(0)".
   const std::string& name() const { return name_; }
 
   /// This control as what holds others; null for one that holds none.
@@ -96,10 +98,12 @@ class Control {
 
   Container& container() const { return *container_; }
   Root& root() const { return *root_; }
-  /// The form that it stands on, through all user controls; null for a user control that is on none.
+  /// The form that it stands on, through all user controls; null for a user control that is on
+  /// none.
   Form* form() const;
 
-  /// Moves it into another container of the same root.
+  /// Moves it into another container of the same root, to the end of its children. Raises Error 5
+  /// for a container of another root, and for one within the control itself.
   void setContainer(Container& container);
 
   /// The control's own flags. What holds it does not change them: read back, they are what was set.
@@ -113,7 +117,8 @@ class Control {
   /// Whether a user can act on it: shown, and enabled together with all that holds it.
   bool isUsable() const;
 
-  /// Whether Tab comes by it; a control that takes no focus may have it set and Tab still passes it.
+  /// Whether Tab comes by it; a control that takes no focus may have it set and Tab still passes
+  /// it. The False one of a user control keeps Tab from all that it holds.
   bool tabStop() const { return tabStop_; }
   void setTabStop(bool tabStop);
   /// Whether its kind can have the focus at all.
@@ -122,7 +127,8 @@ class Control {
   virtual bool isStop() const { return tabStop_ && takesFocus(); }
   bool hasFocus() const;
 
-  /// Gives it the focus for the program: no validation runs. Raises Error 5 when a user couldn't reach it.
+  /// Gives it the focus for the program: no validation runs. Raises Error 5 when a user couldn't
+  /// reach it.
   void setFocus();
 
   /// In twips, from the inner corner of the container.
@@ -143,7 +149,8 @@ class Control {
   std::int16_t helpContext() const { return helpContext_; }
   void setHelpContext(std::int16_t topic) { helpContext_ = topic; }
 
-  /// What a screen reader calls it where its own text does not; empty: its own text, or that of the label before it.
+  /// What a screen reader calls it where its own text does not; empty: its own text, or that of the
+  /// label before it.
   const std::string& accessibleName() const { return accessibleName_; }
   void setAccessibleName(const std::string& name) { set(accessibleName_, name); }
 

@@ -12,9 +12,11 @@
 
 namespace forms {
 
-/// Controls of one kind under one name, told apart by an index that need not begin at 0 or be without gaps:
+/// Controls of one kind under one name, told apart by an index that need not begin at 0 or be
+/// without gaps:
 ///
-///     forms::ControlArray<forms::TextBox> txtDelay{"txtDelay", {{0, frameCommand}, {1, frameCommand}}};
+///     forms::ControlArray<forms::TextBox> txtDelay{"txtDelay", {{0, frameCommand}, {1,
+///     frameCommand}}};
 template <typename ControlType>
 class ControlArray {
  public:

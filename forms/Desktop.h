@@ -18,7 +18,8 @@ struct FolderDialog {
   std::string initialFolder;
 };
 
-/// What a dialog for one file is opened with. The filter is pairs of a text and a pattern, all separated by "|".
+/// What a dialog for one file is opened with. The filter is pairs of a text and a pattern, all
+/// separated by "|".
 struct FileDialog {
   std::int32_t ownerHandle = 0;
   std::string title;
@@ -31,14 +32,14 @@ struct FileDialog {
 
 enum class MousePointer { standard, hourglass };
 
-/// The one port through which forms reach a screen, or whatever stands in its place: a window system, an unattended run,
-/// a test. It decides nothing: it shows, waits and reports.
+/// The one port through which forms reach a screen, or whatever stands in its place: a window
+/// system, an unattended run, a test. It decides nothing: it shows, waits and reports.
 class Desktop {
  public:
   virtual ~Desktop() = default;
 
-  /// Shows the form over `owner` (null: over nothing), calls its `activateNow` once it is there, and returns when it is
-  /// no longer visible.
+  /// Shows the form over `owner` (null: over nothing), calls its `activateNow` once it is there,
+  /// and returns when it is no longer visible.
   virtual void runModal(Form& form, Form* owner) = 0;
 
   virtual Answer showMessage(const MessageBox& message) = 0;
@@ -60,8 +61,8 @@ class Desktop {
 
   virtual void setMousePointer(MousePointer pointer) = 0;
 
-  /// The size in twips that a text takes. Above a width of 0 it is broken at blanks to stay within that width, as far as
-  /// its words allow.
+  /// The size in twips that a text takes. Above a width of 0 it is broken at blanks to stay within
+  /// that width, as far as its words allow.
   virtual Size textSize(const std::string& text, const Font& font, Twips width) const = 0;
 
   virtual Twips twipsPerPixelX() const = 0;

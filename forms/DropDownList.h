@@ -18,7 +18,8 @@ class DropDownList : public Control {
   bool takesFocus() const override { return true; }
   std::string shownText() const override;
 
-  /// The pictures that items are shown with; null: none. The list is not owned and stays as long as the control.
+  /// The pictures that items are shown with; null: none. The list is not owned and stays as long as
+  /// the control.
   const ImageList* images() const { return images_; }
   void setImages(const ImageList* images) { set(images_, images); }
 
@@ -34,7 +35,8 @@ class DropDownList : public Control {
   std::int32_t find(const std::string& text) const;
 
   std::int32_t selected() const { return selected_; }
-  /// Raises `click` when the selection changes. -1 selects nothing. Raises Error 9 for another place outside.
+  /// Raises `click` when the selection changes. -1 selects nothing. Raises Error 9 for another
+  /// place outside.
   void setSelected(std::int32_t place);
 
   /// Another item is selected, through the user or the program.

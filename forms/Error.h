@@ -7,8 +7,9 @@
 
 namespace forms {
 
-/// What an operation raises that cannot do what it was asked: a number for programs and a description for people.
-/// Event dispatch shows the description of an error that leaves a handler, and goes on.
+/// What an operation raises that cannot do what it was asked: a number for programs and a
+/// description for people. Event dispatch shows the description of an error that leaves a handler,
+/// and goes on.
 class Error : public std::runtime_error {
  public:
   Error(std::int32_t number, const std::string& description)
@@ -36,8 +37,9 @@ inline constexpr std::int32_t noSuchMember = 438;
 inline constexpr std::int32_t nameInUse = 457;
 }  // namespace errors
 
-/// Runs one statement and drops the error that it raises. Errors are ignored statement by statement: what stands
-/// behind the one that failed still runs, so each statement has its own call.
+/// Runs one statement and drops the error that it raises. Errors are ignored statement by
+/// statement: what stands behind the one that failed still runs, so each statement has its own
+/// call.
 template <typename Statement>
 void ignoringErrors(Statement&& statement) {
   try {

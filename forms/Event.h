@@ -9,7 +9,8 @@
 
 namespace forms {
 
-/// Shows the text of an error that left an event handler (critical, OK), or drops it where no application runs.
+/// Shows the text of an error that left an event handler (critical, OK), or drops it where no
+/// application runs.
 void reportHandlerError(const Error& error);
 
 /// Keeps one listener of an event connected; dropping it ends the connection.
@@ -36,8 +37,9 @@ class Subscription {
   std::shared_ptr<bool> connected_;
 };
 
-/// An event of a control, a form or a host object. Handlers run in the order in which they were connected. An error that
-/// leaves one is shown to the user, and the next one runs: raising an event never fails.
+/// An event of a control, a form or a host object. Handlers run in the order in which they were
+/// connected. An error that leaves one is shown to the user, and the next one runs: raising an
+/// event never fails.
 ///
 ///     cmdNext.click.connect([this] { cmdNext_Click(); });
 template <typename... Arguments>

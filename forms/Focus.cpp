@@ -16,14 +16,17 @@ bool holds(Control& control, const Control& target) {
   return container && container->contains(target);
 }
 
-void collectStops(const Container& container, const Control* kept, std::vector<Control*>& stops) {
+/// The stops of a container in their order, and `kept` at its place, whether it is one or not.
+void collectStops(const Container& container, Control* kept, std::vector<Control*>& stops) {
   for (Control* child : container.children()) {
-    if (child == kept) stops.push_back(child);
-    if (!child->isUsable()) continue;
-    if (const Container* inner = child->asContainer()) {
-      if (!asRoot(child) || child->tabStop()) collectStops(*inner, kept, stops);
-    } else if (child != kept && child->isStop()) {
-      stops.push_back(child);
+    const bool usable = child->isUsable();
+    if (child == kept || (usable && child->isStop())) stops.push_back(child);
+    const Container* inner = child->asContainer();
+    if (!inner) continue;
+    if (usable && (!asRoot(child) || child->tabStop())) {
+      collectStops(*inner, kept, stops);
+    } else if (kept && inner->contains(*kept)) {
+      stops.push_back(kept);
     }
   }
 }
@@ -52,7 +55,7 @@ bool Focus::moveByUser(Control& target) {
 
 void Focus::moveByProgram(Control& target) {
   Control* innermost = &target;
-  if (const Container* container = target.asContainer()) {
+  if (const Container* container = target.asContainer(); container && !target.takesFocus()) {
     std::vector<Control*> inside;
     collectStops(*container, nullptr, inside);
     if (!inside.empty()) innermost = inside.front();
@@ -84,11 +87,9 @@ void Focus::settle() {
   Control* current = control();
   if (current && current->isUsable() && current->takesFocus()) return;
   Control* next = stopFrom(current, true);
-  if (next && next != current) {
-    enter(*next, current);
-  } else {
-    activate(nullptr);
-  }
+  if (next && next != current) return enter(*next, current);
+  activate(nullptr);
+  if (current) current->lostFocus.raise();
 }
 
 std::vector<Control*> Focus::stops() const {
@@ -97,8 +98,7 @@ std::vector<Control*> Focus::stops() const {
   return found;
 }
 
-/// `from` keeps its place in the order even when it is no stop itself.
-Control* Focus::stopFrom(const Control* from, bool forward) const {
+Control* Focus::stopFrom(Control* from, bool forward) const {
   std::vector<Control*> order;
   collectStops(form_, from, order);
   if (order.empty()) return nullptr;

@@ -2,20 +2,29 @@
 
 #include "forms/Application.h"
 #include "forms/Guard.h"
+#include "forms/UserControl.h"
 
 namespace forms {
 namespace {
 
 /// What border and title take of the outer size, in twips.
-constexpr Size frameSize{120, 405};
+constexpr Size frameSize{75, 405};
 
 constexpr std::int32_t alreadyShown = 400;
+
+void raisePainted(const Container& container) {
+  for (Control* child : container.children()) {
+    if (auto* control = dynamic_cast<UserControl*>(child)) control->painted.raise();
+    if (const Container* inner = child->asContainer()) raisePainted(*inner);
+  }
+}
 
 }  // namespace
 
 Form::Form(std::string name) : name_(std::move(name)) {}
 
 Form::~Form() {
+  endCreated();  // before the view that draws them
   if (view_) view_->detach();
 }
 
@@ -53,10 +62,10 @@ void Form::load() {
 
 void Form::showModal(Form* owner) {
   if (visible_) throw Error(alreadyShown, "The window \"" + caption_ + "\" is shown already.");
-  visible_ = true;
+  const Guard shown(visible_);
   load();
+  raisePainted(*this);
   if (visible_) Application::current().runModal(*this, owner);
-  visible_ = false;
 }
 
 void Form::hide() {
@@ -77,11 +86,15 @@ bool Form::unload(UnloadMode mode) {
 }
 
 void Form::activateNow() {
+  focus_.settle();
+  activate();
+  focus_.settle();
+}
+
+void Form::activate() {
   if (!visible_ || activating_) return;
   const Guard guard(activating_);
-  focus_.settle();
   activated.raise();
-  focus_.settle();
 }
 
 void Form::changed() {

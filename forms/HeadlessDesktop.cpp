@@ -1,6 +1,8 @@
 #include "forms/HeadlessDesktop.h"
 
 #include <algorithm>
+#include <limits>
+#include <string_view>
 
 #include "forms/Text.h"
 
@@ -9,6 +11,38 @@ namespace {
 
 constexpr Twips characterWidth = 90;
 constexpr Twips textLineHeight = 195;
+
+/// The lines that a text takes, and the characters in the longest one.
+struct Lines {
+  Twips count = 0;
+  Twips longest = 0;
+
+  void add(Twips characters) {
+    ++count;
+    longest = std::max(longest, characters);
+  }
+};
+
+/// Takes what stands before the first separator off the text, and the separator with it.
+std::string_view takeUntil(std::string_view& text, char separator) {
+  const std::string_view part = text.substr(0, text.find(separator));
+  text.remove_prefix(std::min(text.size(), part.size() + 1));
+  return part;
+}
+
+void breakIntoLines(std::string_view paragraph, Twips limit, Lines& lines) {
+  if (length(paragraph) <= limit) return lines.add(length(paragraph));
+  Twips used = 0;
+  while (!paragraph.empty()) {
+    const Twips word = length(takeUntil(paragraph, ' '));
+    if (used > 0 && used + 1 + word > limit) {
+      lines.add(used);
+      used = 0;
+    }
+    used += (used > 0 ? 1 : 0) + word;
+  }
+  lines.add(used);
+}
 
 }  // namespace
 
@@ -20,12 +54,18 @@ void HeadlessDesktop::processEvents() {
   }
 }
 
-Size HeadlessDesktop::textSize(const std::string& text, const Font&, Twips width) const {
-  const Twips natural = length(text) * characterWidth;
-  if (width <= 0 || natural <= width) return {natural, textLineHeight};
-  const Twips perLine = std::max(width / characterWidth, Twips{1});
-  const Twips lines = (length(text) + perLine - 1) / perLine;
-  return {width, lines * textLineHeight};
+Size HeadlessDesktop::textSize(const std::string& text, const Font& font, Twips width) const {
+  const double scale = font.points / Font().points;
+  const auto character = static_cast<Twips>(characterWidth * scale);
+  const Twips limit = width > 0 ? width / character : std::numeric_limits<Twips>::max();
+  Lines lines;
+  std::string_view left = text;
+  do {
+    std::string_view paragraph = takeUntil(left, '\n');
+    if (paragraph.ends_with('\r')) paragraph.remove_suffix(1);
+    breakIntoLines(paragraph, limit, lines);
+  } while (!left.empty());
+  return {lines.longest * character, lines.count * static_cast<Twips>(textLineHeight * scale)};
 }
 
 }  // namespace forms

@@ -6,8 +6,9 @@
 
 namespace forms {
 
-/// What a desktop is without a screen: fixed measures, no help viewer, and a queue in the place of an event loop. What
-/// it takes to answer forms and messages is up to the class that derives from it.
+/// What a desktop is without a screen: fixed measures, no help viewer, and a queue in the place of
+/// an event loop. What it takes to answer forms and messages is up to the class that derives from
+/// it.
 class HeadlessDesktop : public Desktop {
  public:
   std::int32_t showHelp(std::int32_t, const std::string&, std::int16_t) override { return 0; }

@@ -5,8 +5,8 @@
 
 namespace forms {
 
-/// A picture, fitted into its bounds without a change of its proportions. Its tool tip describes it; without one it is
-/// decoration.
+/// A picture, fitted into its bounds without a change of its proportions. Its tool tip describes
+/// it; without one it is decoration.
 class Image : public Control {
  public:
   Image(Container& container, std::string name) : Control(container, std::move(name)) {}

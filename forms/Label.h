@@ -4,8 +4,8 @@
 
 namespace forms {
 
-/// A text. A user can click it. As a link it also takes the focus, and Enter or Space click it; a click with the mouse
-/// leaves the focus where it is.
+/// A text. A user can click it. As a link it also takes the focus, and Enter or Space click it; a
+/// click with the mouse leaves the focus where it is.
 class Label : public Captioned {
  public:
   Label(Container& container, std::string name, std::string caption = {})

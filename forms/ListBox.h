@@ -27,10 +27,12 @@ class ListBox : public Control {
   std::int32_t data(std::int32_t place) const { return item(place).data; }
 
   std::int32_t selected() const { return selected_; }
-  /// Raises `click` when the selection changes. -1 selects nothing. Raises Error 9 for another place outside.
+  /// Raises `click` when the selection changes. -1 selects nothing. Raises Error 9 for another
+  /// place outside.
   void setSelected(std::int32_t place);
 
-  /// An item was selected, by the user or the program; a user's click on the selected one raises it again.
+  /// An item was selected, by the user or the program; a user's click on the selected one raises it
+  /// again.
   Event<> click;
   Event<> doubleClick;
 

@@ -13,6 +13,11 @@ std::string ListView::shownText() const {
   return all;
 }
 
+void ListView::setColumns(const std::vector<std::string>& headings) {
+  for (Row& row : rows_) row.texts.resize(std::max(headings.size(), row.texts.size()));
+  set(columns_, headings);
+}
+
 std::int32_t ListView::addRow(const std::vector<std::string>& texts, std::int32_t data) {
   rows_.push_back({texts, data});
   rows_.back().texts.resize(std::max(columns_.size(), texts.size()));
@@ -94,8 +99,9 @@ void ListView::userEndLabelEdit(bool accept) {
   if (accept) {
     bool cancel = false;
     std::string label = editedText_;
+    const std::int32_t row = selected_;
     afterLabelEdit.raise(cancel, label);
-    if (!cancel) place(selected_, 0) = label;
+    if (!cancel && row < rowCount()) place(row, 0) = label;  // a handler may have removed rows
   }
   changed();
 }

@@ -6,8 +6,8 @@
 
 namespace forms {
 
-/// Rows with columns, of which one row can be selected and the text of the first column edited in place. Rows and
-/// columns count from 0; row -1 is none.
+/// Rows with columns, of which one row can be selected and the text of the first column edited in
+/// place. Rows and columns count from 0; row -1 is none.
 class ListView : public Control {
  public:
   ListView(Container& container, std::string name) : Control(container, std::move(name)) {
@@ -18,7 +18,8 @@ class ListView : public Control {
   bool takesFocus() const override { return true; }
   std::string shownText() const override;
 
-  void setColumns(const std::vector<std::string>& headings) { set(columns_, headings); }
+  /// Rows that are there get the columns that they lack, empty.
+  void setColumns(const std::vector<std::string>& headings);
   const std::vector<std::string>& columns() const { return columns_; }
   bool showsHeadings() const { return headings_; }
   void setShowsHeadings(bool shows) { set(headings_, shows); }
@@ -27,6 +28,8 @@ class ListView : public Control {
 
   /// Adds a row at the end and answers its number. Missing columns are empty.
   std::int32_t addRow(const std::vector<std::string>& texts, std::int32_t data = 0);
+  /// Where the selected row is removed, the one that takes its place is selected, or the new last
+  /// one. Like `clear`, it gives up a label edit and raises nothing.
   void removeRow(std::int32_t row);
   void clear();
   std::int32_t rowCount() const { return static_cast<std::int32_t>(rows_.size()); }
@@ -40,7 +43,8 @@ class ListView : public Control {
   void setSelectedRow(std::int32_t row);
 
   bool isEditing() const { return editing_; }
-  /// Opens the editor of the selected row's label. Nothing happens without a selected row.
+  /// Opens the editor of the selected row's label, also where a user can't. Nothing happens without
+  /// a selected row.
   void startLabelEdit();
 
   Event<> itemClick;

@@ -8,31 +8,43 @@ Answer defaultAnswer(Buttons buttons) {
 
 Answer escapeAnswer(Buttons buttons) {
   switch (buttons) {
-    case Buttons::ok: return Answer::ok;
-    case Buttons::yesNo: return Answer::no;
+    case Buttons::ok:
+      return Answer::ok;
+    case Buttons::yesNo:
+      return Answer::no;
     case Buttons::okCancel:
-    case Buttons::yesNoCancel: break;
+    case Buttons::yesNoCancel:
+      break;
   }
   return Answer::cancel;
 }
 
 std::string toText(Icon icon) {
   switch (icon) {
-    case Icon::none: return "";
-    case Icon::information: return "information";
-    case Icon::question: return "question";
-    case Icon::exclamation: return "exclamation";
-    case Icon::critical: return "critical";
+    case Icon::none:
+      return "";
+    case Icon::information:
+      return "information";
+    case Icon::question:
+      return "question";
+    case Icon::exclamation:
+      return "exclamation";
+    case Icon::critical:
+      return "critical";
   }
   return "";
 }
 
 std::string toText(Answer answer) {
   switch (answer) {
-    case Answer::ok: return "OK";
-    case Answer::cancel: return "Cancel";
-    case Answer::yes: return "Yes";
-    case Answer::no: return "No";
+    case Answer::ok:
+      return "OK";
+    case Answer::cancel:
+      return "Cancel";
+    case Answer::yes:
+      return "Yes";
+    case Answer::no:
+      return "No";
   }
   return "";
 }

@@ -23,8 +23,8 @@ struct MessageBox {
 /// The default button's answer.
 Answer defaultAnswer(Buttons buttons);
 
-/// What Escape and the close box answer: Cancel, or OK where it stands alone. With Yes and No alone they do nothing, and
-/// this is No for a front end that has to end the box.
+/// What Escape and the close box answer: Cancel, or OK where it stands alone. With Yes and No alone
+/// they do nothing, and this is No for a front end that has to end the box.
 Answer escapeAnswer(Buttons buttons);
 
 /// The word for an icon or an answer, such as "critical" and "Yes"; "" for no icon.

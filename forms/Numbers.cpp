@@ -28,8 +28,9 @@ std::size_t skipExponent(std::string_view text, std::size_t at) {
 /// A number too large for a double reads as the largest one, a number too small as 0.
 double outOfRange(std::string_view unsignedNumber) {
   const auto exponent = unsignedNumber.find_first_of("eE");
-  const bool small =
-      exponent != std::string_view::npos && unsignedNumber.find('-', exponent) != std::string_view::npos;
+  const bool small = exponent == std::string_view::npos
+                         ? unsignedNumber.find_first_not_of('0') == unsignedNumber.find('.')
+                         : unsignedNumber[exponent + 1] == '-';
   return small ? 0.0 : std::numeric_limits<double>::max();
 }
 
@@ -66,7 +67,7 @@ double leadingNumber(std::string_view text) {
   double value = 0;
   const auto [stop, status] = std::from_chars(text.data(), text.data() + end, value);
   if (status == std::errc::result_out_of_range) value = outOfRange(text.substr(0, end));
-  return negative ? -value : value;
+  return negative && value != 0 ? -value : value;
 }
 
 double roundedHalfEven(double value) {

@@ -4,17 +4,20 @@
 #include <string>
 #include <string_view>
 
-/// Numbers read from what people type, and kept in their types. The decimal sign is a point in every locale.
+/// Numbers read from what people type, and kept in their types. The decimal sign is a point in
+/// every locale.
 namespace forms {
 
-/// The number at the start of a text: blanks, a sign, digits with at most one point, an exponent. Reading stops at the
-/// first other character; a text without a number reads 0. There are no hexadecimal numbers.
+/// The number at the start of a text: blanks, a sign, digits with at most one point, an exponent.
+/// Reading stops at the first other character; a text without a number reads 0. There are no
+/// hexadecimal numbers.
 double leadingNumber(std::string_view text);
 
 /// The nearest whole number; a half goes to the even one.
 double roundedHalfEven(double value);
 
-/// The nearest whole number, a half to the even one, held at the limits of the type where it does not fit.
+/// The nearest whole number, a half to the even one, held at the limits of the type where it does
+/// not fit.
 std::int16_t toInt16(double value);
 std::int32_t toInt32(double value);
 
@@ -25,7 +28,8 @@ bool fitsInt32(double value);
 /// The absolute value; that of -32768 is 32767.
 std::int16_t absolute(std::int16_t value);
 
-/// Decimal text without blanks: "30", "-5", "2.5". The single precision form has the fewest digits that read back.
+/// Decimal text without blanks: "30", "-5", "2.5". The single precision form has the fewest digits
+/// that read back.
 std::string decimal(std::int32_t value);
 std::string decimal(float value);
 

@@ -17,15 +17,16 @@ class OptionButton : public Captioned {
   bool isStop() const override;
 
   bool isChosen() const { return chosen_; }
-  /// Becoming chosen makes the others of the container not chosen and then raises `click`; becoming not chosen, or
-  /// staying what it was, raises nothing.
+  /// Becoming chosen makes the others of the container not chosen and then raises `click`; becoming
+  /// not chosen, or staying what it was, raises nothing.
   void setChosen(bool chosen);
 
   Event<> click;
 
  private:
   void userClick() override { setChosen(true); }
-  /// Space chooses; an arrow goes to the neighbour that can be used, which takes the focus and is chosen.
+  /// Space chooses; an arrow goes to the neighbour that can be used, which takes the focus and is
+  /// chosen.
   bool userKey(const KeyDown& key) override;
   std::vector<OptionButton*> group() const;
 

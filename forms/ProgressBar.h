@@ -17,7 +17,11 @@ class ProgressBar : public Control {
   }
 
   std::int32_t maximum() const { return maximum_; }
-  void setMaximum(std::int32_t maximum) { set(maximum_, std::max(1, maximum)); }
+  /// At least 1. The value is held within it.
+  void setMaximum(std::int32_t maximum) {
+    set(maximum_, std::max(1, maximum));
+    setValue(value_);
+  }
   std::int32_t value() const { return value_; }
   /// What lies outside is held at the ends.
   void setValue(std::int32_t value) { set(value_, std::clamp(value, 0, maximum_)); }

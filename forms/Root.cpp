@@ -8,7 +8,7 @@ namespace forms {
 
 Root::Root() = default;
 
-Root::~Root() { created_.clear(); }
+Root::~Root() { endCreated(); }
 
 Control* Root::find(std::string_view name) const {
   const auto found = controls_.find(name);
@@ -24,11 +24,9 @@ Control& Root::control(std::string_view name) const {
 }
 
 UserControl& Root::addControl(std::string_view programId, const std::string& name) {
-  if (find(name)) {
-    throw Error(errors::nameInUse, "There is a control \"" + name + "\" already.");
-  }
-  UserControl& control = *(created_[name] = createControl(programId, *this, name));
-  control.initProperties();
+  std::unique_ptr<UserControl> created = createControl(programId, *this, name);
+  created->initProperties();
+  UserControl& control = *(created_[name] = std::move(created));
   if (FormView* view = formView()) view->childAdded(control);
   return control;
 }
@@ -42,13 +40,19 @@ void Root::removeControl(std::string_view name) {
   created_.erase(found);
 }
 
+void Root::endCreated() { created_.clear(); }
+
 bool Root::validateActiveControl() {
   bool cancel = false;
   if (active_) active_->validate.raise(cancel);
   return !cancel;
 }
 
-void Root::enter(Control& control) { controls_[control.name()] = &control; }
+void Root::enter(Control& control) {
+  if (!controls_.try_emplace(control.name(), &control).second) {
+    throw Error(errors::nameInUse, "There is a control \"" + control.name() + "\" already.");
+  }
+}
 
 void Root::leave(Control& control) {
   if (active_ == &control) active_ = nullptr;

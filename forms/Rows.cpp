@@ -11,15 +11,18 @@ constexpr Twips rowGap = 75;
 constexpr Twips columnGap = 90;
 constexpr Twips indentation = 300;
 constexpr Twips boxMargin = 120;
-constexpr Twips boxTop = 240;
-constexpr Twips markWidth = 285;  // the square of a check box or the circle of an option button, with its gap
-constexpr Twips lineHeight = 315;
-constexpr Twips buttonHeight = 375;
+constexpr Twips boxTitleGap = 45;
+constexpr Twips markWidth =
+    285;  // the square of a check box or the circle of an option button, with its gap
+constexpr Twips markHeight = 240;
+constexpr Twips linePadding = 120;     // what the border of a box adds to the height of its text
+constexpr Twips buttonVertical = 180;  // and that of a button
 constexpr Twips smallestButton = 1100;
 constexpr Twips buttonPadding = 330;
 constexpr Twips listWidth = 2400;
-constexpr Twips shortBoxWidth = 570;
+constexpr Twips imageSide = 570;
 constexpr Twips boxWidth = 2400;
+constexpr Twips smallestRest = 900;  // of a box or a list that takes the rest
 
 Size textSize(const Control& control, const std::string& text, Twips width) {
   return Application::current().desktop().textSize(text, control.font(), width);
@@ -27,7 +30,15 @@ Size textSize(const Control& control, const std::string& text, Twips width) {
 
 Size markedSize(const Control& control, Twips width) {
   Size size = textSize(control, control.shownText(), width > 0 ? width - markWidth : 0);
-  return {size.width + markWidth, std::max(size.height, Twips{240})};
+  return {size.width + markWidth, std::max(size.height, markHeight)};
+}
+
+/// The height of a line of text in the control's font.
+Twips textHeight(const Control& control) { return textSize(control, "X", 0).height; }
+
+bool breaksText(const Control& control) {
+  return control.kind() == Kind::label || control.kind() == Kind::checkBox ||
+         control.kind() == Kind::optionButton;
 }
 
 class ItemBlock : public Block {
@@ -38,10 +49,18 @@ class ItemBlock : public Block {
   Twips naturalWidth() const override {
     return fixed_.width > 0 ? fixed_.width : naturalSize(control_).width;
   }
+  Twips smallestWidth() const override {
+    if (fixed_.width > 0) return fixed_.width;
+    if (breaksText(control_)) return naturalSize(control_, markWidth + 1).width;
+    return takesRest_ ? std::min(smallestRest, naturalWidth()) : naturalWidth();
+  }
   Twips heightAt(Twips width) const override {
     return fixed_.height > 0 ? fixed_.height : naturalSize(control_, width).height;
   }
-  void place(const Rect& area) const override { control_.setBounds(area); }
+  void place(const Rect& area) const override {
+    control_.container().readLast(control_);
+    control_.setBounds(area);
+  }
   bool takesRest() const override { return takesRest_; }
 
  private:
@@ -54,14 +73,34 @@ class GapBlock : public Block {
  public:
   GapBlock(Twips size, bool takesRest) : size_(size), takesRest_(takesRest) {}
   Twips naturalWidth() const override { return size_; }
+  Twips smallestWidth() const override { return size_; }
   Twips heightAt(Twips) const override { return takesRest_ ? 0 : size_; }
   void place(const Rect&) const override {}
   bool takesRest() const override { return takesRest_; }
+  bool isGap() const override { return true; }
 
  private:
   Twips size_;
   bool takesRest_;
 };
+
+bool anyTakesRest(const Pieces& pieces) {
+  return std::any_of(pieces.begin(), pieces.end(), [](const Piece& p) { return p->takesRest(); });
+}
+
+/// The widest of pieces that stand below one another, by one of a block's widths.
+Twips widest(const Pieces& pieces, Twips (Block::*width)() const) {
+  Twips found = 0;
+  for (const Piece& piece : pieces) {
+    if (!piece->isGap()) found = std::max(found, (*piece.*width)());
+  }
+  return found;
+}
+
+/// The width that a piece has below others, of those available.
+Twips widthBelow(const Piece& piece, Twips available) {
+  return piece->takesRest() ? available : std::min(available, piece->naturalWidth());
+}
 
 Twips sum(const std::vector<Twips>& values, Twips gapBetween) {
   Twips total = values.empty() ? 0 : gapBetween * static_cast<Twips>(values.size() - 1);
@@ -69,18 +108,41 @@ Twips sum(const std::vector<Twips>& values, Twips gapBetween) {
   return total;
 }
 
-/// Gives what is left to the piece that takes the rest; without one it takes from the widest what is missing.
-void fit(std::vector<Twips>& widths, const std::vector<bool>& takeRest, Twips width) {
-  if (widths.empty()) return;
-  const Twips left = width - sum(widths, columnGap);
-  const auto springy = std::find(takeRest.begin(), takeRest.end(), true);
-  if (springy != takeRest.end()) {
-    Twips& spread = widths[static_cast<std::size_t>(springy - takeRest.begin())];
-    spread = std::max(Twips{0}, spread + left);
-  } else if (left < 0) {
-    Twips& widest = *std::max_element(widths.begin(), widths.end());
-    widest = std::max(Twips{0}, widest + left);
+/// What a column of a grid is, and how far it can give way.
+struct ColumnWidth {
+  Twips width = 0;
+  Twips smallest = 0;
+  bool takesRest = false;
+};
+
+/// The columns in the order in which they give way: the one that takes the rest, then from the
+/// widest on.
+std::vector<ColumnWidth*> byGivingWay(std::vector<ColumnWidth>& columns) {
+  std::vector<ColumnWidth*> order;
+  for (ColumnWidth& column : columns) order.push_back(&column);
+  std::stable_sort(
+      order.begin(), order.end(), [](const ColumnWidth* one, const ColumnWidth* other) {
+        return one->takesRest != other->takesRest ? one->takesRest : one->width > other->width;
+      });
+  return order;
+}
+
+/// The widths that columns have of those available.
+std::vector<Twips> fitted(std::vector<ColumnWidth> columns, Twips available) {
+  Twips left = available + columnGap;
+  for (const ColumnWidth& column : columns) left -= column.width + columnGap;
+  const auto springy = std::find_if(columns.begin(), columns.end(),
+                                    [](const ColumnWidth& column) { return column.takesRest; });
+  if (left > 0 && springy != columns.end()) springy->width += left;
+  for (ColumnWidth* column : byGivingWay(columns)) {
+    if (left >= 0) break;
+    const Twips given = std::clamp(column->width - column->smallest, Twips{0}, -left);
+    column->width -= given;
+    left += given;
   }
+  std::vector<Twips> widths;
+  for (const ColumnWidth& column : columns) widths.push_back(column.width);
+  return widths;
 }
 
 /// Rows of pieces in common columns; a plain row is one of a single row.
@@ -90,17 +152,18 @@ class GridBlock : public Block {
     for (const Pieces& pieces : rows_) columnCount_ = std::max(columnCount_, pieces.size());
   }
 
-  Twips naturalWidth() const override { return sum(naturalWidths(), columnGap); }
+  Twips naturalWidth() const override { return total(&ColumnWidth::width); }
+  Twips smallestWidth() const override { return total(&ColumnWidth::smallest); }
 
   Twips heightAt(Twips width) const override {
-    const auto widths = widthsAt(width);
+    const auto widths = fitted(columns(), width);
     std::vector<Twips> heights;
     for (const Pieces& pieces : rows_) heights.push_back(rowHeight(pieces, widths));
     return sum(heights, rowGap);
   }
 
   void place(const Rect& area) const override {
-    const auto widths = widthsAt(area.width);
+    const auto widths = fitted(columns(), area.width);
     Twips top = area.top;
     for (const Pieces& pieces : rows_) {
       const Twips height = rowHeight(pieces, widths);
@@ -109,39 +172,33 @@ class GridBlock : public Block {
     }
   }
 
-  bool takesRest() const override {
-    return std::any_of(rows_.begin(), rows_.end(), [](const Pieces& pieces) {
-      return std::any_of(pieces.begin(), pieces.end(), [](const Piece& p) { return p->takesRest(); });
-    });
-  }
+  bool takesRest() const override { return std::any_of(rows_.begin(), rows_.end(), anyTakesRest); }
 
  private:
-  std::vector<Twips> naturalWidths() const {
-    std::vector<Twips> widths(columnCount_, 0);
+  std::vector<ColumnWidth> columns() const {
+    std::vector<ColumnWidth> columns(columnCount_);
     for (const Pieces& pieces : rows_) {
       for (std::size_t i = 0; i < pieces.size(); ++i) {
-        widths[i] = std::max(widths[i], pieces[i]->naturalWidth());
+        ColumnWidth& column = columns[i];
+        column.width = std::max(column.width, pieces[i]->naturalWidth());
+        column.smallest = std::max(column.smallest, pieces[i]->smallestWidth());
+        column.takesRest = column.takesRest || pieces[i]->takesRest();
       }
     }
-    return widths;
+    return columns;
   }
 
-  std::vector<Twips> widthsAt(Twips width) const {
-    std::vector<Twips> widths = naturalWidths();
-    std::vector<bool> takeRest(columnCount_, false);
-    for (const Pieces& pieces : rows_) {
-      for (std::size_t i = 0; i < pieces.size(); ++i) {
-        takeRest[i] = takeRest[i] || pieces[i]->takesRest();
-      }
-    }
-    fit(widths, takeRest, width);
-    return widths;
+  template <typename Width>
+  Twips total(Width width) const {
+    std::vector<Twips> widths;
+    for (const ColumnWidth& column : columns()) widths.push_back(column.*width);
+    return sum(widths, columnGap);
   }
 
   static Twips rowHeight(const Pieces& pieces, const std::vector<Twips>& widths) {
     Twips height = 0;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
-      height = std::max(height, pieces[i]->heightAt(widths[i]));
+      if (!pieces[i]->isGap()) height = std::max(height, pieces[i]->heightAt(widths[i]));
     }
     return height;
   }
@@ -150,8 +207,8 @@ class GridBlock : public Block {
     Twips left = area.left;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
       const Twips height = pieces[i]->heightAt(widths[i]);
-      const Twips width = pieces[i]->takesRest() ? widths[i]
-                                                 : std::min(widths[i], pieces[i]->naturalWidth());
+      const Twips width =
+          pieces[i]->takesRest() ? widths[i] : std::min(widths[i], pieces[i]->naturalWidth());
       pieces[i]->place({left, area.top + (area.height - height) / 2, width, height});
       left += widths[i] + columnGap;
     }
@@ -165,28 +222,25 @@ class ColumnBlock : public Block {
  public:
   ColumnBlock(Pieces pieces, Twips indent) : pieces_(std::move(pieces)), indent_(indent) {}
 
-  Twips naturalWidth() const override {
-    Twips width = 0;
-    for (const Piece& piece : pieces_) width = std::max(width, piece->naturalWidth());
-    return width + indent_;
-  }
+  Twips naturalWidth() const override { return widest(pieces_, &Block::naturalWidth) + indent_; }
+  Twips smallestWidth() const override { return widest(pieces_, &Block::smallestWidth) + indent_; }
   Twips heightAt(Twips width) const override {
     std::vector<Twips> heights;
-    for (const Piece& piece : pieces_) heights.push_back(piece->heightAt(width - indent_));
+    for (const Piece& piece : pieces_) {
+      heights.push_back(piece->heightAt(widthBelow(piece, width - indent_)));
+    }
     return sum(heights, rowGap);
   }
   void place(const Rect& area) const override {
     Twips top = area.top;
-    const Twips available = area.width - indent_;
     for (const Piece& piece : pieces_) {
-      const Twips width =
-          piece->takesRest() ? available : std::min(available, piece->naturalWidth());
+      const Twips width = widthBelow(piece, area.width - indent_);
       const Twips height = piece->heightAt(width);
       piece->place({area.left + indent_, top, width, height});
       top += height + rowGap;
     }
   }
-  bool takesRest() const override { return true; }
+  bool takesRest() const override { return anyTakesRest(pieces_); }
 
  private:
   Pieces pieces_;
@@ -197,11 +251,16 @@ class BoxBlock : public Block {
  public:
   BoxBlock(Frame& frame, Pieces pieces) : frame_(frame), contents_(std::move(pieces), 0) {}
 
-  Twips naturalWidth() const override { return contents_.naturalWidth() + 2 * margin(); }
+  Twips naturalWidth() const override {
+    const Twips title = textSize(frame_, frame_.shownText(), 0).width;
+    return std::max(contents_.naturalWidth(), title) + 2 * margin();
+  }
+  Twips smallestWidth() const override { return contents_.smallestWidth() + 2 * margin(); }
   Twips heightAt(Twips width) const override {
     return contents_.heightAt(width - 2 * margin()) + top() + margin();
   }
   void place(const Rect& area) const override {
+    frame_.container().readLast(frame_);
     frame_.setBounds(area);
     contents_.place({margin(), top(), area.width - 2 * margin(), area.height - top() - margin()});
   }
@@ -210,8 +269,7 @@ class BoxBlock : public Block {
  private:
   Twips margin() const { return frame_.hasBorder() ? boxMargin : 0; }
   Twips top() const {
-    if (!frame_.caption().empty()) return boxTop;
-    return margin();
+    return frame_.caption().empty() ? margin() : textHeight(frame_) + boxTitleGap;
   }
 
   Frame& frame_;
@@ -222,22 +280,22 @@ class EitherBlock : public Block {
  public:
   explicit EitherBlock(Pieces pieces) : pieces_(std::move(pieces)) {}
 
-  Twips naturalWidth() const override {
-    Twips width = 0;
-    for (const Piece& piece : pieces_) width = std::max(width, piece->naturalWidth());
-    return width;
-  }
+  Twips naturalWidth() const override { return widest(pieces_, &Block::naturalWidth); }
+  Twips smallestWidth() const override { return widest(pieces_, &Block::smallestWidth); }
   Twips heightAt(Twips width) const override {
     Twips height = 0;
-    for (const Piece& piece : pieces_) height = std::max(height, piece->heightAt(width));
+    for (const Piece& piece : pieces_) {
+      height = std::max(height, piece->heightAt(widthBelow(piece, width)));
+    }
     return height;
   }
   void place(const Rect& area) const override {
     for (const Piece& piece : pieces_) {
-      piece->place({area.left, area.top, area.width, piece->heightAt(area.width)});
+      const Twips width = widthBelow(piece, area.width);
+      piece->place({area.left, area.top, width, piece->heightAt(width)});
     }
   }
-  bool takesRest() const override { return true; }
+  bool takesRest() const override { return anyTakesRest(pieces_); }
 
  private:
   Pieces pieces_;
@@ -277,22 +335,30 @@ Twips layOut(const Rect& area, Pieces pieces) {
 }
 
 Size naturalSize(const Control& control, Twips width) {
+  const Twips lineHeight = textHeight(control) + linePadding;
   switch (control.kind()) {
     case Kind::checkBox:
-    case Kind::optionButton: return markedSize(control, width);
+    case Kind::optionButton:
+      return markedSize(control, width);
     case Kind::commandButton: {
       const Twips text = textSize(control, control.shownText(), 0).width + buttonPadding;
-      return {std::max(text, smallestButton), buttonHeight};
+      return {std::max(text, smallestButton), textHeight(control) + buttonVertical};
     }
-    case Kind::textBox: return {boxWidth, lineHeight};
+    case Kind::textBox:
+      return {boxWidth, lineHeight};
     case Kind::dropDownList:
-    case Kind::userControl: return {listWidth, lineHeight};
+    case Kind::userControl:
+      return {listWidth, lineHeight};
     case Kind::listBox:
     case Kind::listView:
-    case Kind::textView: return {listWidth, 6 * lineHeight};
-    case Kind::image: return {shortBoxWidth, shortBoxWidth};
-    case Kind::progressBar: return {listWidth, lineHeight};
-    default: return textSize(control, control.shownText(), width);
+    case Kind::textView:
+      return {listWidth, 6 * lineHeight};
+    case Kind::image:
+      return {imageSide, imageSide};
+    case Kind::progressBar:
+      return {listWidth, lineHeight};
+    default:
+      return textSize(control, control.shownText(), width);
   }
 }
 

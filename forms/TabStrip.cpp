@@ -7,6 +7,7 @@
 namespace forms {
 
 TabStrip::TabStrip(Container& container, std::string name) : Control(container, std::move(name)) {
+  setTabStop(false);
   for (std::size_t i = 0; i < pages_.size(); ++i) pages_[i].caption = "Tab " + std::to_string(i);
 }
 
@@ -34,9 +35,22 @@ void TabStrip::setPageVisible(std::int16_t page, bool visible) { set(at(page).vi
 
 void TabStrip::setCurrentPage(std::int16_t page) {
   at(page);
+  if (page == current_) return;
   if (form()) form()->focus().endEditing();
   const std::int16_t previous = current_;
   if (set(current_, page)) pageChanged.raise(previous);
+}
+
+bool TabStrip::userKey(const KeyDown& key) {
+  const bool forward = key.code == keys::right || key.code == keys::down;
+  if (!forward && key.code != keys::left && key.code != keys::up) return false;
+  const int step = forward ? 1 : -1;
+  int page = current_ + step;
+  while (page >= 0 && page < pageCount && !pages_[static_cast<std::size_t>(page)].visible) {
+    page += step;
+  }
+  if (page >= 0 && page < pageCount) setCurrentPage(static_cast<std::int16_t>(page));
+  return true;
 }
 
 std::int16_t TabStrip::pageOf(const Control& control) const {
@@ -45,7 +59,10 @@ std::int16_t TabStrip::pageOf(const Control& control) const {
 }
 
 std::int16_t TabStrip::rows() const {
-  return static_cast<std::int16_t>((pageCount + tabsPerRow_ - 1) / std::max<int>(1, tabsPerRow_));
+  const auto visible =
+      std::count_if(pages_.begin(), pages_.end(), [](const Page& page) { return page.visible; });
+  const auto perRow = std::max<std::ptrdiff_t>(1, tabsPerRow_);
+  return static_cast<std::int16_t>(std::max<std::ptrdiff_t>(1, (visible + perRow - 1) / perRow));
 }
 
 }  // namespace forms

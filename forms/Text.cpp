@@ -70,14 +70,31 @@ bool isEvenPair(char32_t c) {
 }
 bool isOddPair(char32_t c) { return isBetween(c, 0x139, 0x148) || isBetween(c, 0x179, 0x17E); }
 
+/// Letters whose other case follows no rule: upper, lower.
+constexpr std::array<std::array<char32_t, 2>, 8> singlePairs{{{0x178, 0xFF},
+                                                              {0x386, 0x3AC},
+                                                              {0x388, 0x3AD},
+                                                              {0x389, 0x3AE},
+                                                              {0x38A, 0x3AF},
+                                                              {0x38C, 0x3CC},
+                                                              {0x38E, 0x3CD},
+                                                              {0x38F, 0x3CE}}};
+
+char32_t otherOfPair(char32_t c, std::size_t from) {
+  for (const auto& pair : singlePairs) {
+    if (pair[from] == c) return pair[1 - from];
+  }
+  return c;
+}
+
 char32_t upperCase(char32_t c) {
   if (isBetween(c, U'a', U'z') || (isBetween(c, 0xE0, 0xFE) && c != 0xF7)) return c - 32;
-  if (isBetween(c, 0x3B1, 0x3C9) && c != 0x3C2) return c - 32;
+  if (isBetween(c, 0x3B1, 0x3CB) && c != 0x3C2) return c - 32;
   if (isBetween(c, 0x430, 0x44F)) return c - 32;
   if (isBetween(c, 0x450, 0x45F)) return c - 80;
   if (isEvenPair(c)) return c & ~char32_t{1};
   if (isOddPair(c) && c % 2 == 0) return c - 1;
-  return c;
+  return otherOfPair(c, 1);
 }
 
 template <typename Change>
@@ -139,12 +156,12 @@ std::string trimmed(std::string_view text) {
 
 char32_t lowerCase(char32_t c) {
   if (isBetween(c, U'A', U'Z') || (isBetween(c, 0xC0, 0xDE) && c != 0xD7)) return c + 32;
-  if (isBetween(c, 0x391, 0x3A9) && c != 0x3A2) return c + 32;
+  if (isBetween(c, 0x391, 0x3AB) && c != 0x3A2) return c + 32;
   if (isBetween(c, 0x410, 0x42F)) return c + 32;
   if (isBetween(c, 0x400, 0x40F)) return c + 80;
   if (isEvenPair(c)) return c | 1U;
   if (isOddPair(c) && c % 2 == 1) return c + 1;
-  return c;
+  return otherOfPair(c, 0);
 }
 
 std::string lowerCase(std::string_view text) {

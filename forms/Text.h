@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// Text is UTF-8. Wherever a number of characters counts it is a number of Unicode code points, and a position counts
-/// them from 0. Bytes that are no UTF-8 count, and read, as one U+FFFD each.
+/// Text is UTF-8. Wherever a number of characters counts it is a number of Unicode code points, and
+/// a position counts them from 0. Bytes that are no UTF-8 count, and read, as one U+FFFD each.
 namespace forms {
 
 std::u32string toCodePoints(std::string_view text);
@@ -23,7 +23,8 @@ std::string withoutLast(std::string_view text, std::int32_t count);
 /// Without the blanks (U+0020) at both ends; other white space stays.
 std::string trimmed(std::string_view text);
 
-/// Upper and lower case of the Latin, Greek and Cyrillic letters that have a single other case.
+/// Upper and lower case of the Latin letters of Latin-1 and Latin Extended-A, and of the Greek and
+/// Cyrillic ones, where there is a single other case. Every other character is left as it is.
 char32_t lowerCase(char32_t codePoint);
 std::string lowerCase(std::string_view text);
 std::string upperCase(std::string_view text);

@@ -34,10 +34,11 @@ void TextBox::userType(char32_t character) {
 
 void TextBox::userInsert(const std::string& inserted) {
   if (readOnly_) return;
+  const std::string line = inserted.substr(0, inserted.find_first_of("\r\n"));
   std::u32string text = toCodePoints(text_);
   text.replace(static_cast<std::size_t>(selectionStart_),
-               static_cast<std::size_t>(selectionLength_), toCodePoints(inserted));
-  userEdit(fromCodePoints(text), selectionStart_ + length(inserted));
+               static_cast<std::size_t>(selectionLength_), toCodePoints(line));
+  userEdit(fromCodePoints(text), selectionStart_ + length(line));
 }
 
 void TextBox::userEdit(const std::string& text, std::int32_t caret) {
@@ -48,6 +49,7 @@ void TextBox::userEdit(const std::string& text, std::int32_t caret) {
   if (limit > 0 && after.size() > limit && after.size() > before.size()) {
     const std::size_t inserted = after.size() - before.size();
     const std::size_t surplus = std::min(inserted, after.size() - limit);
+    // What was put in ends at the caret and begins no earlier than the texts differ.
     const auto end = std::max(static_cast<std::size_t>(std::max(caret, 0)),
                               commonStart(before, after) + surplus);
     const std::size_t from = std::min(end, after.size()) - surplus;

@@ -16,7 +16,8 @@ class TextBox : public Control {
   std::string shownText() const override { return text_; }
 
   const std::string& text() const { return text_; }
-  /// Puts the whole text in, also one over the maximum length, and the caret in front. Raises `change` when it differs.
+  /// Puts the whole text in, also one over the maximum length, and the caret in front. Raises
+  /// `change` when it differs.
   void setText(const std::string& text);
 
   /// The number of characters that a user can get into the box; 0: any number.
@@ -26,8 +27,8 @@ class TextBox : public Control {
   bool isReadOnly() const { return readOnly_; }
   void setReadOnly(bool readOnly) { set(readOnly_, readOnly); }
 
-  /// The caret, or the start of the selection, and the number of characters selected. What lies outside the text is
-  /// held at its ends.
+  /// The caret, or the start of the selection, and the number of characters selected. What lies
+  /// outside the text is held at its ends.
   std::int32_t selectionStart() const { return selectionStart_; }
   std::int32_t selectionLength() const { return selectionLength_; }
   void select(std::int32_t start, std::int32_t count);
@@ -43,7 +44,8 @@ class TextBox : public Control {
 
   /// One character at the caret, through `keyPress`, in the place of the selection.
   void userType(char32_t character);
-  /// A text in the place of the selection, as pasted: `keyPress` is not asked. What passes the maximum is left out.
+  /// The first line of a text in the place of the selection, as pasted: `keyPress` is not asked.
+  /// What passes the maximum is left out.
   void userInsert(const std::string& text);
   /// The box as the user left it after any edit; what was put in is cut at the maximum.
   void userEdit(const std::string& text, std::int32_t caret);

@@ -48,7 +48,8 @@ Control* findButton(Form& form, bool (CommandButton::*has)() const) {
 
 void User::check(const Control& control) const {
   if (!control.isUsable()) {
-    throw Refused("\"" + control.name() + "\" is " + (control.isShown() ? "disabled" : "hidden") + ".");
+    throw Refused("\"" + control.name() + "\" is " + (control.isShown() ? "disabled" : "hidden") +
+                  ".");
   }
   if (control.form() != application_.activeForm()) {
     throw Refused("\"" + control.name() + "\" lies behind another window.");
@@ -59,19 +60,39 @@ void User::settle() {
   if (Form* form = application_.activeForm()) form->focus().settle();
 }
 
-/// False when a validation kept the focus.
+/// False when a validation kept the focus. A wrong value keeps nobody from a cancel button.
+bool User::moveTo(Control& control) {
+  Focus& focus = control.form()->focus();
+  const auto* button = dynamic_cast<const CommandButton*>(&control);
+  if (!button || !button->isCancel()) return focus.moveByUser(control);
+  focus.moveByProgram(control);
+  return true;
+}
+
 bool User::reach(Control& control) {
   check(control);
-  return !takesFocusByMouse(control) || control.form()->focus().moveByUser(control);
+  return !takesFocusByMouse(control) || moveTo(control);
+}
+
+/// What the focus did on its way may have hidden or disabled the control.
+void User::deliverClick(Control& control) {
+  if (control.isUsable()) control.userClick();
 }
 
 void User::click(Control& control) {
-  if (reach(control)) control.userClick();
+  if (reach(control)) {
+    if (auto* button = dynamic_cast<CommandButton*>(&control)) {
+      button->mouseDown.raise(MouseButton::left);
+    }
+    deliverClick(control);
+  }
   settle();
 }
 
 void User::press(CommandButton& button, MouseButton mouseButton) {
-  if (reach(button)) button.mouseDown.raise(mouseButton);
+  if (mouseButton == MouseButton::left) return click(button);
+  check(button);
+  button.mouseDown.raise(mouseButton);
   settle();
 }
 
@@ -88,7 +109,9 @@ void User::shiftTab() { press(keys::tab, shiftKey); }
 
 void User::type(TextBox& box, const std::string& text) {
   if (!reach(box)) return;
-  for (const char32_t character : toCodePoints(text)) box.userType(character);
+  for (const char32_t character : toCodePoints(text)) {
+    if (box.hasFocus()) box.userType(character);
+  }
   settle();
 }
 
@@ -108,25 +131,31 @@ void User::press(std::int16_t code, std::int16_t shift) {
   Form* form = application_.activeForm();
   if (!form) return;
   KeyDown key{code, shift};
-  if (form->keyPreview()) form->keyDown.raise(key);
+  if (form->keyPreview() || !form->focus().control()) form->keyDown.raise(key);
   Control* control = form->focus().control();
   if (key.code != 0 && control) control->keyDown.raise(key);
-  if (key.code != 0 && !(control && control->isUsable() && control->userKey(key))) {
-    pressOnForm(*form, key);
-  }
+  const bool goesOn = key.code != 0 && form == application_.activeForm();
+  if (goesOn && !(control && control->isUsable() && control->userKey(key))) pressOnForm(*form, key);
   settle();
 }
 
-bool User::pressOnForm(Form& form, const KeyDown& key) {
-  if ((key.shift & altKey) != 0) return pressAccelerator(static_cast<char32_t>(key.code));
+void User::pressOnForm(Form& form, const KeyDown& key) {
+  if ((key.shift & altKey) != 0) {
+    pressAccelerator(static_cast<char32_t>(key.code));
+    return;
+  }
   if (key.code == keys::tab) {
-    return (key.shift & shiftKey) != 0 ? form.focus().moveToPrevious() : form.focus().moveToNext();
+    if ((key.shift & shiftKey) != 0) {
+      form.focus().moveToPrevious();
+    } else {
+      form.focus().moveToNext();
+    }
+    return;
   }
   Control* button = nullptr;
   if (key.code == keys::enter) button = findButton(form, &CommandButton::isDefault);
   if (key.code == keys::escape) button = findButton(form, &CommandButton::isCancel);
-  if (button && form.focus().moveByUser(*button)) button->userClick();
-  return button != nullptr;
+  if (button && moveTo(*button)) deliverClick(*button);
 }
 
 bool User::pressAccelerator(char32_t letter) {
@@ -139,8 +168,8 @@ bool User::pressAccelerator(char32_t letter) {
     return captioned && captioned->accelerator() == lowerCase(letter);
   });
   if (bearer == controls.end()) return false;
-  if ((*bearer)->kind() != Kind::label || (*bearer)->takesFocus()) {
-    if (!(*bearer)->takesFocus() || form->focus().moveByUser(**bearer)) (*bearer)->userClick();
+  if ((*bearer)->takesFocus()) {
+    if (moveTo(**bearer)) deliverClick(**bearer);
   } else {
     const auto next = std::find_if(bearer, controls.end(), [](Control* c) { return c->isStop(); });
     if (next != controls.end()) form->focus().moveByUser(**next);
@@ -175,7 +204,8 @@ void User::doubleClick(ListView& list, std::int32_t row) {
 }
 
 void User::editLabel(ListView& list, std::int32_t row, const std::string& text) {
-  if (!list.isLabelEditable()) throw Refused("The labels of \"" + list.name() + "\" can't be edited.");
+  if (!list.isLabelEditable())
+    throw Refused("The labels of \"" + list.name() + "\" can't be edited.");
   if (!reach(list)) return;
   list.userSelect(row);
   list.startLabelEdit();
@@ -192,8 +222,10 @@ void User::endLabelEdit(ListView& list, bool accept) {
 }
 
 void User::select(TabStrip& strip, std::int16_t page) {
-  check(strip);
-  strip.userSelect(page);
+  if (!strip.isPageVisible(page)) {
+    throw Refused("\"" + strip.name() + "\" shows no page " + std::to_string(page) + ".");
+  }
+  if (reach(strip)) strip.setCurrentPage(page);
   settle();
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <any>
 #include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -15,7 +17,8 @@
 
 namespace forms {
 
-using Value = std::variant<std::monostate, bool, std::int16_t, std::int32_t, std::uint32_t, std::string>;
+using Value =
+    std::variant<std::monostate, bool, std::int16_t, std::int32_t, std::uint32_t, std::string>;
 
 /// The property store of a control on a form: what was set when the form was designed.
 class PropertyBag {
@@ -31,7 +34,7 @@ class PropertyBag {
   /// Stores the value, unless it is the default.
   template <typename T>
   void write(const std::string& name, const T& value, const T& byDefault) {
-    order_.push_back(name);
+    if (std::find(order_.begin(), order_.end(), name) == order_.end()) order_.push_back(name);
     if (value == byDefault) {
       values_.erase(name);
     } else {
@@ -39,7 +42,7 @@ class PropertyBag {
     }
   }
 
-  /// The names in the order in which they were written, defaults included.
+  /// The names in the order in which they were first written, defaults included.
   const std::vector<std::string>& order() const { return order_; }
   bool isStored(const std::string& name) const { return values_.contains(name); }
 
@@ -54,9 +57,9 @@ struct ObjectEvent {
   std::vector<Value> parameters;
 };
 
-/// A control that is composed of controls. It is its own extender: position, visibility and tab stop are those of the
-/// `Control` that it is, and `objectEvent` is the extender's generic event. Where its tab stop is False, Tab passes all
-/// that it holds.
+/// A control that is composed of controls. It is its own extender: position, visibility and tab
+/// stop are those of the `Control` that it is, and `objectEvent` is the extender's generic event.
+/// Where its tab stop is False, Tab passes all that it holds.
 class UserControl : public Control, public Root {
  public:
   UserControl(Container& container, std::string name);
@@ -67,13 +70,16 @@ class UserControl : public Control, public Root {
   Form* ownerForm() override { return form(); }
   FormView* formView() override { return root().formView(); }
 
-  /// The last step of its creation: on a form without stored properties, or with those of `bag`.
+  /// The last step of its creation, one of the two: without stored properties, or with those of
+  /// `bag`. `Root::addControl` calls the first; whoever declares the control as a member calls the
+  /// one that it needs.
   virtual void initProperties() {}
   virtual void readProperties(const PropertyBag& /*bag*/) {}
   virtual void writeProperties(PropertyBag& /*bag*/) const {}
 
-  /// Calls a member by its name. Raises Error 438 when the control has no such member, and Error 13 when it takes other
-  /// arguments.
+  /// Calls a member by its name; an argument that comes back is named in the call:
+  /// `call<bool&>("BeforeTabChange", b)`. Raises Error 438 when the control has no such member,
+  /// Error 13 when it takes other arguments, and what the member raises.
   template <typename... Arguments>
   void call(std::string_view member, Arguments... arguments) {
     using Member = std::function<void(Arguments...)>;
@@ -89,9 +95,12 @@ class UserControl : public Control, public Root {
   Event<const std::string&> propertyChanged;
 
  protected:
-  /// Makes a member callable by name: `offer<bool&>("BeforeTabChange", [this](bool& bCancel) { ... })`.
+  /// Makes a member callable by name, with exactly these arguments:
+  ///
+  ///     offer("SetData", [this] { SetData(); });
+  ///     offer<bool&>("BeforeTabChange", [this](bool& bCancel) { BeforeTabChange(bCancel); });
   template <typename... Arguments>
-  void offer(std::string member, std::function<void(Arguments...)> function) {
+  void offer(std::string member, std::type_identity_t<std::function<void(Arguments...)>> function) {
     members_[std::move(member)] = std::move(function);
   }
 

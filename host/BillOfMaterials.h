@@ -41,7 +41,7 @@ class BillOfMaterialsEntry {
 public:
   virtual ~BillOfMaterialsEntry() = default;
   virtual std::int32_t get_Key() const = 0;
-  /// A copy; put back to change it, then BillOfMaterials::UpdateItem.
+  /// A copy; it is put back to change it, and then BillOfMaterials::UpdateItem tells.
   virtual BillOfMaterialsItem get_MainItem() const = 0;
   virtual void put_MainItem(const BillOfMaterialsItem& oItem) = 0;
   virtual std::shared_ptr<BillOfMaterialsParts> get_Parts() const = 0;
@@ -60,7 +60,7 @@ public:
                                      std::int32_t lPartID, std::int16_t iDeviceID) = 0;
   /// False: there is no entry under the key.
   [[nodiscard]] virtual bool RemoveItem(std::int32_t lKey) = 0;
-  /// Takes over a main item that was put. False: there is no entry under the key.
+  /// Tells the windows that show the bill about a main item that was put. False: there is no entry under the key.
   virtual bool UpdateItem(std::int32_t lKey) = 0;
   virtual std::vector<std::shared_ptr<BillOfMaterialsEntry>> Items() const = 0;
 };

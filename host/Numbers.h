@@ -144,6 +144,7 @@ enum enumPicture : std::int16_t {
   pictureInformation = 166,
   pictureMicrophone = 171,
   pictureKestrum = 174,
+  pictureSmallCommand = 31,
   pictureSmallAddIn = 165,
   pictureSmallInformation = 166,
 };

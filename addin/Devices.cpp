@@ -1,0 +1,222 @@
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
+#include "forms/Application.h"
+#include "forms/Numbers.h"
+#include "forms/Text.h"
+
+namespace addin {
+
+/// A device of the fixed cast, as the host adds it.
+struct IAddIn::FixedDevice {
+  std::int16_t iModelID;
+  std::int16_t iControlEntryID;
+  const char* strMaker;
+  const char* strModel;
+  bool bFlag5;
+};
+
+namespace {
+
+constexpr std::int16_t iOccupancyInput = 1;  // the motion detector takes over this digital input
+
+void ShowHostError(const std::string& strText) {
+  forms::Application::current().messageBox(strText, forms::Buttons::ok, forms::Icon::exclamation);
+}
+
+std::string ReceiverName() { return gDocument().get_ControlSystem()->get_Name(); }
+
+std::string InputName(std::int16_t iInput) { return "Digital Input " + forms::decimal(iInput); }
+
+/// The device, if it is in the document under an id of its own.
+std::shared_ptr<host::Device> FindDevice(std::int16_t iDeviceID) {
+  const auto oDevice = gDocument().get_Devices()->ItemByID(iDeviceID);
+  return oDevice && oDevice->get_ID() > 0 ? oDevice : nullptr;
+}
+
+/// Enters the driver's command into the map in which the program looks it up. A driver without one gives an entry with
+/// an empty command, and nobody is warned.
+void SetStandardCommand(host::Device& oDevice, std::int16_t iStandardID) {
+  const auto oCommand = std::make_shared<host::StandardCommand>();
+  oCommand->put_DeviceID(oDevice.get_ID());
+  oCommand->put_StandardID(iStandardID);
+  oCommand->put_CommandName(oDevice.GetDefaultCommandName(iStandardID));
+  oCommand->put_LibraryID(oDevice.get_LibraryID());
+  oCommand->put_Name(forms::decimal(iStandardID));
+  std::string strWarning;
+  oDevice.AddStandardCommand(oCommand, strWarning);
+}
+
+}  // namespace
+
+bool IAddIn::AddFixedDevice(const FixedDevice& device, const std::string& strName,
+                            std::int16_t& iDeviceID) {
+  host::AddDeviceArguments arguments;
+  arguments.strName = strName;
+  arguments.strParentName = ReceiverName();
+  arguments.iModelID = device.iModelID;
+  arguments.iSlot = GetDeviceSlot();
+  arguments.bFlag5 = device.bFlag5;
+  arguments.strMaker = device.strMaker;
+  arguments.strModel = device.strModel;
+  arguments.iControlEntryID = device.iControlEntryID;
+  if (!gOwnerForm().AddDevice(arguments)) {
+    ShowHostError(arguments.strError);
+    return false;
+  }
+  iDeviceID = arguments.iDeviceID;
+  return true;
+}
+
+bool IAddIn::RemoveDevice(std::int16_t iDeviceID) {
+  if (gDocument().RemoveDevice(iDeviceID, host::removalOfDevice)) return true;
+  ShowHostError(gDocument().GetLastError());
+  return false;
+}
+
+void IAddIn::AddPowerRelay() {
+  const FixedDevice relay{host::modelPowerRelay, host::entryPowerRelay, "", "", false};
+  if (AddFixedDevice(relay, "Power Relay", m_iPowerRelayID)) HideDevice(m_iPowerRelayID);
+}
+
+void IAddIn::RemovePowerRelay() {
+  if (m_iPowerRelayID != 0 && RemoveDevice(m_iPowerRelayID)) m_iPowerRelayID = 0;
+}
+
+void IAddIn::AddKestrum() {
+  const FixedDevice kestrum{host::modelKestrum, host::entryKestrum, "Velmondo", "Kestrum", true};
+  if (!AddFixedDevice(kestrum, "Kestrum Interface", m_iKestrumID)) return;
+  const auto oDevice = gDocument().get_Devices()->Item(m_iKestrumID);
+  if (oDevice->get_ID() > 0) {
+    gOwnerForm().SetDeviceIPAddress(oDevice->get_DeviceHandle(), "127.0.0.1");
+  }
+  HideDevice(m_iKestrumID);
+}
+
+/// The motion detector never outlives the monitoring interface.
+void IAddIn::RemoveKestrum() {
+  RemoveDevice(m_iKestrumID);
+  RemoveOccupancySensor();
+  m_iKestrumID = 0;
+}
+
+void IAddIn::AddOccupancySensor() {
+  if (!RemoveDigitalInput(iOccupancyInput)) return;
+  const FixedDevice detector{host::modelMotionDetector, host::entryMotionDetector, "", "", false};
+  if (AddFixedDevice(detector, "Motion Detector", m_iOccupancySensorID)) {
+    HideDevice(m_iOccupancySensorID);
+  }
+}
+
+void IAddIn::RemoveOccupancySensor() {
+  if (m_iOccupancySensorID == 0 || !RemoveDevice(m_iOccupancySensorID)) return;
+  AddDigitalInput(iOccupancyInput);
+  m_iOccupancySensorID = 0;
+}
+
+bool IAddIn::AddDigitalInput(std::int16_t iInput) {
+  const FixedDevice input{host::modelDigitalInput, host::entryDigitalInput, "", "", false};
+  std::int16_t iDeviceID = 0;
+  if (!AddFixedDevice(input, InputName(iInput), iDeviceID)) return false;
+  HideDevice(iDeviceID);
+  return true;
+}
+
+bool IAddIn::RemoveDigitalInput(std::int16_t iInput) {
+  const std::int16_t iDeviceID = GetDigitalInputID(iInput);
+  return iDeviceID == 0 || RemoveDevice(iDeviceID);
+}
+
+std::int16_t IAddIn::GetDigitalInputID(std::int16_t iInput) const {
+  const auto oDevice = gDocument().get_Devices()->FindByName(InputName(iInput), ReceiverName());
+  return oDevice ? oDevice->get_ID() : std::int16_t{0};
+}
+
+void IAddIn::AddFenlet() {
+  const auto oPanel = gOwnerForm().AddInterface(host::modelFenlet,
+                                                gDocument().get_ControlSystem()->get_ID(), "");
+  if (!oPanel) return;
+  oPanel->put_ConnectSlot(GetDeviceSlot());
+  m_iFenletID = oPanel->get_ID();
+}
+
+void IAddIn::RemoveFenlet() {
+  if (m_iFenletID != 0 && !gDocument().RemoveTouchpanel(m_iFenletID, host::removalOfTouchpanel)) {
+    ShowHostError(gDocument().GetLastError());
+  }
+  m_iFenletID = 0;
+}
+
+void IAddIn::HideDevice(std::int16_t iDeviceID) {
+  if (const auto oDevice = gDocument().get_Devices()->ItemByID(iDeviceID)) {
+    oDevice->put_ShowInTree(false);
+  }
+}
+
+void IAddIn::put_DisplayDeviceID(std::int16_t iDeviceID) {
+  m_iDisplayDeviceID = iDeviceID;
+  HideDevice(iDeviceID);
+  if (const auto oDevice = FindDevice(iDeviceID)) {
+    SetStandardCommand(*oDevice, host::scRGB1);
+    SetStandardCommand(*oDevice, host::scVideo1);
+    SetUpPower(iDeviceID);
+  }
+}
+
+/// The power mode that the driver suggests.
+void IAddIn::SetUpPower(std::int16_t iDeviceID) {
+  const auto oDevice = FindDevice(iDeviceID);
+  if (!oDevice) return;
+  SetStandardCommand(*oDevice, host::scOn);
+  SetStandardCommand(*oDevice, host::scOff);
+  if (!oDevice->GetDefaultCommandName(host::scOn).empty() &&
+      !oDevice->GetDefaultCommandName(host::scOff).empty()) {
+    oDevice->put_PowerControlType(host::powerDiscrete);
+    return;
+  }
+  const bool bToggles =
+      oDevice->GetCommandList(host::directionInput, host::signalDigital)->Exists("POWER");
+  oDevice->put_PowerControlType(bToggles ? host::powerSensing : host::powerNone);
+}
+
+void IAddIn::put_ScreenDeviceID(std::int16_t iDeviceID) {
+  m_iScreenDeviceID = iDeviceID;
+  SetUpAuxiliaryDevice(iDeviceID);
+}
+
+void IAddIn::put_LiftDeviceID(std::int16_t iDeviceID) {
+  m_iLiftDeviceID = iDeviceID;
+  SetUpAuxiliaryDevice(iDeviceID);
+}
+
+void IAddIn::SetUpAuxiliaryDevice(std::int16_t iDeviceID) {
+  HideDevice(iDeviceID);
+  if (const auto oDevice = FindDevice(iDeviceID)) {
+    SetStandardCommand(*oDevice, host::scUp);
+    SetStandardCommand(*oDevice, host::scDown);
+  }
+}
+
+std::string IAddIn::GetAuxiliaryDeviceName(std::int16_t eDeviceType) const {
+  if (eDeviceType == adtScreen) return "Screen";
+  return eDeviceType == adtLift ? "Lift" : "";
+}
+
+bool IAddIn::SetDeviceLabel(std::int16_t iDeviceID, const std::string& strLabel) {
+  const auto oDevice = gDocument().get_Devices()->Item(iDeviceID);
+  if (oDevice->get_ID() == 0) return false;
+  if (!forms::equalsIgnoringCase(oDevice->get_Label(), strLabel)) {
+    oDevice->put_Label(strLabel);
+    gDocument().MarkChanged();
+  }
+  return true;
+}
+
+std::int16_t IAddIn::GetStandardCommandIDForPowerControl(std::int16_t ePowerOnOrOff) const {
+  return ePowerOnOrOff == pdOn ? host::scOn : host::scOff;
+}
+
+std::int16_t IAddIn::ShowAddReplaceDeviceDialog(host::DeviceDialogArguments& arguments) {
+  return gOwnerForm().ShowAddReplaceDeviceDialog(arguments);
+}
+
+}  // namespace addin

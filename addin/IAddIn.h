@@ -1,0 +1,232 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "addin/Enumerations.h"
+#include "addin/ProgramBuilder.h"
+#include "addin/WizardWindow.h"
+#include "forms/Event.h"
+#include "forms/MessageBox.h"
+#include "host/IAddInContract.h"
+#include "host/Numbers.h"
+
+namespace addin {
+
+/// The add-in's one creatable class: the contract with the host, the settings of the wizard, the system file, and the
+/// devices of the room. Each concern has a file of its own.
+///
+/// The host creates it by the name that IAddInContract_ClassName gives, calls IAddInContract_Load and then
+/// IAddInContract_Run, which returns when the wizard has closed; both may be called again on the same object.
+class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<IAddIn> {
+ public:
+  IAddIn();
+  ~IAddIn() override;
+
+  // The contract with the host: Contract.cpp.
+  void IAddInContract_Load(const std::shared_ptr<host::Document>& clsDocument,
+                           const std::shared_ptr<host::LibraryManager>& clsLibraryManager,
+                           const std::shared_ptr<host::CommObject>& clsCommObject,
+                           const forms::ImageList& clsListImagesSmall,
+                           const forms::ImageList& clsListImagesLarge,
+                           const std::shared_ptr<host::OwnerForm>& oOwnerForm) override;
+  void IAddInContract_Run(const std::shared_ptr<host::OwnerForm>& oOwnerForm) override;
+  std::string IAddInContract_Title() const override { return "Orlena"; }
+  std::string IAddInContract_ClassName() const override { return "AddInOrlena.IAddIn"; }
+  std::string IAddInContract_GroupName() const override { return ""; }
+  std::string IAddInContract_Description() const override { return GetDescription(); }
+  std::int16_t IAddInContract_Icon() const override { return host::pictureSmallAddIn; }
+  bool IAddInContract_PreviewAvailable() const override { return true; }
+  void IAddInContract_ShowPreview() override;
+  bool IAddInContract_ShowOnNewSystem() const override { return true; }
+  std::string IAddInContract_GetHelpFile() const override { return "Orlena.chm"; }
+  bool IAddInContract_EditInCorvaner() const override { return m_bEditInCorvaner; }
+  std::int16_t IAddInContract_StartupMode() const override { return m_iStartupMode; }
+  void IAddInContract_StartupMode(std::int16_t iMode) override { m_iStartupMode = iMode; }
+  void IAddInContract_UseOpenFile(bool bUseOpenFile) override;
+  std::int32_t IAddInContract_HwndAddIn() const override;
+
+  std::string GetVersion() const { return "3.06.09"; }
+  std::string GetDescription() const;
+  /// The word that marks a system as the wizard's.
+  std::string GetApplicationName() const { return "Orlena"; }
+  /// The program ids of the ten steps in their order.
+  std::vector<std::string> GetTabProgIDs() const;
+  void ShowPreferences();
+  void ShowTestPattern();
+  /// The handle of the application's active form; 0 when there is none.
+  std::int32_t GetActiveWindowHandle() const;
+  void put_iPreviewImage(std::int16_t iImage) { m_iPreviewImage = iImage; }
+
+  // The answers that are stored with the system: Settings.cpp. Times are whole seconds but for the pulse times; check
+  // box values are 1 and 0, and writing any other number stores 0.
+  bool get_VolumeKnobControl() const { return m_strVolumeKnobControl == "1d"; }
+  void put_VolumeKnobControl(bool bMaster);
+  bool get_MicModeControl() const { return m_strMicModeControl == "1d"; }
+  void put_MicModeControl(bool bAlwaysActive);
+  std::int16_t get_bMuteOnDigInp3() const { return m_bMuteOnDigInp3 ? 1 : 0; }
+  void put_bMuteOnDigInp3(std::int16_t iValue) { m_bMuteOnDigInp3 = iValue == 1; }
+  std::int16_t get_bUse3OLReceiver() const { return m_bUse3OLReceiver ? 1 : 0; }
+  void put_bUse3OLReceiver(std::int16_t iValue) { m_bUse3OLReceiver = iValue == 1; }
+  std::int16_t get_bSecondPowerOff() const { return m_bSecondPowerOff ? 1 : 0; }
+  void put_bSecondPowerOff(std::int16_t iValue) { m_bSecondPowerOff = iValue == 1; }
+  const std::string& get_sSecondPowerOff() const { return m_sSecondPowerOff; }
+  void put_sSecondPowerOff(const std::string& sCommand) { m_sSecondPowerOff = sCommand; }
+  std::int16_t get_iSecondPowerOff() const { return m_iSecondPowerOff; }
+  void put_iSecondPowerOff(std::int16_t iSeconds) { m_iSecondPowerOff = iSeconds; }
+  std::int16_t get_PowerRelayOnDelay() const { return m_iPowerRelayOnDelay; }
+  void put_PowerRelayOnDelay(std::int16_t iSeconds) { m_iPowerRelayOnDelay = iSeconds; }
+  std::int16_t get_PowerRelayOffDelay() const { return m_iPowerRelayOffDelay; }
+  void put_PowerRelayOffDelay(std::int16_t iSeconds) { m_iPowerRelayOffDelay = iSeconds; }
+  /// The two lockout times store the absolute value.
+  std::int16_t get_PowerOnLockoutTime() const { return m_iPowerOnLockoutTime; }
+  void put_PowerOnLockoutTime(std::int16_t iSeconds);
+  std::int16_t get_PowerOffLockoutTime() const { return m_iPowerOffLockoutTime; }
+  void put_PowerOffLockoutTime(std::int16_t iSeconds);
+  /// One of enumContactClosure.
+  std::int16_t get_PowerContactClosureOption() const { return m_iPowerContactClosureOption; }
+  void put_PowerContactClosureOption(std::int16_t iOption) { m_iPowerContactClosureOption = iOption; }
+  /// Seconds, kept in hundredths; `intOption` 0 is the screen, 1 the lift. Writing stores the absolute value.
+  float get_PowerOnPulseTime(std::int16_t intOption) const;
+  void put_PowerOnPulseTime(std::int16_t intOption, float sngSeconds);
+  float get_PowerOffPulseTime(std::int16_t intOption) const;
+  void put_PowerOffPulseTime(std::int16_t intOption, float sngSeconds);
+  /// Empty: no password. Writing removes the blanks at both ends.
+  const std::string& get_FenletPassword() const { return m_strFenletPassword; }
+  void put_FenletPassword(const std::string& strPassword);
+  /// 0: the room isn't powered off without motion.
+  std::int16_t get_MotionSensorTimeout() const { return m_iMotionSensorTimeout; }
+  void put_MotionSensorTimeout(std::int16_t iSeconds) { m_iMotionSensorTimeout = iSeconds; }
+
+  // The devices of the room, by their ids in the document; 0: the device isn't in the system. They are not stored but
+  // found again by name.
+  std::int16_t get_ReceiverID() const { return m_iReceiverID; }
+  std::int16_t get_DisplayDeviceID() const { return m_iDisplayDeviceID; }
+  std::int16_t get_PowerRelayID() const { return m_iPowerRelayID; }
+  std::int16_t get_KestrumID() const { return m_iKestrumID; }
+  std::int16_t get_OccupancySensorID() const { return m_iOccupancySensorID; }
+  std::int16_t get_FenletID() const { return m_iFenletID; }
+  std::int16_t get_ScreenDeviceID() const { return m_iScreenDeviceID; }
+  std::int16_t get_LiftDeviceID() const { return m_iLiftDeviceID; }
+  /// `intIndex` is the port, 1 to 3.
+  std::int16_t get_OriginationPointID(std::int16_t intIndex) const;
+  bool HasScreenControl() const { return true; }
+  bool HasLiftControl() const { return true; }
+
+  /// The system's folder has been accepted since it last changed.
+  bool get_FolderChecksOK() const { return m_bFolderChecksOK; }
+  void put_FolderChecksOK(bool bOK) { m_bFolderChecksOK = bOK; }
+
+  // The settings and the document: Persistence.cpp. All answer True.
+  void ResetSettings();
+  bool FileOpen();
+  bool LoadAttributes();
+  bool SaveAttributes();
+
+  // The system file: SystemFile.cpp. False is a failure that the user has been told of, or his own refusal.
+  bool StartSystem();
+  bool NewSystem();
+  bool OpenCurrentSystem();
+  bool OpenSystemFile(bool& bCancelled);
+  /// Writes steps, settings and program into the document and saves it. `bShowWarnings` shows the generator's warnings.
+  bool SaveSystem(bool bShowWarnings, bool bSaveAs);
+  /// The form of SaveSystem that the save button and the question on closing use.
+  bool SaveSystemAs() { return SaveSystem(false, true); }
+  bool CheckSystemLocation();
+  /// Offers to save. True: the caller may go on. `iResponse` takes the answer when there was a question.
+  bool QueryCloseSystem(forms::Answer& iResponse);
+  std::string GetTemplatePath() const;
+  void SetLibraryFilter();
+  bool BuildProgram(bool bShowWarnings, std::string& sError);
+
+  // The devices of the room: Devices.cpp. A failure is shown with the host's text.
+  void AddPowerRelay();
+  void RemovePowerRelay();
+  void AddKestrum();
+  void RemoveKestrum();
+  void AddOccupancySensor();
+  void RemoveOccupancySensor();
+  void AddFenlet();
+  void RemoveFenlet();
+  bool AddDigitalInput(std::int16_t iInput);
+  /// True also when the input isn't there.
+  bool RemoveDigitalInput(std::int16_t iInput);
+  /// 0 when the input isn't there.
+  std::int16_t GetDigitalInputID(std::int16_t iInput) const;
+  void HideDevice(std::int16_t iDeviceID);
+  /// Assigning a device also gives it its standard commands, and the display its starting power mode. 0 clears.
+  void put_DisplayDeviceID(std::int16_t iDeviceID);
+  void put_ScreenDeviceID(std::int16_t iDeviceID);
+  void put_LiftDeviceID(std::int16_t iDeviceID);
+  std::string GetAuxiliaryDeviceName(std::int16_t eDeviceType) const;
+  /// False: there is no such device.
+  bool SetDeviceLabel(std::int16_t iDeviceID, const std::string& strLabel);
+  std::int16_t GetStandardCommandIDForPowerControl(std::int16_t ePowerOnOrOff) const;
+  /// The host's device dialog; the answer is one of host::enumDeviceDialogResult or a device id.
+  std::int16_t ShowAddReplaceDeviceDialog(host::DeviceDialogArguments& arguments);
+
+  /// The usable transmitter types of the library, in its order.
+  std::vector<std::shared_ptr<host::LibraryDevice>> GetLibraryOriginationPoints() const;
+
+ private:
+  struct FixedDevice;
+
+  void LoadImages(const forms::ImageList& clsListImagesSmall,
+                  const forms::ImageList& clsListImagesLarge);
+  void m_clsComm_DisplayHelp(std::int32_t lTopicID);
+
+  /// What a new object and a document without a settings block have in common.
+  void SetStoredDefaults();
+  void FindOriginationPoints();
+  void ChooseNewSystemName();
+  void ShowWarnings(const ErrorItems& colErrorItems) const;
+
+  /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is what it was.
+  bool AddFixedDevice(const FixedDevice& device, const std::string& strName,
+                      std::int16_t& iDeviceID);
+  bool RemoveDevice(std::int16_t iDeviceID);
+  void SetUpDisplay(std::int16_t iDeviceID);
+  void SetUpPower(std::int16_t iDeviceID);
+  void SetUpAuxiliaryDevice(std::int16_t iDeviceID);
+
+  std::shared_ptr<WizardWindow> m_frmAddIn;
+  std::shared_ptr<host::CommObject> m_clsComm;
+  forms::Subscription m_onDisplayHelp;
+  std::int16_t m_iStartupMode = 0;
+  bool m_bUseOpenFile = false;
+  bool m_bEditInCorvaner = false;
+  std::int16_t m_iPreviewImage = previewProduct;
+  bool m_bFolderChecksOK = false;
+
+  std::string m_strVolumeKnobControl;  // "1d", "0d", or empty while never set
+  std::string m_strMicModeControl;
+  bool m_bMuteOnDigInp3 = false;
+  bool m_bUse3OLReceiver = false;
+  bool m_bSecondPowerOff = false;
+  std::string m_sSecondPowerOff;
+  std::int16_t m_iSecondPowerOff = 0;
+  std::int16_t m_iPowerRelayOnDelay = 0;
+  std::int16_t m_iPowerRelayOffDelay = 0;
+  std::int16_t m_iPowerOnLockoutTime = 0;
+  std::int16_t m_iPowerOffLockoutTime = 0;
+  std::int16_t m_iPowerContactClosureOption = contactUnused;
+  std::array<std::int32_t, 2> m_lPowerOnPulseTime{};  // hundredths of a second
+  std::array<std::int32_t, 2> m_lPowerOffPulseTime{};
+  std::string m_strFenletPassword;
+  std::int16_t m_iMotionSensorTimeout = 0;
+
+  std::int16_t m_iReceiverID = 0;
+  std::int16_t m_iDisplayDeviceID = 0;
+  std::int16_t m_iPowerRelayID = 0;
+  std::int16_t m_iKestrumID = 0;
+  std::int16_t m_iOccupancySensorID = 0;
+  std::int16_t m_iFenletID = 0;
+  std::int16_t m_iScreenDeviceID = 0;
+  std::int16_t m_iLiftDeviceID = 0;
+  std::array<std::int16_t, 3> m_iOriginationPointID{};  // by port, the first at 0
+};
+
+}  // namespace addin

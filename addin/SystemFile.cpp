@@ -1,0 +1,156 @@
+#include "addin/IAddIn.h"
+#include "addin/ProgramBuilder.h"
+#include "addin/modGlobals.h"
+#include "common/CommonFunctions.h"
+#include "forms/Application.h"
+#include "forms/Components.h"
+#include "forms/Text.h"
+#include "host/iTab.h"
+
+namespace addin {
+namespace {
+
+using forms::Answer;
+using forms::Buttons;
+using forms::Icon;
+
+constexpr const char* strTemplateName = "Orlena TEMPLATE";
+constexpr const char* strNewSystemName = "My Orlena System";
+constexpr const char* strLocationTab = "Name and Location";
+
+/// The device types of the host's library that a room of the wizard can hold.
+const std::vector<std::int16_t> colFilter{1070, 1992, 1982, 1983, 1071, 1984, 1985,
+                                          1986, 1987, 1988, 1989, 1993, 2494};
+
+Answer Show(const std::string& strText, Icon eIcon, const std::string& strCaption) {
+  return forms::Application::current().messageBox(strText, Buttons::ok, eIcon, strCaption);
+}
+
+std::string SystemFile() { return gDocument().get_Path() + gDocument().get_Name(); }
+
+}  // namespace
+
+bool IAddIn::StartSystem() { return m_bUseOpenFile && IsDocumentSet() ? OpenCurrentSystem() : NewSystem(); }
+
+std::string IAddIn::GetTemplatePath() const {
+  return std::string("TemplateSystems\\") + strTemplateName + "\\" + strTemplateName + ".tsy";
+}
+
+bool IAddIn::NewSystem() {
+  const std::string strTemplate = common::AddBackslash(forms::Application::current().folder()) +
+                                  forms::trimmed(GetTemplatePath());
+  if (IsDocumentSet()) {
+    gDocument().Close();
+    SetDocument(nullptr);
+  }
+  const auto clsDocument = gOwnerForm().FileOpen(strTemplate, /*bUseRecovery=*/false);
+  if (!clsDocument) {
+    Show("Failed to find " + strTemplate + ": Critical Error", Icon::critical,
+         IAddInContract_Title());
+    return false;
+  }
+  SetDocument(clsDocument);
+  ChooseNewSystemName();
+  gDocument().MarkUnchanged();
+  gDocument().get_SystemInfo()->put_LastApplication(GetApplicationName());
+  FileOpen();
+  m_bUseOpenFile = false;
+  return true;
+}
+
+/// The first of "My Orlena System", "My Orlena System 2" and on that has no folder yet.
+void IAddIn::ChooseNewSystemName() {
+  const std::string strFolder = GetDefaultSystemsFolder();
+  std::string strName = strNewSystemName;
+  for (std::int32_t i = 2; common::FolderExists(strFolder + strName); ++i) {
+    strName = strNewSystemName + (" " + std::to_string(i));
+  }
+  gDocument().put_Path(strFolder + strName);
+  gDocument().put_Name(strName);
+}
+
+bool IAddIn::OpenCurrentSystem() {
+  FileOpen();
+  const std::string strApplication = gDocument().get_SystemInfo()->get_LastApplication();
+  if (forms::equalsIgnoringCase(strApplication, GetApplicationName())) return true;
+
+  Show("This file was last saved by the following application: \r\n" + strApplication +
+           "\r\n\r\nTherefore it can not be opened in the Orlena."
+           "\r\n\r\nClick OK to continue with a new Orlena System.",
+       Icon::critical, "Orlena");
+  gOwnerForm().ResetApplicationStatus(gDocument().get_Path(), gDocument().get_Name());
+  return NewSystem();
+}
+
+bool IAddIn::OpenSystemFile(bool& bCancelled) {
+  const auto clsDocument = gOwnerForm().FileOpen(bCancelled);
+  if (bCancelled || !clsDocument) return false;
+  SetDocument(clsDocument);
+  m_bUseOpenFile = true;
+  return OpenCurrentSystem();
+}
+
+bool IAddIn::CheckSystemLocation() {
+  if (m_bFolderChecksOK) return true;
+  for (forms::UserControl* oStep : m_frmAddIn->GetControls()) {
+    const auto* oTab = dynamic_cast<const host::iTab*>(oStep);
+    if (!oTab || !forms::equalsIgnoringCase(oTab->iTab_GetTabName(), strLocationTab)) continue;
+    bool bCancel = false;
+    oStep->call<bool&>("BeforeTabChange", bCancel);
+    if (bCancel) return false;
+  }
+  return true;
+}
+
+bool IAddIn::SaveSystem(bool bShowWarnings, bool bSaveAs) {
+  if (!IsDocumentSet()) return false;
+  const auto clsInfo = gDocument().get_SystemInfo();
+  const bool bProgramWasCurrent = clsInfo->get_ProgramIsCurrent();
+  if (!m_frmAddIn->SaveData()) return false;
+  if (!SaveAttributes()) return false;
+
+  std::string sError;
+  if (!BuildProgram(bShowWarnings, sError)) {
+    Show("Failed to build the system \r\n\r\n" + sError +
+             "\r\n\r\nPlease contact Velmondo for assistance.",
+         Icon::critical, "Orlena");
+  }
+  // Writing the program touches the flag, and a mere save neither changes nor compiles it.
+  clsInfo->put_ProgramIsCurrent(bProgramWasCurrent);
+
+  if (bSaveAs) return gOwnerForm().FileSaveAs(SystemFile(), GetApplicationName());
+  bool bSaved = false;  // not looked at: the caller works with what stands on disk
+  gDocument().Save(SystemFile(), bSaved);
+  return true;
+}
+
+bool IAddIn::BuildProgram(bool bShowWarnings, std::string& sError) {
+  const auto clsGenerate = forms::createObject<ProgramBuilder>(progIDProgramBuilder);
+  const bool bBuilt = clsGenerate->Build();
+  sError = bBuilt ? std::string() : clsGenerate->GetLastError();
+  if (bShowWarnings) ShowWarnings(clsGenerate->GetErrorItems());
+  return bBuilt;
+}
+
+void IAddIn::ShowWarnings(const ErrorItems& colErrorItems) const {
+  if (colErrorItems.empty()) return;
+  std::string strText;
+  for (const auto& oItem : colErrorItems) strText += oItem->get_Message() + "\r\n";
+  Show(strText, Icon::information, {});
+}
+
+bool IAddIn::QueryCloseSystem(Answer& iResponse) {
+  if (!IsDocumentSet()) return true;
+  if (!CheckSystemLocation()) return false;
+  if (!gDocument().get_Modified()) return true;
+  iResponse = forms::Application::current().messageBox(
+      "Do you wish to save the changes you made to the system?", Buttons::yesNoCancel,
+      Icon::question, "Orlena");
+  // Whatever a save answers: the user has been told of a failure, and wants to leave.
+  if (iResponse == Answer::yes) SaveSystemAs();
+  return iResponse != Answer::cancel;
+}
+
+void IAddIn::SetLibraryFilter() { gLibraryManager().get_DeviceTypes()->put_DeviceFilter(colFilter); }
+
+}  // namespace addin

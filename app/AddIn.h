@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "host/IAddInContract.h"
+#include "trellisar/Host.h"
+
+namespace app {
+
+/// The add-in, as a host has it: created by its class name and handed what the host offers.
+class AddIn {
+ public:
+  /// Raises forms::Error when the component has no such class.
+  explicit AddIn(trellisar::Host& host);
+
+  /// Runs the wizard on a new system and returns when its window has closed.
+  void runOnNewSystem();
+  /// As above, on the system that is open in the host.
+  void runOnOpenSystem();
+
+ private:
+  void run(bool useOpenFile);
+
+  trellisar::Host& host_;
+  std::shared_ptr<host::IAddInContract> contract_;
+};
+
+}  // namespace app

@@ -1,0 +1,71 @@
+#include "app/AnswersShape.h"
+
+#include "forms/Text.h"
+
+namespace app {
+namespace {
+
+Shape delaySeconds() { return integer(0, 999); }
+Shape pulseSeconds() { return integer(0, 655); }
+
+Shape auxiliaryDevice() {
+  return object({{"device", text(), Key::required},
+                 {"on", text()},
+                 {"off", text()},
+                 {"on_pulse", pulseSeconds()},
+                 {"off_pulse", pulseSeconds()}});
+}
+
+Shape transmitterLabel() {
+  const auto isTrimmed = [](const std::string& label) { return forms::trimmed(label) == label; };
+  return text(1, 8, isTrimmed, " without blanks at its ends");
+}
+
+Shape password() {
+  const auto isNotBlank = [](const std::string& password) {
+    return password.empty() || !forms::trimmed(password).empty();
+  };
+  return text(0, 20, isNotBlank, ", not of blanks alone");
+}
+
+Shape makeShape() {
+  return object({
+      {"name", text(1, 50)},
+      {"folder", text()},
+      {"display",
+       object({{"device", text()},
+               {"rgb", text()},
+               {"composite", text()},
+               {"relay", object({{"on_delay", delaySeconds()}, {"off_delay", delaySeconds()}})}})},
+      {"audio", object({{"volume_knob", word({"program", "master"})},
+                        {"microphone", word({"when on", "always"})},
+                        {"mute_on_input_3", boolean()}})},
+      {"power",
+       object({{"control", word({"none", "sensing", "discrete"})},
+               {"on", text()},
+               {"off", text()},
+               {"second_off", object({{"command", text(1)}, {"delay", delaySeconds()}})}})},
+      {"lockout", object({{"on", delaySeconds()},
+                          {"off", delaySeconds()},
+                          {"contact", word({"unused", "power off", "continue"})}})},
+      {"screen", auxiliaryDevice()},
+      {"lift", auxiliaryDevice()},
+      {"transmitters",
+       array(3, object({{"type", text(), Key::required}, {"label", transmitterLabel()}}))},
+      {"three_input_receiver", boolean()},
+      {"room", object({{"kestrum", boolean()},
+                       {"fenlet", boolean()},
+                       {"occupancy", boolean()},
+                       {"fenlet_password", password()},
+                       {"power_off_after", integer(0, 546)}})},
+  });
+}
+
+}  // namespace
+
+const Shape& answersShape() {
+  static const Shape shape = makeShape();
+  return shape;
+}
+
+}  // namespace app

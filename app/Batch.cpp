@@ -1,0 +1,50 @@
+#include "app/Batch.h"
+
+#include <algorithm>
+#include <iostream>
+#include <thread>
+
+namespace app {
+
+int Batch::run(const std::vector<Job>& jobs, int parallel) {
+  next_ = 0;
+  printed_ = 0;
+  hasEnded_.assign(jobs.size(), false);
+  results_.assign(jobs.size(), {});
+
+  std::vector<std::jthread> helpers;
+  for (int i = 1; i < std::min(parallel, static_cast<int>(jobs.size())); ++i) {
+    helpers.emplace_back([this, &jobs] { work(jobs); });
+  }
+  work(jobs);
+  helpers.clear();
+
+  int highest = 0;
+  for (const RoomResult& result : results_) highest = std::max(highest, result.status);
+  return highest;
+}
+
+void Batch::work(const std::vector<Job>& jobs) {
+  while (true) {
+    std::size_t mine = 0;
+    {
+      const std::lock_guard lock(mutex_);
+      if (next_ == jobs.size()) return;
+      mine = next_++;
+    }
+    ended(mine, jobs[mine]());
+  }
+}
+
+void Batch::ended(std::size_t job, RoomResult result) {
+  const std::lock_guard lock(mutex_);
+  results_[job] = std::move(result);
+  hasEnded_[job] = true;
+  for (; printed_ < results_.size() && hasEnded_[printed_]; ++printed_) {
+    if (!results_[printed_].systemFile.empty()) {
+      std::cout << results_[printed_].systemFile << std::endl;
+    }
+  }
+}
+
+}  // namespace app

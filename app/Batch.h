@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace app {
+
+/// How a room ended: its exit status, and the path of its saved system, which is empty when there
+/// is none.
+struct RoomResult {
+  int status = 0;
+  std::string systemFile;
+};
+
+/// Rooms in their order, some of them built at the same time.
+class Batch {
+ public:
+  using Job = std::function<RoomResult()>;
+
+  /// Runs the jobs, `parallel` of them at a time, and answers their highest status. The path of
+  /// each saved system is printed as a line once all rooms before it have ended.
+  int run(const std::vector<Job>& jobs, int parallel);
+
+ private:
+  void work(const std::vector<Job>& jobs);
+  void ended(std::size_t job, RoomResult result);
+
+  std::mutex mutex_;
+  std::size_t next_ = 0;
+  std::size_t printed_ = 0;
+  std::vector<bool> hasEnded_;
+  std::vector<RoomResult> results_;
+};
+
+}  // namespace app

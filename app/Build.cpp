@@ -1,0 +1,121 @@
+#include "app/Build.h"
+
+#include <algorithm>
+#include <map>
+
+#include "app/Answers.h"
+#include "app/Batch.h"
+#include "app/Environment.h"
+#include "app/ExitStatus.h"
+#include "app/Interrupt.h"
+#include "app/MadeFolders.h"
+#include "app/Report.h"
+#include "app/Room.h"
+#include "app/RunEnded.h"
+#include "app/StepTable.h"
+#include "forms/Text.h"
+#include "host/Error.h"
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An answers file on its way to a system.
+struct Room {
+  explicit Room(const fs::path& answersFile) : file(answersFile), report(answersFile.string()) {}
+
+  fs::path file;
+  Report report;
+  std::optional<Answers> answers;  // nothing: the file is wrong, which has been told
+  MadeFolders made;
+};
+
+std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
+                            const Report& report) {
+  try {
+    Answers answers = Answers::fromFile(file);
+    refuseAnswersWithoutStep(answers);
+    if (options.out) answers.setFolder(*options.out);
+    return answers;
+  } catch (const RunEnded& ended) {
+    report.line(ended.what());
+    return std::nullopt;
+  }
+}
+
+std::string textAt(const Answers& answers, const char* path) {
+  const trellisar::Json* value = answers.find(path);
+  return value ? value->get<std::string>() : std::string();
+}
+
+/// Where the room's system will lie, as far as it can be known before the wizard has chosen a name.
+fs::path placeOf(const Answers& answers) {
+  const fs::path parent =
+      answers.find("folder") ? fs::path(textAt(answers, "folder")) : defaultSystemsFolder();
+  std::error_code failure;
+  const fs::path whole = fs::weakly_canonical(fs::current_path() / parent, failure);
+  return whole / forms::trimmed(textAt(answers, "name"));
+}
+
+/// False when the rooms can't be built together, which is then told.
+bool canStandTogether(const std::vector<Room>& rooms) {
+  std::map<fs::path, const Room*> places;
+  bool can = true;
+  for (const Room& room : rooms) {
+    if (!room.answers || rooms.size() == 1) continue;
+    if (!room.answers->find("name")) {
+      room.report.line("name: is missing; of several rooms each must have one");
+      can = false;
+      continue;
+    }
+    const auto [place, isNew] = places.emplace(placeOf(*room.answers), &room);
+    if (!isNew) {
+      room.report.line("leads to the same system as " + place->second->file.string() + ": " +
+                       place->first.string());
+      can = false;
+    }
+  }
+  return can;
+}
+
+/// The library that all rooms share; nothing when its index can't be read, which is then told.
+std::shared_ptr<const trellisar::DeviceLibrary> openLibrary(const BuildOptions& options) {
+  try {
+    return std::make_shared<trellisar::DeviceLibrary>(
+        options.library.value_or(dataFolder() / "library"));
+  } catch (const host::Error& error) {
+    reportLine(error.description());
+    return nullptr;
+  }
+}
+
+RoomResult buildOrTell(Room& room, const RoomOptions& options) {
+  if (!room.answers) return {exitStatus::wrongInput, {}};
+  return buildRoom(*room.answers, options, room.report, room.made);
+}
+
+}  // namespace
+
+int build(const BuildOptions& options) {
+  const Interrupt interrupt;
+  std::vector<Room> rooms;
+  for (const fs::path& file : options.answersFiles) {
+    Room& room = rooms.emplace_back(file);
+    room.answers = read(file, options, room.report);
+  }
+  if (!canStandTogether(rooms)) return exitStatus::wrongInput;
+
+  const RoomOptions roomOptions{openLibrary(options), options.replace};
+  if (!roomOptions.library) return exitStatus::wrongInput;
+
+  std::vector<Batch::Job> jobs;
+  for (Room& room : rooms) jobs.emplace_back([&] { return buildOrTell(room, roomOptions); });
+  const int status = Batch().run(jobs, options.jobs);
+  // Only now, since a room that is still being built may be about to use a folder that another one
+  // made.
+  for (const Room& room : rooms) room.made.removeEmpty();
+  return status;
+}
+
+}  // namespace app

@@ -1,0 +1,37 @@
+#include "app/DeviceChoice.h"
+
+#include <algorithm>
+
+#include "app/Shape.h"
+#include "forms/Form.h"
+#include "forms/ListBox.h"
+
+namespace app {
+namespace {
+
+constexpr const char* dialogName = "DeviceDialog";
+
+void choose(forms::Form& dialog, const Page& page, const Answer& answer) {
+  auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
+  std::vector<std::string> offered;
+  for (std::int32_t place = 0; place < list.count(); ++place) offered.push_back(list.text(place));
+  const auto found = std::find(offered.begin(), offered.end(), answer.text());
+  if (found == offered.end()) {
+    page.refuse(answer, offered.empty() ? "the library offers no device for this place"
+                                        : quoted(answer.text()) + " is none of " + quoted(offered));
+  }
+  page.user().select(list, static_cast<std::int32_t>(found - offered.begin()));
+  page.user().click(dialog.control("cmdOK"));
+}
+
+}  // namespace
+
+DeviceChoice::DeviceChoice(const Page& page, const Answer& answer)
+    : desktop_(page.hands().desktop) {
+  desktop_.answerForms(dialogName,
+                       [page, answer](forms::Form& dialog) { choose(dialog, page, answer); });
+}
+
+DeviceChoice::~DeviceChoice() { desktop_.answerForms(dialogName, nullptr); }
+
+}  // namespace app

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+
+#include "trellisar/Preferences.h"
+
+namespace app {
+
+/// What comes with the program: the device library, the pictures, the template of systems.
+std::filesystem::path dataFolder();
+
+/// The user's preferences, for reading: an unattended run leaves no trace in them.
+trellisar::Preferences readOnlyPreferences();
+
+/// The parent folder of systems where nothing else is said.
+std::filesystem::path defaultSystemsFolder();
+
+}  // namespace app

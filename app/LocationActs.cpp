@@ -1,0 +1,77 @@
+#include <system_error>
+
+#include "app/Shape.h"
+#include "app/StepTable.h"
+#include "forms/CommandButton.h"
+#include "forms/Paths.h"
+#include "forms/Text.h"
+#include "forms/TextBox.h"
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string folderFrom(const Page& page, const Answer& answer) {
+  try {
+    return forms::fromMachinePath((fs::current_path() / answer.text()).lexically_normal());
+  } catch (const forms::Error& error) {
+    page.refuse(answer, error.description());
+  }
+}
+
+/// The parent folder of the system: the location box without its last name.
+std::string parentOf(std::string location) {
+  location.pop_back();
+  return forms::folderOf(location);
+}
+
+std::string withBackslash(const std::string& folder) {
+  return folder.ends_with('\\') ? folder : folder + "\\";
+}
+
+Act chooseParentFolder(std::string answer, std::string button, std::string location) {
+  return {std::move(answer),
+          [button](const Page& page, const Answer& given) {
+            page.hands().desktop.answerFolders(folderFrom(page, given));
+            page.user().click(page.usable<forms::CommandButton>(button, given));
+            page.hands().desktop.answerFolders({});
+          },
+          [location](const Page& page, const Answer& given) {
+            return parentOf(page.control<forms::TextBox>(location).text()) ==
+                   withBackslash(folderFrom(page, given));
+          }};
+}
+
+/// Where the wizard is about to save.
+fs::path systemFile(const Page& page) {
+  const std::string folder = page.control<forms::TextBox>("txtLocation").text();
+  const std::string typed = forms::trimmed(page.control<forms::TextBox>("txtSystemName").text());
+  const std::string current = page.hands().document().get_Name();
+  // A name that differs from the document's in case alone leaves the document's as it is.
+  const std::string& name = forms::equalsIgnoringCase(typed, current) ? current : typed;
+  return forms::toMachinePath(folder + name + ".tsy");
+}
+
+void refuseExistingSystem(const Page& page) {
+  const fs::path file = systemFile(page);
+  page.hands().made.expect(file.parent_path());
+  std::error_code failure;
+  if (!page.hands().mayReplace && fs::exists(file, failure)) {
+    throw RunEnded(exitStatus::refused,
+                   "there is a system already: " + file.string() + "; --replace replaces it");
+  }
+}
+
+}  // namespace
+
+StepActs locationActs() {
+  return {"Name and Location",
+          {
+              enter("name", "txtSystemName"),
+              chooseParentFolder("folder", "cmdBrowse", "txtLocation"),
+          },
+          refuseExistingSystem};
+}
+
+}  // namespace app

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "forms/MessageBox.h"
+
+namespace app {
+
+/// What a run tells on standard error. Every line begins with the answers file that it is about;
+/// the lines of one message stay together, also when rooms are built side by side.
+class Report {
+ public:
+  explicit Report(std::string subject) : subject_(std::move(subject)) {}
+
+  void line(const std::string& text) const;
+  /// A message box: its caption, then its text.
+  void message(const forms::MessageBox& message) const;
+
+ private:
+  std::string subject_;
+};
+
+/// A line of standard error that is about no file.
+void reportLine(const std::string& text);
+
+}  // namespace app

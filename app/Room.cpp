@@ -1,0 +1,53 @@
+#include "app/Room.h"
+
+#include "app/AddIn.h"
+#include "app/Environment.h"
+#include "app/ExitStatus.h"
+#include "app/Interrupt.h"
+#include "app/SystemPlace.h"
+#include "app/WizardRun.h"
+#include "forms/Application.h"
+#include "forms/Paths.h"
+#include "trellisar/Host.h"
+
+namespace app {
+namespace {
+
+/// Runs the wizard and answers the path of the saved system. Raises RunEnded.
+std::string runWizard(const Answers& answers, const RoomOptions& options, const Report& report,
+                      MadeFolders& made) {
+  UnattendedDesktop desktop(report);
+  forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
+  trellisar::Host host(
+      {.dataFolder = dataFolder(),
+       .library = options.library,
+       .replacing = options.replace ? trellisar::Replacing::always : trellisar::Replacing::never});
+  host.preferences() = readOnlyPreferences();
+
+  forms::User user(application);
+  Hands hands{user, desktop, host, made, options.replace};
+  WizardRun run(answers, hands);
+  desktop.answerForms("frmAddIn", [&](forms::Form& wizard) { run.drive(wizard); });
+  AddIn(host).runOnNewSystem();
+  desktop.throwIfEnded();
+  if (!run.savedFile()) throw RunEnded(exitStatus::refused, "the wizard could not be started");
+  return run.savedFile()->string();
+}
+
+}  // namespace
+
+RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const Report& report,
+                     MadeFolders& made) {
+  try {
+    if (Interrupt::requested()) throw RunEnded(exitStatus::refused, "interrupted");
+    return {exitStatus::ok, runWizard(answers, options, report, made)};
+  } catch (const RunEnded& ended) {
+    report.line(ended.what());
+    return {ended.status(), {}};
+  } catch (const std::exception& error) {
+    report.line(error.what());
+    return {exitStatus::refused, {}};
+  }
+}
+
+}  // namespace app

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+
+#include "app/Answers.h"
+#include "app/Batch.h"
+#include "app/MadeFolders.h"
+#include "app/Report.h"
+#include "trellisar/DeviceLibrary.h"
+
+namespace app {
+
+struct RoomOptions {
+  std::shared_ptr<const trellisar::DeviceLibrary> library;
+  bool replace = false;  // an existing system may be replaced
+};
+
+/// Runs the wizard once with a room's answers, unattended, on this thread. What it tells goes to
+/// the report; the folders that it may have made go to `made`.
+RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const Report& report,
+                     MadeFolders& made);
+
+}  // namespace app

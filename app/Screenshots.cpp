@@ -1,0 +1,202 @@
+#ifdef ORLENA_QT
+
+#include "app/Screenshots.h"
+
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <system_error>
+
+#include "app/AddIn.h"
+#include "app/Environment.h"
+#include "app/ExitStatus.h"
+#include "app/Report.h"
+#include "forms/Application.h"
+#include "forms/ListBox.h"
+#include "forms/Paths.h"
+#include "forms/TextBox.h"
+#include "forms/User.h"
+#include "forms/UserControl.h"
+#include "qt/QtDesktop.h"
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A window on which a script acts in the place of a person, and which can be drawn at any moment.
+class DrawnDesktop : public qt::QtDesktop {
+ public:
+  using Script = std::function<void(forms::Form&)>;
+
+  DrawnDesktop(int argc, char** argv, const fs::path& folder)
+      : QtDesktop(argc, argv), folder_(folder) {}
+
+  /// What is done with the forms of this name from now on.
+  void act(const std::string& formName, Script script) { scripts_[formName] = std::move(script); }
+
+  void draw(const forms::Form& form, const std::string& name) {
+    processEvents();
+    if (!saveScreenshot(form, folder_ / (name + ".png"))) {
+      throw std::runtime_error("the picture \"" + name + "\" can't be written");
+    }
+  }
+
+  const std::string& failure() const { return failure_; }
+
+  void runModal(forms::Form& form, forms::Form* owner) override {
+    runLater([this, &form] { run(form); });
+    QtDesktop::runModal(form, owner);
+  }
+  forms::Answer showMessage(const forms::MessageBox& message) override {
+    return forms::defaultAnswer(message.buttons);
+  }
+
+ private:
+  void run(forms::Form& form) {
+    try {
+      scripts_.at(form.name())(form);
+    } catch (const std::exception& error) {
+      if (failure_.empty()) failure_ = form.name() + ": " + error.what();
+    }
+    if (form.isVisible()) form.hide();
+  }
+
+  fs::path folder_;
+  std::map<std::string, Script> scripts_;
+  std::string failure_;
+};
+
+/// A walk through the wizard that stops for a picture in every state that a step has.
+class Walk {
+ public:
+  Walk(forms::Application& application, DrawnDesktop& desktop)
+      : user_(application), desktop_(desktop) {
+    desktop_.act("frmAddIn", [this](forms::Form& wizard) { go(wizard); });
+    desktop_.act("DeviceDialog", [this](forms::Form& dialog) { choose(dialog); });
+    desktop_.act("DevicePropertiesDialog",
+                 [this](forms::Form& dialog) { desktop_.draw(dialog, "device-properties"); });
+    desktop_.act("frmPreview", [this](forms::Form& form) { desktop_.draw(form, preview_); });
+  }
+
+ private:
+  static constexpr int display = 2;
+  static constexpr int power = 4;
+
+  void go(forms::Form& wizard) {
+    wizard_ = &wizard;
+    draw("0-start");
+    preview_ = "preview-product";
+    click(0, "lblPreview");
+    for (const char* name : {"1-location", "2-display-none", "3-audio", "4-power-no-display",
+                             "5-lockout", "6-options", "7-transmitters", "8-room", "9-finish"}) {
+      user_.click(wizard.control("cmdNext"));
+      draw(name);
+    }
+    drawDisplay();
+    drawPower();
+  }
+
+  void drawDisplay() {
+    enterStep(display);
+    chooseDisplay("Bravonne P2200");
+    draw("2-display-chosen");
+    click(display, "chkPowerRelay");
+    draw("2-display-relay");
+    click(display, "cmdProperties");
+  }
+
+  void drawPower() {
+    enterStep(power);
+    draw("4-power-discrete");
+    click(power, "chkSecondOff");
+    draw("4-power-second-off");
+    click(power, "optPower(0)");
+    draw("4-power-none");
+    preview_ = "preview-wiring";
+    click(power, "lblDiagram");
+    enterStep(display);
+    chooseDisplay("Quenlowe K32");
+    enterStep(power);
+    draw("4-power-sensing");
+  }
+
+  forms::UserControl& tabs() const {
+    return dynamic_cast<forms::UserControl&>(wizard_->control("ctlTabs"));
+  }
+
+  void click(int step, const std::string& control) {
+    auto& page = dynamic_cast<forms::UserControl&>(tabs().control("ctl" + std::to_string(step)));
+    user_.click(page.control(control));
+  }
+
+  /// Goes back as far as it can and then forward to the step.
+  void enterStep(int step) {
+    while (wizard_->control("cmdBack").isEnabled()) user_.click(wizard_->control("cmdBack"));
+    for (int i = 0; i < step; ++i) user_.click(wizard_->control("cmdNext"));
+  }
+
+  void chooseDisplay(const std::string& device) {
+    device_ = device;
+    click(display, "cmdChoose");
+  }
+
+  void choose(forms::Form& dialog) {
+    auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
+    for (std::int32_t place = 0; place < list.count(); ++place) {
+      if (list.text(place) == device_) user_.select(list, place);
+    }
+    desktop_.draw(dialog, "device-dialog");
+    user_.click(dialog.control("cmdOK"));
+  }
+
+  void draw(const std::string& name) { desktop_.draw(*wizard_, name); }
+
+  forms::User user_;
+  DrawnDesktop& desktop_;
+  forms::Form* wizard_ = nullptr;
+  std::string device_;
+  std::string preview_;
+};
+
+/// The walk leaves a folder behind, as every wizard that goes past its second step; here it is a
+/// temporary one.
+class TemporarySystems {
+ public:
+  TemporarySystems() {
+    std::string pattern = (fs::temp_directory_path() / "orlena-XXXXXX").string();
+    if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder can be made");
+    folder_ = pattern;
+    setenv("TRELLISAR_SYSTEMS", pattern.c_str(), 1);
+  }
+  ~TemporarySystems() {
+    std::error_code failure;
+    fs::remove_all(folder_, failure);
+  }
+  TemporarySystems(const TemporarySystems&) = delete;
+  TemporarySystems& operator=(const TemporarySystems&) = delete;
+
+ private:
+  fs::path folder_;
+};
+
+}  // namespace
+
+int drawSteps(const fs::path& folder) {
+  fs::create_directories(folder);
+  const TemporarySystems systems;
+  char name[] = "orlena";
+  char* arguments[] = {name, nullptr};
+  DrawnDesktop desktop(1, arguments, folder);
+  forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
+  trellisar::Host host({.dataFolder = dataFolder()});
+  const Walk walk(application, desktop);
+  AddIn(host).runOnNewSystem();
+  if (desktop.failure().empty()) return exitStatus::ok;
+  reportLine(desktop.failure());
+  return exitStatus::refused;
+}
+
+}  // namespace app
+
+#endif

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <filesystem>
+
+namespace app {
+
+/// Runs the wizard in a window, goes through its steps in each of their states and writes a PNG of
+/// every one to the folder. Answers the exit status.
+int drawSteps(const std::filesystem::path& folder);
+
+}  // namespace app

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "trellisar/Json.h"
+
+namespace app {
+
+struct Key;
+
+/// What a value of a file may be, as a literal that reads like the file's description:
+///
+///     object({{"label", text(1, 8)}, {"type", text(), Key::required}})
+struct Shape {
+  enum class Kind { text, word, integer, boolean, object, array };
+
+  Kind kind = Kind::object;
+  /// Of an integer its limits, of a text its number of characters, of an array that of its
+  /// elements.
+  std::int64_t minimum = 0;
+  std::int64_t maximum = 0;
+  std::vector<std::string> words;
+  /// Of an object its keys, of an array the shape of its elements under an empty name.
+  std::vector<Key> keys;
+  /// What a text must be besides, and the words that say so; empty: nothing.
+  std::function<bool(const std::string&)> accepts;
+  std::string acceptsWhat;
+};
+
+struct Key {
+  static constexpr bool required = true;
+
+  std::string name;
+  Shape shape;
+  bool isRequired = false;
+};
+
+inline constexpr std::int64_t noLimit = INT64_MAX;
+
+Shape text(std::int64_t minimum = 0, std::int64_t maximum = noLimit);
+/// `what` ends the sentence "must be a text of 1 to 8 characters".
+Shape text(std::int64_t minimum, std::int64_t maximum,
+           std::function<bool(const std::string&)> accepts, std::string what);
+Shape word(std::vector<std::string> words);
+Shape integer(std::int64_t minimum, std::int64_t maximum);
+Shape boolean();
+Shape object(std::vector<Key> keys);
+Shape array(std::int64_t maximum, Shape element);
+
+/// Compares a value with its shape, from the first key to the last. Raises RunEnded with status 2
+/// at the first difference; its text names the place and what is allowed there:
+///
+///     lockout.contact: "opened" is none of "unused", "power off", "continue"
+void check(const trellisar::Json& value, const Shape& shape, const std::string& path = {});
+
+/// The texts in quotation marks, with commas between.
+std::string quoted(const std::vector<std::string>& texts);
+std::string quoted(const std::string& text);
+
+}  // namespace app

@@ -1,0 +1,25 @@
+#include "app/Show.h"
+
+#include <iostream>
+
+#include "app/ExitStatus.h"
+#include "app/Report.h"
+#include "host/Error.h"
+#include "trellisar/Listing.h"
+#include "trellisar/SystemFile.h"
+
+namespace app {
+
+int show(const ShowOptions& options) {
+  try {
+    const auto document = trellisar::readSystemFile(options.systemFile, nullptr);
+    std::cout << (options.asJson ? trellisar::jsonText(trellisar::listing(*document))
+                                 : trellisar::readableText(*document));
+    return exitStatus::ok;
+  } catch (const host::Error& error) {
+    reportLine(error.description());
+    return exitStatus::wrongInput;
+  }
+}
+
+}  // namespace app

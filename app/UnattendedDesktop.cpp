@@ -1,0 +1,40 @@
+#include "app/UnattendedDesktop.h"
+
+#include "app/ExitStatus.h"
+#include "forms/Form.h"
+
+namespace app {
+
+void UnattendedDesktop::end(const RunEnded& reason) {
+  if (!ended_) ended_ = reason;
+}
+
+void UnattendedDesktop::throwIfEnded() const {
+  if (ended_) throw RunEnded(*ended_);
+}
+
+void UnattendedDesktop::runModal(forms::Form& form, forms::Form*) {
+  form.activateNow();
+  if (form.isVisible()) answer(form);
+  if (form.isVisible()) form.hide();
+}
+
+void UnattendedDesktop::answer(forms::Form& form) {
+  const auto answers = answers_.find(form.name());
+  if (hasEnded() || answers == answers_.end() || !answers->second) return;
+  try {
+    answers->second(form);
+  } catch (const RunEnded& ended) {
+    end(ended);
+  } catch (const std::exception& error) {
+    end(RunEnded(exitStatus::refused, error.what()));
+  }
+}
+
+forms::Answer UnattendedDesktop::showMessage(const forms::MessageBox& message) {
+  report_.message(message);
+  if (message.icon == forms::Icon::critical) sawCritical_ = true;
+  return forms::defaultAnswer(message.buttons);
+}
+
+}  // namespace app

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+namespace app {
+
+/// Opens the wizard's window, on a new system or on a saved one, and answers the exit status when
+/// it has closed.
+int openWizard(const std::optional<std::filesystem::path>& systemFile);
+
+struct ScreenshotOptions {
+  std::filesystem::path out;
+};
+
+/// Draws the wizard's steps in their states into PNG files. Answers the exit status.
+int takeScreenshots(const ScreenshotOptions& options);
+
+}  // namespace app

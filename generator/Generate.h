@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "addin/ProgramBuilder.h"
+#include "generator/Steps.h"
+#include "host/Document.h"
+
+namespace generator {
+
+/// Turns the answers of the wizard into the room's control program: it reads the settings of the
+/// add-in and writes presets, signals and properties of the open document. What it writes it
+/// empties first, so that a run can be repeated; it never creates a named preset.
+///
+/// One object for each run. An operation answers whether it succeeded; a failure may leave its text
+/// in GetLastError, where it stays for the rest of the run. Steps of a preset count from 1. Power
+/// operations take one of addin::enumPowerDiscrete; whatever is not pdOff counts as pdOn.
+class Generate : public addin::ProgramBuilder {
+ public:
+  /// Runs the sub-builders in their order; the first that fails ends the run.
+  [[nodiscard]] bool Build() override;
+  std::string GetLastError() const override { return m_strLastError; }
+  const addin::ErrorItems& GetErrorItems() const override { return m_colErrorItems; }
+
+ private:
+  using PresetPtr = std::shared_ptr<host::Preset>;
+  using DevicePtr = std::shared_ptr<host::Device>;
+  using SignalPtr = std::shared_ptr<host::Signal>;
+
+  /// Writes the steps of a branch; its answer is that of the operation which made the branch.
+  using BranchWriter = std::function<bool(host::Preset& branch)>;
+
+  // Warnings, and the five texts of a failure, each of which answers False: Generate.cpp.
+  void ClearErrorItems();
+  void AddErrorItem(const std::string& sMessage, std::int16_t iSeverity);
+  bool Fail(const std::string& sText);
+  bool CannotFindSequence(const std::string& sPreset);
+  bool CannotFindPreset(const std::string& sPreset);
+  bool CannotFindCommand(const std::string& sCommand, const host::Device& device);
+  bool FailedToFind(const std::string& sProperty);
+  bool FailedToSetProperty(const std::string& sProperty, const std::string& sValue);
+
+  // The toolbox, presets: ToolboxPresets.cpp. What is looked up is nothing when absent.
+  static PresetPtr FindPreset(const std::string& sName);
+  [[nodiscard]] static bool AddStep(host::Preset& preset, std::int16_t iIndex, const NewStep& step);
+  /// A step at the end, whose result is not looked at.
+  static void AppendStep(host::Preset& preset, const NewStep& step);
+  /// Enables or disables every panel without a project of its own, at the end. False without a
+  /// preset.
+  [[nodiscard]] static bool AddInterfaceEnableSteps(bool bDisable, const PresetPtr& preset);
+  static std::shared_ptr<host::Step> MakeConditionStep(const host::StepCondition& test);
+  [[nodiscard]] static bool InsertBranch(host::Preset& preset, std::int16_t iIndex,
+                                         const host::StepCondition& test,
+                                         const BranchWriter& writeBranch);
+  [[nodiscard]] static bool AppendBranch(host::Preset& preset, const host::StepCondition& test,
+                                         const BranchWriter& writeBranch);
+
+  // The toolbox, events of signals: ToolboxEvents.cpp. Events are those of host::enumSignalEvent.
+  static SignalPtr FindOutput(std::int16_t iDeviceID, const std::string& sOutputName);
+  static PresetPtr EventPreset(const host::Signal& signal, std::int16_t iEvent);
+  static void EnableEvents(const host::Signal& signal);
+  static void ClearEvents(const host::Signal& signal);
+  /// Makes a command all that the event does. False with nothing changed for a command without a
+  /// name, and with the event left empty when the device or its command is not there.
+  [[nodiscard]] bool AddCommandToEvent(const host::Signal& signal, std::int16_t iEvent,
+                                       const NewStep& command);
+  /// Puts the call of a preset in front of what the event does; with bClear it is all that the
+  /// event does.
+  [[nodiscard]] static bool AddPresetCallToEvent(const host::Signal& signal, std::int16_t iEvent,
+                                                 const std::string& sPreset, bool bClear);
+  /// As AddPresetCallToEvent, for a digital output, which becomes event driven.
+  [[nodiscard]] static bool ConnectEventToGlobalPreset(std::int16_t iDeviceID,
+                                                       const std::string& sOutputName,
+                                                       std::int16_t iEvent,
+                                                       const std::string& sPreset, bool bClear);
+
+  // The toolbox, commands of the drivers: ToolboxCommands.cpp. Empty: there is no such device or
+  // command.
+  static std::string GetDeviceCommandName(std::int16_t iDeviceID, std::int16_t iStandardCommand);
+  static std::string GetSourceCommandName(std::int16_t iStandardCommand);
+  static std::string GetAuxiliaryCommandName(std::int16_t iDeviceID, std::int16_t ePowerOnOrOff);
+
+  // The four power presets: PowerProgramming.cpp.
+  [[nodiscard]] bool BuildPowerProgramming();
+  [[nodiscard]] bool ClearPowerPreset(std::int16_t ePowerOnOrOff);
+  [[nodiscard]] bool BuildLinkSystemToDisplayPower(std::int16_t ePowerOnOrOff);
+  [[nodiscard]] bool BuildAuxiliaryDevicePower(std::int16_t ePowerOnOrOff);
+  [[nodiscard]] bool AddAuxiliaryPulseStep(std::int16_t iAuxiliaryDevice,
+                                           std::int16_t ePowerOnOrOff);
+  [[nodiscard]] bool BuildReceiverPowerEvents();
+  [[nodiscard]] bool BuildReceiverPowerOff();
+  [[nodiscard]] bool AddReceiverPowerStep(std::int16_t ePowerOnOrOff);
+  [[nodiscard]] bool BuildKestrumPowerFeedback();
+  [[nodiscard]] bool AddKestrumPowerFeedbackStep(std::int16_t ePowerOnOrOff);
+
+  // The display's own power: DisplayPower.cpp.
+  [[nodiscard]] bool BuildDisplayPowerPresets();
+  [[nodiscard]] bool BuildDisplayPowerControl(std::int16_t ePowerOnOrOff);
+  [[nodiscard]] bool BuildPowerOnSwitching();
+  [[nodiscard]] bool AddDiscretePowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iDeviceID);
+  void WarnOfMissingPowerCommand(std::int16_t ePowerOnOrOff, std::int16_t iDeviceID);
+  static void AppendRelayCloseSteps(host::Preset& preset);
+  static void AppendRelayOpenSteps(host::Preset& preset);
+  static void AppendSecondPowerOffSteps(host::Preset& preset);
+
+  // The display's power with a power sensor: PowerSensing.cpp.
+  [[nodiscard]] bool BuildSensedPower(std::int16_t ePowerOnOrOff, DevicePtr display,
+                                      host::BillOfMaterialsEntry* bill);
+  [[nodiscard]] bool AddSensedPowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iModuleID);
+  /// The id of the module, 0 on failure. Replaces `device` by the device as it is with the module.
+  [[nodiscard]] std::int16_t AddPowerSensingModule(DevicePtr& device);
+  std::int16_t GetPowerSensorHandle();
+
+  // What the display shows: DisplaySwitching.cpp.
+  /// Without a command there is nothing to write, which is a success.
+  [[nodiscard]] static bool BuildPowerOnSwitchingCommand(const PresetPtr& preset,
+                                                         const std::string& sCommand,
+                                                         const std::string& sFeedbackSignal);
+
+  std::string m_strLastError;
+  addin::ErrorItems m_colErrorItems;
+  std::int16_t m_iSensorHandle = 0;  // 0 until it is first asked for
+};
+
+}  // namespace generator

@@ -1,0 +1,70 @@
+#include "addin/modGlobals.h"
+#include "generator/Generate.h"
+#include "host/Numbers.h"
+
+namespace generator {
+namespace {
+
+std::int16_t SignalTypeOf(std::int16_t iStepKind) {
+  switch (iStepKind) {
+    case host::stepAnalog:
+      return host::signalAnalog;
+    case host::stepSerial:
+      return host::signalSerial;
+    default:
+      return host::signalDigital;
+  }
+}
+
+}  // namespace
+
+Generate::SignalPtr Generate::FindOutput(std::int16_t iDeviceID, const std::string& sOutputName) {
+  return addin::gDocument().get_Signals()->Find(iDeviceID, sOutputName, "", host::signalDigital);
+}
+
+Generate::PresetPtr Generate::EventPreset(const host::Signal& signal, std::int16_t iEvent) {
+  return signal.GetEvent(iEvent)->get_Preset();
+}
+
+void Generate::EnableEvents(const host::Signal& signal) {
+  if (const auto options = signal.get_Options()) options->EnableEvents(host::eventsAll, true);
+}
+
+void Generate::ClearEvents(const host::Signal& signal) {
+  EventPreset(signal, host::eventHigh)->ClearSteps();
+  EventPreset(signal, host::eventLow)->ClearSteps();
+}
+
+bool Generate::AddCommandToEvent(const host::Signal& signal, std::int16_t iEvent,
+                                 const NewStep& command) {
+  if (command.sSignalName.empty()) return false;
+  const auto preset = EventPreset(signal, iEvent);
+  preset->ClearSteps();
+  const auto iDeviceID = static_cast<std::int16_t>(command.lTargetID);
+  const auto device = addin::gDocument().get_Devices()->ItemByID(iDeviceID);
+  if (!device) return false;
+  if (!device->HasSignal(command.sSignalName, host::directionInput, SignalTypeOf(command.iKind))) {
+    return CannotFindCommand(command.sSignalName, *device);
+  }
+  return AddStep(*preset, 1, command);
+}
+
+bool Generate::AddPresetCallToEvent(const host::Signal& signal, std::int16_t iEvent,
+                                    const std::string& sPreset, bool bClear) {
+  if (sPreset.empty()) return false;
+  const auto event = EventPreset(signal, iEvent);
+  if (bClear) event->ClearSteps();
+  const auto called = FindPreset(sPreset);
+  return called && AddStep(*event, 1, Call(*called));
+}
+
+bool Generate::ConnectEventToGlobalPreset(std::int16_t iDeviceID, const std::string& sOutputName,
+                                          std::int16_t iEvent, const std::string& sPreset,
+                                          bool bClear) {
+  const auto signal = FindOutput(iDeviceID, sOutputName);
+  if (!signal || !AddPresetCallToEvent(*signal, iEvent, sPreset, bClear)) return false;
+  signal->put_SourceType(host::sourceEvents);
+  return true;
+}
+
+}  // namespace generator

@@ -1,0 +1,93 @@
+#include "qt/LabelAdapter.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionFocusRect>
+
+#include "qt/Conversions.h"
+
+namespace qt {
+namespace {
+
+constexpr int borderMargin = 3;
+
+}  // namespace
+
+/// Draws its text itself, since a QLabel shows the mark of an accelerator as it is written where it
+/// has no buddy.
+class LabelWidget : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  void showLabel(const forms::Label& label) {
+    caption_ = linesToQt(label.caption());
+    link_ = label.isLink();
+    bordered_ = label.hasBorder();
+    setText(toQt(label.shownText()));  // what a screen reader finds
+    setAutoFillBackground(label.backColor() != forms::colors::buttonFace);
+    if (link_ && label.isEnabled()) {
+      setCursor(Qt::PointingHandCursor);
+    } else {
+      unsetCursor();
+    }
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    if (bordered_) {
+      painter.setPen(palette().color(QPalette::Mid));
+      painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    const int margin = bordered_ ? borderMargin : 0;
+    const QRect area = rect().adjusted(margin, margin, -margin, -margin);
+    drawText(painter, area);
+    if (hasFocus()) drawFocus(painter, area);
+  }
+
+ private:
+  static constexpr int flags =
+      Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic;
+
+  void drawText(QPainter& painter, const QRect& area) const {
+    QFont font = painter.font();
+    font.setUnderline(font.underline() || link_);
+    painter.setFont(font);
+    style()->drawItemText(&painter, area, flags, palette(), isEnabled(), caption_,
+                          link_ && isEnabled() ? QPalette::Link : QPalette::WindowText);
+  }
+
+  void drawFocus(QPainter& painter, const QRect& area) {
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    const QRect text = painter.boundingRect(area, flags, caption_);
+    option.rect = text.adjusted(-1, 0, 1, 0).intersected(rect());
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+  }
+
+  QString caption_;
+  bool link_ = false;
+  bool bordered_ = false;
+};
+
+LabelAdapter::LabelAdapter(forms::Label& label, const Place& place)
+    : Adapter(label, place, new LabelWidget(&place.parent)),
+      label_(label),
+      widget_(static_cast<LabelWidget*>(widget())) {
+  widget_->setTextFormat(Qt::PlainText);
+  if (label.hasBorder()) widget_->lower();  // it frames what stands before it
+}
+
+void LabelAdapter::show() { widget_->showLabel(label_); }
+
+bool LabelAdapter::mouseReleased(QWidget& part, QMouseEvent& event) {
+  const bool inside = part.rect().contains(event.position().toPoint());
+  if (event.button() == Qt::LeftButton && inside && label_.isUsable()) {
+    act([this](forms::User& user) { user.click(label_); });
+  }
+  return true;
+}
+
+}  // namespace qt

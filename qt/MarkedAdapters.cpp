@@ -1,0 +1,118 @@
+#include "qt/MarkedAdapters.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionButton>
+#include <QtWidgets/QStyleOptionFocusRect>
+#include <QtWidgets/QStylePainter>
+#include <algorithm>
+
+#include "qt/Conversions.h"
+
+namespace qt {
+namespace {
+
+constexpr int textLeft = 19;
+constexpr int textFlags =
+    Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
+
+/// Beside the first line of the text.
+QRect markRect(const QWidget& button, const QRect& text, QStyle::PixelMetric metric) {
+  const int size = button.style()->pixelMetric(metric, nullptr, &button);
+  const int line = std::min(text.height(), button.fontMetrics().height());
+  return {0, text.top() + (line - size) / 2, size, size};
+}
+
+/// A button with a mark whose text may take several lines, which Qt's own can't.
+template <typename Button>
+class Marked : public Button {
+ public:
+  using Button::Button;
+
+  void showCaption(const forms::Captioned& control) {
+    const QString caption = toQt(control.caption());
+    if (this->text() != caption) this->setText(caption);
+    this->setAutoFillBackground(control.backColor() != forms::colors::buttonFace);
+  }
+
+ protected:
+  bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
+
+  void paintEvent(QPaintEvent*) override {
+    constexpr bool isCheck = std::is_same_v<Button, QCheckBox>;
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    this->initStyleOption(&option);
+    const QRect area = this->rect().adjusted(textLeft, 0, 0, 0);
+    const QRect text = painter.boundingRect(area, textFlags, this->text());
+    option.rect =
+        markRect(*this, text.isEmpty() ? area : text,
+                 isCheck ? QStyle::PM_IndicatorHeight : QStyle::PM_ExclusiveIndicatorHeight);
+    painter.drawPrimitive(isCheck ? QStyle::PE_IndicatorCheckBox : QStyle::PE_IndicatorRadioButton,
+                          option);
+    painter.drawItemText(area, textFlags, this->palette(), this->isEnabled(), this->text(),
+                         QPalette::WindowText);
+    if (this->hasFocus()) drawFocus(painter, text);
+  }
+
+ private:
+  void drawFocus(QStylePainter& painter, const QRect& text) {
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    const QRect around = this->text().isEmpty() ? this->rect() : text.adjusted(-2, -1, 2, 1);
+    option.rect = around.intersected(this->rect());
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+  }
+};
+
+using MarkedCheck = Marked<QCheckBox>;
+using MarkedOption = Marked<QRadioButton>;
+
+}  // namespace
+
+ClickedAdapter::ClickedAdapter(forms::Control& control, const Place& place, QAbstractButton* button)
+    : Adapter(control, place, button) {
+  connect(button, &QAbstractButton::clicked, this, [this] { click(); });
+}
+
+void ClickedAdapter::click() {
+  if (!hasControl()) return;
+  act([this](forms::User& user) { user.click(control()); });
+}
+
+bool ClickedAdapter::mousePressed(QWidget&, QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton) return true;
+  const Reached reached = pressed();
+  if (reached == Reached::interrupted) click();
+  return reached != Reached::smoothly;
+}
+
+/// A key that is held down clicks once.
+ClickedAdapter::KeyUse ClickedAdapter::useOf(QKeyEvent& event) {
+  const bool clicks =
+      event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  return clicks && event.isAutoRepeat() ? KeyUse::nobody : KeyUse::form;
+}
+
+CheckBoxAdapter::CheckBoxAdapter(forms::CheckBox& box, const Place& place)
+    : ClickedAdapter(box, place, new MarkedCheck(&place.parent)), box_(box) {}
+
+void CheckBoxAdapter::show() {
+  auto& button = *static_cast<MarkedCheck*>(widget());
+  button.showCaption(box_);
+  button.setChecked(box_.isChecked());
+}
+
+OptionButtonAdapter::OptionButtonAdapter(forms::OptionButton& option, const Place& place)
+    : ClickedAdapter(option, place, new MarkedOption(&place.parent)), option_(option) {
+  static_cast<MarkedOption*>(widget())->setAutoExclusive(false);  // the form keeps the group
+}
+
+void OptionButtonAdapter::show() {
+  auto& button = *static_cast<MarkedOption*>(widget());
+  button.showCaption(option_);
+  button.setChecked(option_.isChosen());
+}
+
+}  // namespace qt

@@ -1,0 +1,86 @@
+#include "qt/PushButtonAdapter.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionFocusRect>
+
+#include "qt/Conversions.h"
+#include "qt/Pictures.h"
+
+namespace qt {
+namespace {
+
+constexpr int pictureMargin = 4;
+constexpr int flatMargin = 6;
+constexpr int hoverStrength = 40;
+
+}  // namespace
+
+/// A flat one is an entry of a list: its text stands at the left and may take several lines.
+class PushButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (!isFlat() || !icon().isNull()) return QPushButton::paintEvent(event);
+    QPainter painter(this);
+    if (underMouse() && isEnabled()) {
+      QColor hover = palette().color(QPalette::Highlight);
+      hover.setAlpha(hoverStrength);
+      painter.fillRect(rect(), hover);
+    }
+    style()->drawItemText(
+        &painter, rect().adjusted(flatMargin, 0, -flatMargin, 0),
+        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
+        isEnabled(), text(), QPalette::WindowText);
+    if (hasFocus()) drawFocus(painter);
+  }
+
+ private:
+  void drawFocus(QPainter& painter) {
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = rect().adjusted(1, 1, -1, -1);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+  }
+};
+
+PushButtonAdapter::PushButtonAdapter(forms::CommandButton& button, const Place& place)
+    : ClickedAdapter(button, place, new PushButton(&place.parent)),
+      button_(button),
+      widget_(static_cast<PushButton*>(widget())) {
+  widget_->setAutoDefault(false);
+}
+
+void PushButtonAdapter::show() {
+  const QSize room = widget_->size() - QSize(2 * pictureMargin, 2 * pictureMargin);
+  const bool pictured = !button_.picture().isEmpty();
+  widget_->setIcon(iconOf(button_.picture(), room, widget_->devicePixelRatioF()));
+  widget_->setIconSize(room);
+  const QString caption = toQt(pictured ? std::string() : button_.caption());
+  if (widget_->text() != caption) widget_->setText(caption);
+  widget_->setFlat(button_.isFlat());
+  widget_->setDefault(button_.isDefault());
+  widget_->setAutoFillBackground(button_.isFlat() &&
+                                 button_.backColor() != forms::colors::buttonFace);
+}
+
+void PushButtonAdapter::press(forms::User& user, forms::MouseButton mouseButton) {
+  user.press(button_, mouseButton);
+}
+
+bool PushButtonAdapter::mousePressed(QWidget& part, QMouseEvent& event) {
+  if (event.button() == Qt::RightButton) {
+    act([this](forms::User& user) { press(user, forms::MouseButton::right); });
+    return true;
+  }
+  return ClickedAdapter::mousePressed(part, event);
+}
+
+PushButtonAdapter::Reached PushButtonAdapter::pressed() {
+  return reachBy([this](forms::User& user) { press(user, forms::MouseButton::left); });
+}
+
+}  // namespace qt

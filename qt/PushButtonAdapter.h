@@ -1,0 +1,26 @@
+#pragma once
+
+#include "forms/CommandButton.h"
+#include "qt/MarkedAdapters.h"
+
+namespace qt {
+
+class PushButton;
+
+class PushButtonAdapter : public ClickedAdapter {
+ public:
+  PushButtonAdapter(forms::CommandButton& button, const Place& place);
+
+ protected:
+  void show() override;
+  bool mousePressed(QWidget& part, QMouseEvent& event) override;
+  Reached pressed() override;
+
+ private:
+  void press(forms::User& user, forms::MouseButton mouseButton);
+
+  forms::CommandButton& button_;
+  PushButton* widget_;
+};
+
+}  // namespace qt

@@ -1,0 +1,147 @@
+#include "qt/QtDesktop.h"
+
+#include <QtGui/QFontMetrics>
+#include <QtWidgets/QApplication>
+#include <algorithm>
+#include <clocale>
+#include <vector>
+
+#include "forms/Application.h"
+#include "forms/Paths.h"
+#include "qt/Conversions.h"
+#include "qt/Dialogs.h"
+#include "qt/HelpViewer.h"
+#include "qt/Session.h"
+#include "qt/ShownForm.h"
+
+namespace qt {
+namespace {
+
+constexpr int roomForAnyText = 1 << 20;
+
+/// Boxes and dialogs are answered with the arrow, also while the program is busy.
+class ArrowMeanwhile {
+ public:
+  ArrowMeanwhile() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ~ArrowMeanwhile() { QGuiApplication::restoreOverrideCursor(); }
+  ArrowMeanwhile(const ArrowMeanwhile&) = delete;
+  ArrowMeanwhile& operator=(const ArrowMeanwhile&) = delete;
+};
+
+}  // namespace
+
+struct QtDesktop::Parts {
+  Parts(int count, char** values) : arguments(values, values + count), argc(count) {
+    arguments.push_back(nullptr);
+  }
+
+  /// Runs what stands over everything else for a while.
+  template <typename Question>
+  auto ask(Question question) {
+    session.refreshAll();
+    ++session.interruptions;
+    const ArrowMeanwhile arrow;
+    return question(session.top());
+  }
+
+  std::vector<char*> arguments;
+  int argc;
+  QApplication application{argc, arguments.data()};
+  Session session;
+  HelpViewer help;
+  bool isWaiting = false;
+};
+
+QtDesktop::QtDesktop(int argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
+  std::setlocale(LC_NUMERIC, "C");  // Qt takes over the user's; numbers have a point everywhere
+  QApplication::setStyle(QStringLiteral("Fusion"));  // forms measure for it
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+QtDesktop::~QtDesktop() = default;
+
+bool QtDesktop::saveScreenshot(const forms::Form& form, const std::filesystem::path& machineFile) {
+  const auto& shown = parts_->session.shown;
+  const auto found = std::find_if(shown.begin(), shown.end(),
+                                  [&](const ShownForm* one) { return one->shows(form); });
+  if (found == shown.end()) return false;
+  (*found)->refresh();
+  return (*found)->window().grab().save(QString::fromStdString(machineFile.string()), "PNG");
+}
+
+void QtDesktop::runModal(forms::Form& form, forms::Form* owner) {
+  Session& session = parts_->session;
+  session.refreshAll();
+  ++session.interruptions;
+  const auto below =
+      std::find_if(session.shown.begin(), session.shown.end(),
+                   [&](const ShownForm* one) { return owner && one->shows(*owner); });
+  QWidget* parent = below == session.shown.end() ? session.top() : &(*below)->window();
+  ShownForm(form, parent, session).run();
+}
+
+forms::Answer QtDesktop::showMessage(const forms::MessageBox& message) {
+  return parts_->ask([&](QWidget* parent) { return askMessage(parent, message); });
+}
+
+std::string QtDesktop::chooseFolder(const forms::FolderDialog& dialog) {
+  return parts_->ask([&](QWidget* parent) { return askFolder(parent, dialog); });
+}
+
+std::string QtDesktop::chooseFileToSave(const forms::FileDialog& dialog) {
+  return parts_->ask([&](QWidget* parent) { return askFileToSave(parent, dialog); });
+}
+
+std::string QtDesktop::chooseFileToOpen(const forms::FileDialog& dialog) {
+  return parts_->ask([&](QWidget* parent) { return askFileToOpen(parent, dialog); });
+}
+
+std::int32_t QtDesktop::showHelp(std::int32_t, const std::string& helpFile, std::int16_t topic) {
+  return parts_->help.show(parts_->session.top(), forms::toMachinePath(helpFile), topic);
+}
+
+void QtDesktop::closeAllHelp() { parts_->help.closeAll(); }
+
+void QtDesktop::processEvents() {
+  parts_->session.refreshAll();
+  QCoreApplication::processEvents();
+}
+
+void QtDesktop::runLater(std::function<void()> task) {
+  const auto guarded = [task = std::move(task)] {
+    try {
+      task();
+    } catch (const forms::Error& error) {
+      forms::reportHandlerError(error);
+    }
+  };
+  QMetaObject::invokeMethod(&parts_->application, guarded, Qt::QueuedConnection);
+}
+
+void QtDesktop::setMousePointer(forms::MousePointer pointer) {
+  const bool waits = pointer == forms::MousePointer::hourglass;
+  if (waits == parts_->isWaiting) return;
+  parts_->isWaiting = waits;
+  if (waits) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+forms::Size QtDesktop::textSize(const std::string& text, const forms::Font& font,
+                                forms::Twips width) const {
+  const QFontMetrics metrics(toQt(font));
+  const int room = width > 0 ? width / twipsPerPixel : roomForAnyText;
+  const QRect bounds =
+      metrics.boundingRect(QRect(0, 0, room, roomForAnyText),
+                           Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, linesToQt(text));
+  const QSize size(bounds.width() + 1, std::max(bounds.height(), metrics.height()));
+  return twips(size);
+}
+
+std::unique_ptr<QtDesktop> makeDesktop(int argc, char** argv) {
+  return std::make_unique<QtDesktop>(argc, argv);
+}
+
+}  // namespace qt

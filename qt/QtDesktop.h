@@ -1,0 +1,51 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "forms/Desktop.h"
+
+namespace qt {
+
+/// Whether a window can be opened at all. Asked before `makeDesktop`, which ends the program where
+/// it can't.
+bool hasDisplay();
+
+/// Forms on a screen. It draws every kind of control and reports what a person does with them
+/// through `forms::User`; the forms decide what comes of it. One for each process, on the thread
+/// that made it.
+class QtDesktop : public forms::Desktop {
+ public:
+  QtDesktop(int argc, char** argv);
+  ~QtDesktop() override;
+  QtDesktop(const QtDesktop&) = delete;
+  QtDesktop& operator=(const QtDesktop&) = delete;
+
+  /// Writes a PNG of the contents of a form that is shown, as it looks now. False when it isn't
+  /// shown or the file can't be written.
+  bool saveScreenshot(const forms::Form& form, const std::filesystem::path& machineFile);
+
+  void runModal(forms::Form& form, forms::Form* owner) override;
+  forms::Answer showMessage(const forms::MessageBox& message) override;
+  std::string chooseFolder(const forms::FolderDialog& dialog) override;
+  std::string chooseFileToSave(const forms::FileDialog& dialog) override;
+  std::string chooseFileToOpen(const forms::FileDialog& dialog) override;
+  std::int32_t showHelp(std::int32_t ownerHandle, const std::string& helpFile,
+                        std::int16_t topic) override;
+  void closeAllHelp() override;
+  void processEvents() override;
+  void runLater(std::function<void()> task) override;
+  void setMousePointer(forms::MousePointer pointer) override;
+  forms::Size textSize(const std::string& text, const forms::Font& font,
+                       forms::Twips width) const override;
+  forms::Twips twipsPerPixelX() const override { return 15; }
+  forms::Twips twipsPerPixelY() const override { return 15; }
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+std::unique_ptr<QtDesktop> makeDesktop(int argc, char** argv);
+
+}  // namespace qt

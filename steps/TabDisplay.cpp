@@ -1,0 +1,308 @@
+#include "steps/TabDisplay.h"
+
+#include <algorithm>
+
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
+#include "common/CommonFunctions.h"
+#include "common/modHTMLHelp.h"
+#include "forms/Guard.h"
+#include "forms/Numbers.h"
+#include "forms/Rows.h"
+#include "host/Numbers.h"
+
+namespace steps {
+namespace {
+
+using addin::gAddIn;
+using addin::gDocument;
+using addin::gOwnerForm;
+
+constexpr std::int16_t iRowOn = 0;  // the rows of the relay's delays
+constexpr std::int16_t iRowOff = 1;
+constexpr std::int32_t lDelayLength = 3;
+constexpr std::int32_t lLongestDelay = 999;
+constexpr forms::Size sizeOfPicture{480, 480};
+
+std::shared_ptr<host::Device> FindDisplay() {
+  return gDocument().get_Devices()->ItemByID(gAddIn().get_DisplayDeviceID());
+}
+
+/// The standard command that a selector stands for, as a number.
+std::int16_t StandardID(const host::DeviceCommands& ctlSelector) {
+  return forms::toInt16(forms::leadingNumber(ctlSelector.tag()));
+}
+
+}  // namespace
+
+TabDisplay::TabDisplay(forms::Container& container, std::string strName)
+    : WizardStep(container, std::move(strName), "Display Device", host::helpDisplayDeviceTab) {
+  MakeBanner(lblBanner);
+  SetTabStops(false);
+  frameInfo.setBorder(false);
+  ctlImage.put_Picture(addin::frmImages().get_ImageListLarge().item(host::pictureInformation));
+  ctlImage.put_BackColor(lblInfo.backColor());
+  lblInfo.setCaption("Click \"Choose...\" to select the Display Device for your system.");
+  lblBorder.setBorder(true);
+  lblDisplayHelp.setLink(true);
+  ctlCommands(0).setTag(forms::decimal(host::scRGB1));
+  ctlCommands(1).setTag(forms::decimal(host::scVideo1));
+  txtDelay.each([](std::int16_t, forms::TextBox& box) { box.setMaxLength(lDelayLength); });
+
+  ConnectEvents();
+  LayOut();
+}
+
+void TabDisplay::ConnectEvents() {
+  cmdChoose.click.connect([this] { cmdChoose_Click(); });
+  cmdProperties.click.connect([this] { cmdProperties_Click(); });
+  chkPowerRelay.click.connect([this] { chkPowerRelay_Click(); });
+  lblDisplayHelp.click.connect([this] { lblDisplayHelp_Click(); });
+  ctlCommands.each([this](std::int16_t Index, host::DeviceCommands& ctlSelector) {
+    ctlSelector.CommandChanged.connect([this, Index] { ctlCommands_CommandChanged(Index); });
+  });
+  txtDelay.each([this](std::int16_t Index, forms::TextBox& box) {
+    box.validate.connect([this, Index](bool& Cancel) { txtDelay_Validate(Index, Cancel); });
+  });
+  offer("SetData", [this] { SetData(); });
+  offer("OtherTabClicked", [this] { OtherTabClicked(); });
+}
+
+void TabDisplay::SetTabStops(bool bValue) {
+  ctlCommands(0).setTabStop(bValue);
+  ctlCommands(1).setTabStop(bValue);
+}
+
+std::vector<std::string> TabDisplay::GetTabs(std::int16_t iDeviceID) const {
+  std::vector<std::string> colTabs{host::progIDPageBasic};
+  const auto oDevice = gDocument().get_Devices()->ItemByID(iDeviceID);
+  if (!oDevice) return colTabs;
+  if (oDevice->get_DeviceHandle() >= 1) colTabs.push_back(host::progIDPageIOAssignment);
+  if (oDevice->HasProperties(false)) colTabs.push_back(host::progIDPageProperties);
+  return colTabs;
+}
+
+bool TabDisplay::iTab_SaveData() {
+  m_bSaving = true;
+  return false;
+}
+
+bool TabDisplay::SetData() {
+  m_bSaving = false;
+  cmdProperties.setVisible(false);
+  addin::PictureLists& lists = addin::frmImages();
+  ctlImageDisplay.put_Picture(lists.get_ImageListLarge().item(host::pictureDisplay));
+  ctlCommands(0).SetImages(lists.get_ImageList());
+  ctlCommands(1).SetImages(lists.get_ImageList());
+  RefreshDeviceInfo();
+  const bool bDevice = gAddIn().get_DisplayDeviceID() != 0;
+  SetPowerRelayControls(bDevice && gAddIn().get_PowerRelayID() >= 1);
+  ShowDeviceControls(bDevice);
+  ShowInfoFrame(!bDevice);
+  return false;
+}
+
+void TabDisplay::RefreshDeviceInfo() {
+  if (!addin::IsDocumentSet()) return;
+  const auto oDevice = FindDisplay();
+  if (oDevice) {
+    lblDescription.setCaption(oDevice->get_Description());
+    lblDescription.setToolTip(oDevice->get_Description());
+    lblIOAssignment.setCaption(oDevice->get_IOAssignment());
+  }
+  ShowInfoFrame(!oDevice);
+  LoadSwitchingCommands();
+  ShowDeviceControls(true);  // also without a device: the caller hides them again
+  if (oDevice) {
+    cmdProperties.setVisible(oDevice->HasProperties(false) || !oDevice->get_SecondOffCapable());
+  }
+}
+
+void TabDisplay::ShowInfoFrame(bool bShow) {
+  ShowDescription(!bShow);
+  frameInfo.setVisible(bShow);
+}
+
+void TabDisplay::ShowDescription(bool bShow) {
+  lblDescriptionTag.setVisible(bShow);
+  lblDescription.setVisible(bShow);
+  lblIOAssignmentTag.setVisible(bShow);
+  lblIOAssignment.setVisible(bShow);
+}
+
+void TabDisplay::ShowDeviceControls(bool bShow) {
+  chkPowerRelay.setVisible(bShow);
+  for (const std::int16_t i : {iRowOn, iRowOff}) {
+    lblDelay(i).setVisible(bShow);
+    txtDelay(i).setVisible(bShow);
+    lblDelaySeconds(i).setVisible(bShow);
+  }
+  lblSwitch.setVisible(bShow);
+  for (const std::int16_t i : {std::int16_t{0}, std::int16_t{1}}) {
+    ctlCommands(i).setVisible(bShow);
+    lblTransport(i).setVisible(bShow);
+  }
+  frameCommand.setEnabled(bShow);
+}
+
+void TabDisplay::LoadSwitchingCommands() {
+  const forms::Guard loading(m_bLoading);
+  const auto oDevice = FindDisplay();
+  if (!oDevice) return;
+  ctlCommands.each([&](std::int16_t, host::DeviceCommands& ctlSelector) {
+    ctlSelector.SetEmptyText("[ Unassigned ]");
+    const std::string strID = forms::decimal(StandardID(ctlSelector));
+    ctlSelector.LoadCommands(*oDevice, oDevice->GetCommandName(strID), host::commandsWithEmpty);
+  });
+}
+
+void TabDisplay::ctlCommands_CommandChanged(std::int16_t Index) {
+  const auto oDevice = FindDisplay();
+  if (!oDevice) return;
+  const std::int16_t iStandardID = StandardID(ctlCommands(Index));
+  const auto colCommands = oDevice->get_StandardCommands();
+  const auto it = std::find_if(colCommands.begin(), colCommands.end(), [&](const auto& oCommand) {
+    return oCommand->get_StandardID() == iStandardID ||
+           oCommand->get_Name() == forms::decimal(iStandardID);
+  });
+  if (it == colCommands.end()) return;
+  const std::string strSelected = ctlCommands(Index).get_SelectedCommand();
+  if (strSelected == (*it)->get_CommandName()) return;
+  (*it)->put_CommandName(strSelected);
+  gDocument().MarkChanged();
+}
+
+void TabDisplay::cmdChoose_Click() {
+  cmdChoose.setEnabled(false);
+  host::DeviceDialogArguments arguments;
+  arguments.iParentID = gDocument().get_ControlSystem()->get_ID();
+  arguments.lDialogContext = gDocument().get_Reports()->get_DialogContext();
+  arguments.iDeviceID = gAddIn().get_DisplayDeviceID();
+  arguments.strName = "Display Device";
+  arguments.strTitle = "Select a Display Device";
+  arguments.iNumber7 = 4;
+  arguments.bFlag10 = true;
+  arguments.bFlag11 = true;
+  arguments.strCategory12 = "Video/Data Projector";
+  const std::int16_t iResult = gAddIn().ShowAddReplaceDeviceDialog(arguments);
+  if (iResult == host::deviceDialogNone) {
+    ShowInfoFrame(true);
+  } else if (iResult != host::deviceDialogUnchanged) {
+    gAddIn().put_DisplayDeviceID(iResult);
+    RefreshDeviceInfo();
+  }
+  cmdChoose.setEnabled(true);
+}
+
+void TabDisplay::cmdProperties_Click() { ShowDeviceProperties(gAddIn().get_DisplayDeviceID()); }
+
+void TabDisplay::ShowDeviceProperties(std::int16_t iDeviceID) {
+  gOwnerForm().ShowControlledDeviceProperties(iDeviceID, GetTabs(iDeviceID));
+  RefreshDeviceInfo();  // the dialog may have changed the description and the assignment
+}
+
+void TabDisplay::SetPowerRelayControls(bool bEnabled) {
+  const forms::Guard loading(m_bLoading);
+  chkPowerRelay.setChecked(bEnabled);
+  ShowDelayRow(iRowOn, bEnabled);
+  ShowDelayRow(iRowOff, bEnabled);
+}
+
+void TabDisplay::ShowDelayRow(std::int16_t Index, bool bEnabled) {
+  lblDelay(Index).setEnabled(bEnabled);
+  txtDelay(Index).setText(bEnabled ? forms::decimal(get_Delay(Index)) : "");
+  txtDelay(Index).setEnabled(bEnabled);
+  lblDelaySeconds(Index).setEnabled(bEnabled);
+}
+
+void TabDisplay::chkPowerRelay_Click() {
+  if (m_bLoading) return;
+  if (!chkPowerRelay.isChecked()) {
+    gAddIn().RemovePowerRelay();
+    ShowDelayRow(iRowOn, false);
+    ShowDelayRow(iRowOff, false);
+    return;
+  }
+  gAddIn().AddPowerRelay();
+  if (gAddIn().get_PowerRelayID() == 0) {
+    const forms::Guard loading(m_bLoading);
+    chkPowerRelay.setChecked(false);
+    return;
+  }
+  ShowDelayRow(iRowOn, true);
+  ShowDelayRow(iRowOff, true);
+}
+
+void TabDisplay::txtDelay_Validate(std::int16_t Index, bool& Cancel) {
+  common::ValueRange range;
+  range.sLabel = std::string("The time value for the power relay power ") +
+                 (Index == iRowOn ? "on" : "off") + " delay";
+  range.iMax = lLongestDelay;
+  range.bReset = activeControl() != &txtDelay(Index) || m_bSaving;
+  txtDelay(Index).setText(common::CheckValueRange(txtDelay(Index).text(), range, Cancel));
+  if (Cancel) return;
+  const std::int16_t iSeconds = forms::toInt16(forms::leadingNumber(txtDelay(Index).text()));
+  if (iSeconds != get_Delay(Index)) {
+    put_Delay(Index, iSeconds);
+    gDocument().MarkChanged();
+  }
+  txtDelay(Index).setText(forms::decimal(get_Delay(Index)));
+}
+
+std::int16_t TabDisplay::get_Delay(std::int16_t Index) const {
+  return Index == iRowOn ? gAddIn().get_PowerRelayOnDelay() : gAddIn().get_PowerRelayOffDelay();
+}
+
+void TabDisplay::put_Delay(std::int16_t Index, std::int16_t iSeconds) {
+  if (Index == iRowOn) {
+    gAddIn().put_PowerRelayOnDelay(iSeconds);
+  } else {
+    gAddIn().put_PowerRelayOffDelay(iSeconds);
+  }
+}
+
+void TabDisplay::lblDisplayHelp_Click() {
+  common::ShowHelpTopic(gAddIn().GetActiveWindowHandle(), host::helpDisplayDeviceRequirements);
+}
+
+void TabDisplay::LayOut() {
+  using namespace forms;
+  constexpr Twips lBoxWidth = 570;
+  layOut(pageArea, {
+      rest(lblBanner),
+      row({item(Label1), spring(), item(lblDisplayHelp)}),
+      box(Frame3, {
+          row({
+              item(ctlImageDisplay, sizeOfPicture),
+              either({
+                  columns({
+                      {item(lblDescriptionTag), rest(lblDescription, 390)},
+                      {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
+                  }),
+                  box(frameInfo, {
+                      row({item(ctlImage, sizeOfPicture), rest(lblInfo)}),
+                  }),
+              }),
+              column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
+          }),
+      }),
+      box(frameCommand, {
+          item(lblSwitch),
+          columns({
+              {item(lblTransport(0)), rest(ctlCommands(0))},
+              {item(lblTransport(1)), rest(ctlCommands(1))},
+          }),
+      }),
+      item(chkPowerRelay),
+      indented({
+          columns({
+              {item(lblDelay(0)), wide(txtDelay(0), lBoxWidth), item(lblDelaySeconds(0))},
+              {item(lblDelay(1)), wide(txtDelay(1), lBoxWidth), item(lblDelaySeconds(1))},
+          }),
+      }),
+  });
+  const Rect info = frameInfo.bounds();
+  lblBorder.setBounds({0, 0, info.width, info.height});
+}
+
+}  // namespace steps

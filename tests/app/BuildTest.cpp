@@ -1,0 +1,220 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/app/Program.h"
+
+namespace app {
+namespace {
+
+using Listing = std::vector<std::string>;
+
+constexpr const char* meetingRoom = R"({
+  "name": "Meeting Room",
+  "display": {"device": "Bravonne P2200", "relay": {"on_delay": 5, "off_delay": 90}},
+  "power": {"control": "discrete", "second_off": {"delay": 3}}
+})";
+
+class OrlenaBuild : public testing::Test {
+ protected:
+  Outcome build(const std::string& answers, const std::vector<std::string>& options = {}) {
+    folder_.write("answers.json", answers);
+    std::vector<std::string> arguments{"build", "answers.json"};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return program_.run(arguments);
+  }
+
+  TemporaryFolder folder_;
+  Program program_{folder_};
+};
+
+TEST_F(OrlenaBuild, savesTheRoomAndPrintsOnlyItsPath) {
+  const Outcome outcome = build(meetingRoom);
+  EXPECT_EQ(outcome.status, 0) << outcome.errors;
+  EXPECT_EQ(outcome.output, (folder_ / "systems/Meeting Room/Meeting Room.tsy").string() + "\n");
+  EXPECT_EQ(folder_.listing(), (Listing{"answers.json", "systems/", "systems/Meeting Room/",
+                                        "systems/Meeting Room/Meeting Room.tsy"}));
+}
+
+TEST_F(OrlenaBuild, putsTheSystemWhereItIsTold) {
+  const std::string here = R"({"name": "Hall", "folder": "rooms/north"})";
+  EXPECT_EQ(build(here).output, (folder_ / "rooms/north/Hall/Hall.tsy").string() + "\n");
+  EXPECT_EQ(build(here, {"--out", "out"}).output, (folder_ / "out/Hall/Hall.tsy").string() + "\n");
+}
+
+TEST_F(OrlenaBuild, withoutANameTakesTheFreshOneOfTheWizard) {
+  EXPECT_EQ(build("{}").output,
+            (folder_ / "systems/My Orlena System/My Orlena System.tsy").string() + "\n");
+  EXPECT_EQ(build("{}").output,
+            (folder_ / "systems/My Orlena System 2/My Orlena System 2.tsy").string() + "\n");
+}
+
+TEST_F(OrlenaBuild, givesTheSameBytesEachTime) {
+  ASSERT_EQ(build(meetingRoom).status, 0);
+  const auto file = folder_ / "systems/Meeting Room/Meeting Room.tsy";
+  const std::string first = readWhole(file);
+  ASSERT_EQ(build(meetingRoom, {"--replace"}).status, 0);
+  EXPECT_EQ(readWhole(file), first);
+}
+
+TEST_F(OrlenaBuild, refusesAnExistingSystemAndLeavesItUnlessToldToReplaceIt) {
+  ASSERT_EQ(build(meetingRoom).status, 0);
+  const auto file = folder_ / "systems/Meeting Room/Meeting Room.tsy";
+  const std::string first = readWhole(file);
+
+  const std::string changed = R"({"name": "Meeting Room", "display": {"device": "Orvistel F42"}})";
+  const Outcome refused = build(changed);
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(refused.output, "");
+  EXPECT_EQ(refused.errors, "answers.json: there is a system already: " + file.string() +
+                                "; --replace replaces it\n");
+  EXPECT_EQ(readWhole(file), first);
+
+  EXPECT_EQ(build(changed, {"--replace"}).status, 0);
+  EXPECT_NE(readWhole(file), first);
+}
+
+struct Refusal {
+  const char* what;
+  const char* answers;
+  int status;
+  const char* errors;  // what standard error begins with
+};
+
+void PrintTo(const Refusal& refusal, std::ostream* stream) { *stream << refusal.what; }
+
+class OrlenaBuildRefuses : public OrlenaBuild, public testing::WithParamInterface<Refusal> {};
+
+TEST_P(OrlenaBuildRefuses, andLeavesNothing) {
+  const Outcome outcome = build(GetParam().answers, {"--out", "made/by/the run"});
+  EXPECT_EQ(outcome.status, GetParam().status);
+  EXPECT_EQ(outcome.output, "");
+  EXPECT_EQ(outcome.errors.substr(0, std::string(GetParam().errors).size()), GetParam().errors)
+      << outcome.errors;
+  EXPECT_EQ(folder_.listing(), Listing{"answers.json"});
+}
+
+constexpr Refusal refusals[] = {
+    {"brokenJson", R"({"name": "Hall",})", 2, "answers.json: line 1, column 17: "},
+    {"keyTwice", R"({"display": {"rgb": "A", "rgb": "B"}})", 2,
+     "answers.json: display.rgb: the key stands twice\n"},
+    {"wrongWord", R"({"power": {"control": "toggle"}})", 2,
+     R"(answers.json: power.control: "toggle" is none of "none", "sensing", "discrete")"
+     "\n"},
+    {"unknownDevice", R"({"name": "Hall", "display": {"device": "Bravonne"}})", 2,
+     R"(answers.json: display.device: "Bravonne" is none of "Bravonne P2200", )"},
+    {"unknownCommand", R"({"name": "Hall", "display": {"device": "Orvistel F42", "rgb": "RGB_1"}})",
+     2, R"(answers.json: display.rgb: "RGB_1" is none of "", "PWR_ON", )"},
+    {"noDisplay", R"({"name": "Hall", "display": {"relay": {}}})", 2,
+     R"(answers.json: display.relay: is not asked for in this room: on the step "Display Device" )"
+     R"(the control "chkPowerRelay" is hidden)"
+     "\n"},
+    {"modeNotOffered",
+     R"({"name": "Hall", "display": {"device": "Orvistel F42"}, "power": {"control": "sensing"}})",
+     2,
+     R"(answers.json: power.control: is not asked for in this room: on the step "Power Control" )"
+     R"(the control "optPower(1)" is disabled)"
+     "\n"},
+    {"commandsWithoutDiscrete",
+     R"({"name": "Hall", "display": {"device": "Orvistel F42"},
+         "power": {"control": "none", "on": ""}})",
+     2, "answers.json: power.on: is not asked for in this room: "},
+    {"secondOffNotCapable",
+     R"({"name": "Hall", "display": {"device": "Orvistel F42"}, "power": {"second_off": {}}})", 2,
+     "answers.json: power.second_off: is not asked for in this room: "},
+    {"nameWithDigit", R"({"name": "4th Floor"})", 1,
+     "answers.json: Orlena: Names cannot begin with digits 0-9.\n"
+     R"(answers.json: name: the step "Name and Location" did not take "4th Floor")"
+     "\n"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Each, OrlenaBuildRefuses, testing::ValuesIn(refusals),
+                         [](const auto& refusal) { return std::string(refusal.param.what); });
+
+TEST_F(OrlenaBuild, tellsThatAFileStandsInThePlaceOfTheFolder) {
+  folder_.write("taken", "a file");
+  const Outcome outcome = build(meetingRoom, {"--out", "taken"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.output, "");
+  EXPECT_NE(outcome.errors.find("taken"), std::string::npos) << outcome.errors;
+  EXPECT_EQ(readWhole(folder_ / "taken"), "a file");
+  EXPECT_EQ(build("{}", {"--out", "taken"}).status, 1);
+}
+
+TEST_F(OrlenaBuild, isRefusedByAWrongCommandLine) {
+  EXPECT_EQ(program_.run({"build"}).status, 2);
+  EXPECT_EQ(program_.run({"construct"}).status, 2);
+  EXPECT_EQ(build("{}", {"--jobs", "0"}).status, 2);
+  EXPECT_EQ(build("{}", {"--jobs", "two"}).status, 2);
+  EXPECT_EQ(build("{}", {"--overwrite"}).status, 2);
+  EXPECT_EQ(program_.run({"build", "missing.json"}).status, 2);
+  EXPECT_EQ(folder_.listing(), Listing{"answers.json"});
+}
+
+TEST_F(OrlenaBuild, buildsTheOtherRoomsOfABatchAndPrintsThemInTheirOrder) {
+  Listing arguments{"build", "--out", "out", "--jobs", "2"};
+  std::string paths;
+  for (const std::string name : {"A", "B", "C", "D", "E"}) {
+    const bool broken = name == "B";
+    const std::string key = broken ? R"("lockout": {"contact": "opened"}, )" : "";
+    folder_.write(name + ".json", "{" + key + R"("name": "Room )" + name + "\"}");
+    arguments.push_back(name + ".json");
+    if (!broken)
+      paths += (folder_ / ("out/Room " + name + "/Room " + name + ".tsy")).string() + "\n";
+  }
+  const Outcome outcome = program_.run(arguments);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, paths);
+  EXPECT_EQ(outcome.errors,
+            "B.json: lockout.contact: \"opened\" is none of \"unused\", \"power off\", "
+            "\"continue\"\n");
+}
+
+TEST_F(OrlenaBuild, startsNoRoomOfABatchThatCanNotStandTogether) {
+  folder_.write("one.json", R"({"name": "Hall", "folder": "rooms"})");
+  folder_.write("same.json", R"({"name": "Hall ", "folder": "./other/../rooms/"})");
+  const Outcome same = program_.run({"build", "one.json", "same.json"});
+  EXPECT_EQ(same.status, 2);
+  EXPECT_EQ(same.errors, "same.json: leads to the same system as one.json: " +
+                             (folder_ / "rooms/Hall").string() + "\n");
+
+  folder_.write("unnamed.json", "{}");
+  const Outcome unnamed = program_.run({"build", "one.json", "unnamed.json"});
+  EXPECT_EQ(unnamed.status, 2);
+  EXPECT_EQ(unnamed.errors,
+            "unnamed.json: name: is missing; of several rooms each must have one\n");
+  EXPECT_EQ(folder_.listing(), (Listing{"one.json", "same.json", "unnamed.json"}));
+}
+
+TEST_F(OrlenaBuild, interruptedLeavesOnlyWholeSystems) {
+  Listing arguments{"build", "--out", "out"};
+  for (int i = 0; i < 60; ++i) {
+    const std::string name = "Room " + std::to_string(i);
+    folder_.write(name + ".json",
+                  R"({"name": ")" + name + R"(", "display": {"device": "Orvistel F42"}})");
+    arguments.push_back(name + ".json");
+  }
+  program_.start(arguments);
+  while (!std::filesystem::exists(folder_ / "out/Room 2/Room 2.tsy")) {
+    ASSERT_EQ(kill(program_.processId(), 0), 0);
+    usleep(1000);
+  }
+  kill(program_.processId(), SIGTERM);
+  const Outcome outcome = program_.wait();
+  EXPECT_EQ(outcome.status, 1);
+
+  std::string saved;
+  for (int i = 0; i < 60; ++i) {
+    const std::string name = "Room " + std::to_string(i);
+    const auto room = folder_ / ("out/" + name);
+    if (!std::filesystem::exists(room)) continue;
+    EXPECT_EQ(program_.run({"show", (room / (name + ".tsy")).string()}).status, 0) << name;
+    saved += (room / (name + ".tsy")).string() + "\n";
+  }
+  EXPECT_EQ(outcome.output, saved);
+  EXPECT_NE(outcome.errors.find("Room 59.json: interrupted\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace app

@@ -1,0 +1,80 @@
+#include "tests/app/Program.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace app {
+
+namespace fs = std::filesystem;
+
+TemporaryFolder::TemporaryFolder() {
+  std::string pattern = (fs::temp_directory_path() / "orlena-test-XXXXXX").string();
+  if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder: " + pattern);
+  path_ = fs::canonical(pattern);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code failure;
+  fs::remove_all(path_, failure);
+}
+
+fs::path writeFile(const fs::path& file, const std::string& content) {
+  fs::create_directories(file.parent_path());
+  std::ofstream(file, std::ios::binary) << content;
+  return file;
+}
+
+std::vector<std::string> TemporaryFolder::listing() const {
+  std::vector<std::string> found;
+  for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+    found.push_back(fs::relative(entry.path(), path_).string() + (entry.is_directory() ? "/" : ""));
+  }
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::string readWhole(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+Outcome Program::run(const std::vector<std::string>& arguments) {
+  start(arguments);
+  return wait();
+}
+
+void Program::start(const std::vector<std::string>& arguments) {
+  std::vector<std::string> texts{ORLENA_PROGRAM};
+  texts.insert(texts.end(), arguments.begin(), arguments.end());
+  std::vector<char*> pointers;
+  for (std::string& text : texts) pointers.push_back(text.data());
+  pointers.push_back(nullptr);
+
+  processId_ = fork();
+  if (processId_ < 0) throw std::runtime_error("the program can't be started");
+  if (processId_ > 0) return;
+  const auto redirect = [](const fs::path& file, int to) {
+    dup2(open(file.c_str(), O_CREAT | O_WRONLY | O_TRUNC, 0600), to);
+  };
+  redirect(streams_ / "output", STDOUT_FILENO);
+  redirect(streams_ / "errors", STDERR_FILENO);
+  setenv("TRELLISAR_SYSTEMS", (folder_ / "systems").c_str(), 1);
+  if (chdir(folder_.path().c_str()) == 0) execv(pointers[0], pointers.data());
+  _exit(127);
+}
+
+Outcome Program::wait() {
+  int state = 0;
+  waitpid(processId_, &state, 0);
+  const int status = WIFEXITED(state) ? WEXITSTATUS(state) : -WTERMSIG(state);
+  return {status, readWhole(streams_ / "output"), readWhole(streams_ / "errors")};
+}
+
+}  // namespace app

@@ -1,0 +1,169 @@
+#include "forms/Components.h"
+
+#include "forms/ControlArray.h"
+#include "forms/Listing.h"
+#include "tests/forms/Desk.h"
+
+namespace tests {
+namespace {
+
+struct Builder : forms::Object {};
+struct Other : forms::Object {};
+
+/// A step with two members that are called by name.
+struct Step : forms::UserControl {
+  Step(forms::Container& container, std::string name) : UserControl(container, std::move(name)) {
+    offer<bool&>("BeforeTabChange", [](bool& cancel) { cancel = true; });
+    offer("SetData", [this] { ++filled; });
+    resized.connect([this] { ++resizes; });
+  }
+  void initProperties() override {
+    if (name() == "broken") throw forms::Error(7, "No memory for the step.");
+    initialised = true;
+  }
+  forms::TextBox box{*this, "box"};
+  bool initialised = false;
+  int filled = 0;
+  int resizes = 0;
+};
+
+class ComponentsTest : public Desk {
+ protected:
+  ComponentsTest() {
+    forms::registerObject("tests.Builder", [] { return std::make_shared<Builder>(); });
+    forms::registerControl("tests.Step", [](forms::Container& container, const std::string& name) {
+      return std::make_unique<Step>(container, name);
+    });
+  }
+  ~ComponentsTest() override {
+    forms::unregister("tests.Builder");
+    forms::unregister("tests.Step");
+  }
+
+  /// The number of the error that an act raises; 0 for none.
+  template <typename Act>
+  std::int32_t numberOf(Act act) {
+    try {
+      act();
+    } catch (const forms::Error& error) {
+      EXPECT_FALSE(error.description().empty());
+      return error.number();
+    }
+    return 0;
+  }
+
+  forms::Form form{"form"};
+};
+
+TEST_F(ComponentsTest, CreationFromProgramIds) {
+  EXPECT_NE(forms::createObject<Builder>("tests.Builder"), nullptr);
+  EXPECT_EQ(numberOf([] { forms::createObject<Other>("tests.Builder"); }), 13);
+  EXPECT_EQ(numberOf([] { forms::createAnyObject("tests.Nothing"); }), 429);
+
+  EXPECT_EQ(numberOf([&] { form.addControl("tests.Nothing", "ctl0"); }), 429);
+  EXPECT_EQ(numberOf([&] { form.addControl("tests.Step", "broken"); }), 7);
+  EXPECT_TRUE(form.controls().empty() && form.children().empty()) << "nothing half made stays";
+
+  auto& step = dynamic_cast<Step&>(form.addControl("tests.Step", "ctl0"));
+  EXPECT_TRUE(step.initialised);
+  EXPECT_EQ(&form.control("ctl0"), &step);
+  EXPECT_EQ(numberOf([&] { form.addControl("tests.Step", "ctl0"); }), 457);
+  EXPECT_EQ(&form.control("ctl0"), &step) << "the first one stays";
+
+  form.removeControl("ctl0");
+  EXPECT_EQ(form.find("ctl0"), nullptr);
+  EXPECT_EQ(numberOf([&] { form.removeControl("ctl0"); }), 344);
+  forms::TextBox own(form, "own");
+  EXPECT_EQ(numberOf([&] { form.removeControl("own"); }), 344) << "not made by addControl";
+}
+
+TEST_F(ComponentsTest, MembersByName) {
+  Step step(form, "step");
+  bool cancel = false;
+  step.call<bool&>("BeforeTabChange", cancel);
+  EXPECT_TRUE(cancel);
+  step.call("SetData");
+  EXPECT_EQ(step.filled, 1);
+  EXPECT_EQ(numberOf([&] { step.call("OtherTabClicked"); }), 438);
+  EXPECT_EQ(numberOf([&] { step.call("BeforeTabChange", false); }), 13);
+
+  forms::ignoringErrors([&] { step.call("OtherTabClicked"); });
+  forms::ignoringErrors([&] { step.call("SetData"); });
+  EXPECT_EQ(step.filled, 2);
+}
+
+TEST_F(ComponentsTest, GenericEventCarriesNameAndParameters) {
+  Step step(form, "step");
+  std::string heard;
+  step.objectEvent.connect([&](const forms::ObjectEvent& event) {
+    heard = event.name + " " + std::get<std::string>(event.parameters.at(0)) +
+            (std::get<bool>(event.parameters.at(1)) ? " shown" : " hidden");
+  });
+  step.objectEvent.raise({"SetTabVisible", {std::string("Audio"), true}});
+  EXPECT_EQ(heard, "SetTabVisible Audio shown");
+}
+
+TEST_F(ComponentsTest, PropertyStore) {
+  forms::PropertyBag bag;
+  bag.write<std::uint32_t>("BackColor", 0x8000000F, 0x8000000F);
+  bag.write<std::int32_t>("Style", 1, 0);
+  bag.write<bool>("ShowBackNext", true, false);
+  bag.write<bool>("ShowBackNext", false, false);
+  EXPECT_EQ(bag.order(), (Journal{"BackColor", "Style", "ShowBackNext"}));
+  EXPECT_FALSE(bag.isStored("BackColor")) << "a default is not stored";
+  EXPECT_FALSE(bag.isStored("ShowBackNext")) << "nor kept once it is the default again";
+  EXPECT_EQ(bag.read<std::int32_t>("Style", 0), 1);
+  EXPECT_EQ(bag.read<bool>("Style", true), true) << "stored as another type";
+}
+
+TEST_F(ComponentsTest, SizeAndContainer) {
+  Step step(form, "step");
+  step.setBounds({100, 350, 4000, 3000});
+  step.move(-9000, 350);
+  EXPECT_EQ(step.resizes, 1);
+
+  forms::Frame outer(form, "outer");
+  forms::Frame inner(outer, "inner");
+  forms::TextBox box(form, "box");
+  box.setContainer(inner);
+  EXPECT_TRUE(outer.contains(box));
+  EXPECT_EQ(numberOf([&] { outer.setContainer(inner); }), 5);
+  EXPECT_EQ(numberOf([&] { inner.setContainer(inner); }), 5);
+  EXPECT_EQ(numberOf([&] { box.setContainer(step); }), 5) << "another root";
+  EXPECT_EQ(&box.container(), &inner);
+}
+
+TEST_F(ComponentsTest, ChildOfAContainerThatGoesBelongsToTheRoot) {
+  forms::TextBox box(form, "box");
+  {
+    forms::Frame frame(form, "frame");
+    frame.setVisible(false);
+    box.setContainer(frame);
+    EXPECT_FALSE(box.isShown());
+  }
+  EXPECT_EQ(&box.container(), &form);
+  EXPECT_TRUE(box.isShown());
+}
+
+TEST_F(ComponentsTest, ControlArraysAndTheListingOfAPage) {
+  forms::Frame frame(form, "frame", "&Power && more");
+  const forms::ControlArray<forms::OptionButton> options{
+      "optPower", {{2, frame, "&Discrete"}, {0, frame, "N&one"}}};
+  forms::CheckBox check(form, "chk", "Relay");
+  options(0).setChosen(true);
+  options(2).setEnabled(false);
+  check.setChecked(true);
+  check.setVisible(false);
+  EXPECT_EQ(numberOf([&] { options(1).setChosen(true); }), 9);
+  EXPECT_EQ(forms::listing(form),
+            "frame: frame \"Power & more\"\n"
+            "  optPower(2): option button \"Discrete\", disabled, tab stop\n"
+            "  optPower(0): option button \"None\", chosen, tab stop\n"
+            "chk: check box \"Relay\", checked, hidden, tab stop\n");
+  std::string indexes;
+  options.each([&](std::int16_t index, auto&) { indexes += std::to_string(index); });
+  EXPECT_EQ(indexes, "02");
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,427 @@
+#include <functional>
+
+#include "tests/forms/Desk.h"
+
+namespace tests {
+namespace {
+
+using Act = std::function<void(Wizard&, forms::User&)>;
+
+class FocusTest : public Desk {
+ protected:
+  std::string focused(Wizard& wizard) {
+    const forms::Control* control = wizard.focus().control();
+    return control ? control->name() : "none";
+  }
+
+  std::string stops(Wizard& wizard) {
+    std::string names;
+    for (const forms::Control* control : wizard.focus().stops()) names += control->name() + " ";
+    return names;
+  }
+};
+
+TEST_F(FocusTest, LeavingAControl) {
+  struct Case {
+    const char* situation;
+    Act start;
+    const char* refusing;
+    Act act;
+    Journal journal;
+    const char* focus;
+  };
+  const Act onName = [](Wizard& w, forms::User& u) { u.moveFocus(w.page.name); };
+  const Act onList = [](Wizard& w, forms::User& u) { u.moveFocus(w.page.selector.list); };
+  const Act clickCheck = [](Wizard& w, forms::User& u) { u.click(w.page.check); };
+  const Act clickNext = [](Wizard& w, forms::User& u) { u.click(w.next); };
+
+  const std::vector<Case> cases{
+      {"within the page",
+       onName,
+       "",
+       clickCheck,
+       {"validate name (name)", "lost name", "got check", "click check"},
+       "check"},
+      {"within the page, refused: no click",
+       onName,
+       "name",
+       clickCheck,
+       {"validate name (name)"},
+       "name"},
+      {"out of the page: no active control while it validates",
+       onName,
+       "",
+       clickNext,
+       {"validate name (none)", "validate first (none)", "lost name", "got next", "click next"},
+       "next"},
+      {"out of the page is never refused",
+       onName,
+       "name",
+       clickNext,
+       {"validate name (none)", "validate first (none)", "lost name", "got next", "click next"},
+       "next"},
+      {"an accelerator is a move like a click",
+       onName,
+       "name",
+       [](Wizard&, forms::User& u) { u.pressAccelerator(U'N'); },
+       {"validate name (none)", "validate first (none)", "lost name", "got next", "click next"},
+       "next"},
+      {"Tab within the page, refused",
+       onName,
+       "name",
+       [](Wizard&, forms::User& u) { u.tab(); },
+       {"validate name (name)"},
+       "name"},
+      {"out of a selector: its own control refuses nothing, the selector does",
+       onList,
+       "list",
+       [](Wizard& w, forms::User& u) { u.moveFocus(w.page.name); },
+       {"validate list (selector)", "validate selector (selector)", "lost list", "got name"},
+       "name"},
+      {"out of a selector, refused for the page",
+       onList,
+       "selector",
+       [](Wizard& w, forms::User& u) { u.moveFocus(w.page.name); },
+       {"validate list (selector)", "validate selector (selector)"},
+       "list"},
+      {"into a selector",
+       onName,
+       "name",
+       [](Wizard& w, forms::User& u) { u.select(w.page.selector.list, 1); },
+       {"validate name (name)"},
+       "name"},
+      {"to the page's header",
+       onName,
+       "name",
+       [](Wizard& w, forms::User& u) { u.select(w.tabs.strip, 1); },
+       {"validate name (none)", "validate first (none)", "lost name", "got strip"},
+       "strip"},
+      {"a click on a label moves nothing",
+       onName,
+       "name",
+       [](Wizard& w, forms::User& u) { u.click(w.page.label); },
+       {"click label"},
+       "name"},
+      {"a click on what has the focus moves nothing",
+       onName,
+       "name",
+       [](Wizard& w, forms::User& u) { u.click(w.page.name); },
+       {},
+       "name"},
+      {"the program validates nothing",
+       onName,
+       "name",
+       [](Wizard& w, forms::User&) { w.page.delay.setFocus(); },
+       {"lost name", "got delay"},
+       "delay"},
+      {"the program gives a container's focus to the first stop in it",
+       onName,
+       "",
+       [](Wizard& w, forms::User&) { w.page.selector.setFocus(); },
+       {"lost name", "got list"},
+       "list"},
+      {"the close box validates nothing",
+       onName,
+       "name",
+       [](Wizard& w, forms::User& u) { u.close(w); },
+       {},
+       "name"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.situation);
+    Wizard wizard;
+    onForm(wizard, [&](forms::Form&) {
+      c.start(wizard, user);
+      wizard.journal.clear();
+      wizard.refusing = c.refusing;
+      c.act(wizard, user);
+      EXPECT_EQ(wizard.journal, c.journal);
+      EXPECT_EQ(focused(wizard), c.focus);
+    });
+  }
+}
+
+TEST_F(FocusTest, ActiveControlOfEachRootOnTheWay) {
+  Wizard wizard;
+  onForm(wizard, [&](forms::Form&) {
+    user.moveFocus(wizard.page.selector.list);
+    EXPECT_EQ(wizard.activeControl(), &wizard.tabs);
+    EXPECT_EQ(wizard.tabs.activeControl(), &wizard.page);
+    EXPECT_EQ(wizard.page.activeControl(), &wizard.page.selector);
+    user.moveFocus(wizard.next);
+    EXPECT_EQ(wizard.activeControl(), &wizard.next);
+    EXPECT_EQ(wizard.tabs.activeControl(), nullptr);
+    EXPECT_EQ(wizard.page.activeControl(), nullptr);
+    EXPECT_TRUE(wizard.page.validateActiveControl());
+
+    user.moveFocus(wizard.page.name);
+    wizard.refusing = "name";
+    EXPECT_FALSE(wizard.page.validateActiveControl());
+  });
+}
+
+TEST_F(FocusTest, HandlersThatInterfereWithAMove) {
+  Wizard wizard;
+  onForm(wizard, [&](forms::Form&) {
+    user.moveFocus(wizard.page.name);
+    wizard.journal.clear();
+    bool once = true;
+    wizard.page.name.lostFocus.connect([&] {
+      if (std::exchange(once, false)) wizard.page.name.setFocus();
+    });
+    user.click(wizard.next);
+    EXPECT_EQ(wizard.journal.back(), "click next")
+        << "a box that takes the focus back stops no click";
+    EXPECT_EQ(focused(wizard), "name");
+
+    wizard.page.name.validate.connect([&](bool&) { wizard.page.check.setEnabled(false); });
+    wizard.journal.clear();
+    user.click(wizard.page.check);
+    EXPECT_EQ(wizard.journal, Journal{"validate name (name)"});
+    EXPECT_EQ(focused(wizard), "name");
+  });
+}
+
+TEST_F(FocusTest, TabOrder) {
+  struct Case {
+    const char* situation;
+    Act change;
+    const char* stops;
+  };
+  const std::vector<Case> cases{
+      {"a group of options has one stop", [](Wizard&, forms::User&) {},
+       "name delay check one list rows next "},
+      {"the chosen option is the stop", [](Wizard& w, forms::User&) { w.page.two.setChosen(true); },
+       "name delay check two list rows next "},
+      {"a first option that is disabled",
+       [](Wizard& w, forms::User&) { w.page.one.setEnabled(false); },
+       "name delay check two list rows next "},
+      {"hidden, disabled and without tab stop",
+       [](Wizard& w, forms::User&) {
+         w.page.name.setVisible(false);
+         w.page.delay.setEnabled(false);
+         w.page.check.setTabStop(false);
+       },
+       "one list rows next "},
+      {"a disabled frame", [](Wizard& w, forms::User&) { w.page.frame.setEnabled(false); },
+       "name delay check list rows next "},
+      {"a user control without tab stop",
+       [](Wizard& w, forms::User&) { w.page.selector.setTabStop(false); },
+       "name delay check one rows next "},
+      {"a page without tab stop", [](Wizard& w, forms::User&) { w.page.setTabStop(false); },
+       "next "},
+      {"a strip with tab stop", [](Wizard& w, forms::User&) { w.tabs.strip.setTabStop(true); },
+       "strip name delay check one list rows next "},
+      {"another page",
+       [](Wizard& w, forms::User&) {
+         w.tabs.strip.setCurrentPage(1);
+         w.tabs.second.name.setTabStop(false);
+       },
+       "delay check one list rows next "},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.situation);
+    Wizard wizard;
+    onForm(wizard, [&](forms::Form&) {
+      c.change(wizard, user);
+      EXPECT_EQ(stops(wizard), c.stops);
+      wizard.next.setFocus();
+      std::string walked;
+      const std::size_t count = wizard.focus().stops().size();
+      for (std::size_t i = 0; i < count; ++i) {
+        user.tab();
+        walked += focused(wizard) + " ";
+      }
+      EXPECT_EQ(walked, c.stops);
+      user.shiftTab();
+      const auto order = wizard.focus().stops();
+      EXPECT_EQ(focused(wizard), order[(2 * count - 2) % count]->name());
+    });
+  }
+}
+
+TEST_F(FocusTest, FocusThatCantStaySettlesBehindItsPlace) {
+  struct Case {
+    const char* situation;
+    Act change;
+    const char* focus;
+  };
+  const std::vector<Case> cases{
+      {"disabled", [](Wizard& w, forms::User&) { w.page.delay.setEnabled(false); }, "check"},
+      {"hidden with its user control", [](Wizard& w, forms::User&) { w.page.setVisible(false); },
+       "next"},
+      {"on a page that no longer shows",
+       [](Wizard& w, forms::User&) { w.tabs.strip.setCurrentPage(1); }, "name"},
+      {"nothing is left",
+       [](Wizard& w, forms::User&) {
+         w.tabs.setVisible(false);
+         w.next.setEnabled(false);
+       },
+       "none"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.situation);
+    Wizard wizard;
+    onForm(wizard, [&](forms::Form&) {
+      user.moveFocus(wizard.page.delay);
+      wizard.journal.clear();
+      c.change(wizard, user);
+      EXPECT_EQ(focused(wizard), "delay");
+      wizard.focus().settle();
+      EXPECT_EQ(focused(wizard), c.focus);
+      EXPECT_EQ(wizard.journal.front(), "lost delay") << "nothing is validated";
+    });
+  }
+}
+
+TEST_F(FocusTest, ControlDisabledDuringItsOwnClickKeepsTheFocus) {
+  Wizard wizard;
+  forms::Form dialog("dialog");
+  wizard.next.click.connect([&] {
+    wizard.next.setEnabled(false);
+    dialog.showModal(&wizard);
+    wizard.next.setEnabled(true);
+  });
+  desktop.whenShown("dialog", [](forms::Form& form) { form.hide(); });
+  onForm(wizard, [&](forms::Form&) {
+    user.click(wizard.next);
+    EXPECT_EQ(focused(wizard), "next");
+  });
+}
+
+TEST_F(FocusTest, ProgramCantFocusWhatAUserCantReach) {
+  Wizard wizard;
+  wizard.page.delay.setEnabled(false);
+  for (forms::Control* control : {static_cast<forms::Control*>(&wizard.page.delay),
+                                  static_cast<forms::Control*>(&wizard.page.label),
+                                  static_cast<forms::Control*>(&wizard.tabs.second.name)}) {
+    try {
+      control->setFocus();
+      ADD_FAILURE() << control->name();
+    } catch (const forms::Error& error) {
+      EXPECT_EQ(error.number(), forms::errors::invalidCall);
+    }
+  }
+}
+
+TEST_F(FocusTest, AcceleratorsAndArrows) {
+  Wizard wizard;
+  onForm(wizard, [&](forms::Form&) {
+    user.moveFocus(wizard.next);
+    EXPECT_TRUE(user.pressAccelerator(U'm'));
+    EXPECT_EQ(focused(wizard), "name") << "a label gives the focus to the control behind it";
+    EXPECT_FALSE(user.pressAccelerator(U'x'));
+
+    user.press('O', 4);
+    EXPECT_EQ(focused(wizard), "one");
+    EXPECT_TRUE(wizard.page.one.isChosen());
+
+    wizard.page.two.setEnabled(false);
+    user.press(forms::keys::down);
+    EXPECT_EQ(focused(wizard), "three");
+    EXPECT_TRUE(wizard.page.three.isChosen());
+    user.press(forms::keys::right);
+    EXPECT_EQ(focused(wizard), "one") << "round the end";
+  });
+}
+
+TEST_F(FocusTest, DefaultAndCancelButtons) {
+  struct Dialog : forms::Form {
+    Dialog() : Form("dialog") {
+      ok.setDefault(true);
+      cancel.setCancel(true);
+      box.validate.connect([](bool& refused) { refused = true; });
+      ok.click.connect([this] { journal.push_back("ok"); });
+      other.click.connect([this] { journal.push_back("other"); });
+      cancel.click.connect([this] { journal.push_back("cancel"); });
+    }
+    forms::TextBox box{*this, "box"};
+    forms::CommandButton other{*this, "other"};
+    forms::CommandButton ok{*this, "ok"};
+    forms::CommandButton cancel{*this, "cancel"};
+    Journal journal;
+  } dialog;
+  onForm(dialog, [&](forms::Form&) {
+    user.press(forms::keys::enter);
+    EXPECT_EQ(dialog.journal, Journal{}) << "the box refuses";
+    user.press(forms::keys::escape);
+    EXPECT_EQ(dialog.journal, Journal{"cancel"}) << "nothing is validated";
+    user.press(forms::keys::enter);
+    dialog.other.setFocus();
+    user.press(forms::keys::enter);
+    EXPECT_EQ(dialog.journal, (Journal{"cancel", "cancel", "other"}));
+    dialog.ok.setEnabled(false);
+    dialog.box.setFocus();
+    user.press(forms::keys::enter);
+    EXPECT_EQ(dialog.journal.size(), 3U);
+  });
+
+  Wizard wizard;
+  onForm(wizard, [&](forms::Form&) {
+    user.moveFocus(wizard.page.name);
+    wizard.journal.clear();
+    user.press(forms::keys::enter);
+    user.press(forms::keys::escape);
+    EXPECT_EQ(wizard.journal, Journal{}) << "without such buttons the keys do nothing";
+  });
+}
+
+TEST_F(FocusTest, LabelEditIsTakenBeforeTheFocusMovesOrThePageChanges) {
+  const std::vector<Act> leaving{
+      [](Wizard& w, forms::User& u) { u.click(w.next); },
+      [](Wizard& w, forms::User& u) { u.select(w.page.rows, 1); },
+      [](Wizard& w, forms::User&) { w.tabs.strip.setCurrentPage(1); },
+      [](Wizard& w, forms::User&) { w.next.setFocus(); },
+  };
+  for (const Act& leave : leaving) {
+    Wizard wizard;
+    std::string atValidation;
+    wizard.page.rows.validate.connect([&](bool&) { atValidation = wizard.page.rows.text(0, 0); });
+    wizard.page.rows.afterLabelEdit.connect(
+        [](bool&, std::string& text) { text = text.substr(0, 6); });
+    onForm(wizard, [&](forms::Form&) {
+      user.select(wizard.page.rows, 0);
+      wizard.page.rows.startLabelEdit();
+      user.labelText(wizard.page.rows, "Laptop left");
+      leave(wizard, user);
+      EXPECT_FALSE(wizard.page.rows.isEditing());
+      EXPECT_EQ(wizard.page.rows.text(0, 0), "Laptop");
+      EXPECT_TRUE(atValidation.empty() || atValidation == "Laptop") << atValidation;
+    });
+  }
+}
+
+TEST_F(FocusTest, UserIsRefusedWhatAPersonIsRefused) {
+  Wizard wizard;
+  EXPECT_THROW(user.click(wizard.next), forms::Refused) << "not shown";
+  onForm(wizard, [&](forms::Form&) {
+    EXPECT_THROW(user.click(wizard.tabs.second.check), forms::Refused) << "on another page";
+    wizard.page.frame.setEnabled(false);
+    EXPECT_THROW(user.click(wizard.page.one), forms::Refused);
+    EXPECT_TRUE(wizard.page.one.isEnabled()) << "its own flag";
+    wizard.tabs.setVisible(false);
+    EXPECT_THROW(user.type(wizard.page.name, "x"), forms::Refused);
+    EXPECT_TRUE(wizard.page.name.isVisible());
+
+    forms::Form dialog("dialog");
+    onForm(dialog, [&](forms::Form&) {
+      EXPECT_THROW(user.click(wizard.next), forms::Refused);
+      EXPECT_THROW(user.close(wizard), forms::Refused);
+    });
+  });
+}
+
+TEST_F(FocusTest, ControlThatGoesTakesItsFocusAlong) {
+  Wizard wizard;
+  onForm(wizard, [&](forms::Form&) {
+    auto page = std::make_unique<Page>(wizard, "third");
+    user.moveFocus(page->name);
+    page.reset();
+    EXPECT_EQ(focused(wizard), "none");
+    wizard.focus().settle();
+    EXPECT_EQ(focused(wizard), "name");
+  });
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,132 @@
+#include "forms/Text.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "forms/Numbers.h"
+
+namespace tests {
+namespace {
+
+TEST(NumbersTest, LeadingNumber) {
+  struct Case {
+    const char* text;
+    double number;
+  };
+  for (const Case& c :
+       {Case{"", 0},    {"abc", 0},    {"  12", 12}, {"-5", -5}, {"+7x", 7},     {"1.5", 1.5},
+        {"1.5.2", 1.5}, {".5", 0.5},   {"5.", 5},    {".", 0},   {"-", 0},       {"- 5", 0},
+        {"1,5", 1},     {"1e3", 1000}, {"1e", 1},    {"1e+", 1}, {"2E-1s", 0.2}, {"0x10", 0},
+        {"&H10", 0},    {"12 3", 12},  {"\t12", 0},  {"inf", 0}, {"nan", 0},     {"1e-999", 0},
+        {"90s", 90},    {"-0", 0}}) {
+    EXPECT_EQ(forms::leadingNumber(c.text), c.number) << '"' << c.text << '"';
+  }
+  EXPECT_FALSE(std::signbit(forms::leadingNumber("-0")));
+  EXPECT_EQ(forms::leadingNumber("1e999"), std::numeric_limits<double>::max());
+  EXPECT_EQ(forms::leadingNumber(std::string(400, '9')), std::numeric_limits<double>::max());
+  EXPECT_EQ(forms::leadingNumber("0." + std::string(400, '0') + "1"), 0);
+}
+
+TEST(NumbersTest, RoundedAndHeldInTheirTypes) {
+  struct Case {
+    double value;
+    std::int16_t held;
+    bool fits;
+  };
+  for (const Case& c : {Case{0.5, 0, true},
+                        {1.5, 2, true},
+                        {2.5, 2, true},
+                        {-0.5, 0, true},
+                        {-1.5, -2, true},
+                        {-2.5, -2, true},
+                        {2.4999, 2, true},
+                        {2.5001, 3, true},
+                        {32767.4, 32767, true},
+                        {32767.5, 32767, false},
+                        {-32768.5, -32768, true},
+                        {-32769, -32768, false},
+                        {1e300, 32767, false},
+                        {std::numeric_limits<double>::quiet_NaN(), 0, false}}) {
+    EXPECT_EQ(forms::toInt16(c.value), c.held) << c.value;
+    EXPECT_EQ(forms::fitsInt16(c.value), c.fits) << c.value;
+  }
+  EXPECT_EQ(forms::toInt32(1e300), 2147483647);
+  EXPECT_EQ(forms::toInt32(-2147483649.0), std::numeric_limits<std::int32_t>::min());
+  EXPECT_TRUE(forms::fitsInt32(2147483647.4));
+  EXPECT_EQ(forms::absolute(-32768), 32767);
+  EXPECT_EQ(forms::absolute(-120), 120);
+}
+
+TEST(NumbersTest, DecimalTexts) {
+  EXPECT_EQ(forms::decimal(-32768), "-32768");
+  EXPECT_EQ(forms::decimal(0.1F), "0.1");
+  EXPECT_EQ(forms::decimal(2.0F), "2");
+  EXPECT_EQ(forms::decimal(1e10F), "10000000000");
+  EXPECT_EQ(forms::decimalWithSignPlace(5), " 5");
+  EXPECT_EQ(forms::decimalWithSignPlace(-5), "-5");
+}
+
+TEST(TextTest, CountsCodePoints) {
+  const std::string text = "a\u00e4\u20ac\U0001F600";
+  EXPECT_EQ(forms::length(text), 4);
+  EXPECT_EQ(forms::left(text, 2), "a\u00e4");
+  EXPECT_EQ(forms::right(text, 2), "\u20ac\U0001F600");
+  EXPECT_EQ(forms::withoutLast(text, 1), "a\u00e4\u20ac");
+  for (const std::int32_t count : {4, 5}) {
+    EXPECT_EQ(forms::left(text, count), text);
+    EXPECT_EQ(forms::right(text, count), text);
+    EXPECT_EQ(forms::withoutLast(text, count), "");
+  }
+  EXPECT_EQ(forms::left(text, 0), "");
+  EXPECT_EQ(forms::fromCodePoints(forms::toCodePoints(text)), text);
+}
+
+TEST(TextTest, BytesThatAreNoUtf8CountAsOneEach) {
+  struct Case {
+    const char* what;
+    const char* text;
+    std::int32_t length;
+  };
+  for (const Case& c : {Case{"stray continuation", "a\x80z", 3},
+                        {"overlong", "\xC0\xAF", 2},
+                        {"surrogate", "\xED\xA0\x80", 3},
+                        {"above the last", "\xF4\x90\x80\x80", 4},
+                        {"cut off", "\xE2\x82", 2},
+                        {"broken off by a letter", "\xE2\x82z", 3}}) {
+    EXPECT_EQ(forms::length(c.text), c.length) << c.what;
+    EXPECT_EQ(forms::toCodePoints(c.text).find(char32_t{0xFFFD}) != std::u32string::npos, true)
+        << c.what;
+  }
+}
+
+TEST(TextTest, Case) {
+  struct Case {
+    const char* upper;
+    const char* lower;
+  };
+  for (const Case& c : {Case{"POWER [1]", "power [1]"},
+                        {"\u00c4\u00d8\u0178", "\u00e4\u00f8\u00ff"},
+                        {"\u0141\u010c\u017d", "\u0142\u010d\u017e"},
+                        {"\u0391\u03a9\u038c", "\u03b1\u03c9\u03cc"},
+                        {"\u0416\u0401", "\u0436\u0451"},
+                        {"\u00d7\u00f7\u00df", "\u00d7\u00f7\u00df"}}) {
+    EXPECT_EQ(forms::lowerCase(c.upper), c.lower);
+    EXPECT_EQ(forms::upperCase(c.lower), c.upper);
+    EXPECT_TRUE(forms::equalsIgnoringCase(c.upper, c.lower));
+  }
+  EXPECT_LT(forms::compareIgnoringCase("alpha", "Beta"), 0);
+  EXPECT_GT(forms::compareIgnoringCase("B", "a"), 0);
+  EXPECT_LT(forms::compareIgnoringCase("ab", "ABC"), 0);
+}
+
+TEST(TextTest, TrimmedAndReplaced) {
+  EXPECT_EQ(forms::trimmed("  a b\t "), "a b\t");
+  EXPECT_EQ(forms::trimmed("   "), "");
+  EXPECT_EQ(forms::replacedAll("aaa", "aa", "b"), "ba");
+  EXPECT_EQ(forms::replacedAll("OL-RX1", "OL-", ""), "RX1");
+}
+
+}  // namespace
+}  // namespace tests

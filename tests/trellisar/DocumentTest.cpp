@@ -1,0 +1,305 @@
+#include "forms/Components.h"
+#include "host/Error.h"
+#include "tests/trellisar/World.h"
+
+namespace tests {
+namespace {
+
+class DocumentTest : public HostTest {
+ protected:
+  DocumentTest() { openTemplate(); }
+
+  trellisar::Document& document() { return *host.document(); }
+  std::int16_t receiver() { return data().controlSystem; }
+  std::shared_ptr<host::Signal> output(std::int16_t device, const std::string& name) {
+    return document().get_Signals()->Find(device, name, "", host::signalDigital);
+  }
+
+  /// "modified, current" and so on, after both marks were set to "unmodified, current" and `act` has run.
+  template <typename Act>
+  std::string marksAfter(Act&& act) {
+    data().isModified = false;
+    data().programIsCurrent = true;
+    act();
+    return std::string(data().isModified ? "modified" : "unmodified") + ", " +
+           (data().programIsCurrent ? "current" : "not current");
+  }
+
+  std::shared_ptr<host::Device> moduleDraft(const std::string& shortName, std::int16_t parent) {
+    const auto modules = host.libraryManager()->get_Modules();
+    for (const auto& entry : modules) {
+      if (entry->get_ShortName() != shortName) continue;
+      auto draft = forms::createObject<host::Device>(host::progIDDevice);
+      draft->CreateFromLibrary(entry, parent);
+      return draft;
+    }
+    return nullptr;
+  }
+
+  std::int16_t addModule(const std::string& shortName, std::shared_ptr<host::Device>& device) {
+    host::ModuleList list;
+    list.Add(moduleDraft(shortName, device->get_ID()), shortName);
+    return document().AddModules(list, device);
+  }
+};
+
+TEST_F(DocumentTest, MarksWhatWasChanged) {
+  EXPECT_EQ(marksAfter([] {}), "unmodified, current");
+  std::int16_t display = 0;
+  EXPECT_EQ(marksAfter([&] { display = addDisplay(); }), "modified, not current");
+  const auto device = document().get_Devices()->Item(display);
+  EXPECT_EQ(marksAfter([&] { device->put_Label("LABEL"); }), "modified, current");
+  EXPECT_EQ(marksAfter([&] { device->put_Label("LABEL"); }), "unmodified, current");
+  EXPECT_EQ(marksAfter([&] {
+              device->put_ShowInTree(false);
+              device->put_PowerControlType(host::powerDiscrete);
+              document().put_Name("Other");
+              document().put_Path("\\other\\");
+              document().get_SystemInfo()->SetAddInAttributes("Orlena", "x");
+              document().get_SystemInfo()->put_LastApplication("Orlena");
+              host.mainWindow()->SetDeviceIPAddress(device->get_DeviceHandle(), "127.0.0.1");
+              output(receiver(), "Powered_On")->get_Options()->EnableEvents(host::eventsAll, true);
+              static_cast<void>(document().get_Reports()->get_BillOfMaterials()->RemoveItem(99));
+            }),
+            "unmodified, current");
+
+  const auto on = preset("System Power On");
+  EXPECT_EQ(marksAfter([&] { on->ClearSteps(); }), "unmodified, current") << "it was empty";
+  EXPECT_EQ(marksAfter([&] { append(*on, host::stepDigital, 0, display, "Power_On"); }),
+            "unmodified, not current");
+  EXPECT_EQ(marksAfter([&] { on->ClearSteps(); }), "unmodified, not current");
+  const auto knob =
+      document().get_ControlSystem()->get_Properties()->Item("Volume Knob Control");
+  EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("0d")); }), "unmodified, current");
+  EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("1d")); }), "unmodified, not current");
+  EXPECT_EQ(marksAfter([&] { EXPECT_FALSE(knob->SetValue("2d")); }), "unmodified, current");
+  EXPECT_EQ(marksAfter([&] { output(receiver(), "Powered_On")->put_SourceType(4); }),
+            "unmodified, not current");
+
+  std::string message;
+  EXPECT_EQ(marksAfter([&] { document().ChangeControlSystem(841, "", 0, message); }),
+            "modified, not current");
+  EXPECT_EQ(marksAfter([&] { document().ChangeControlSystem(841, "", 0, message); }),
+            "unmodified, current");
+  EXPECT_EQ(marksAfter([&] {
+              EXPECT_TRUE(document().RemoveDevice(display, host::removalOfDevice));
+            }),
+            "modified, not current");
+  EXPECT_EQ(marksAfter([&] { document().SetModified(true, false, true); }), "modified, current");
+  EXPECT_EQ(marksAfter([&] { document().MarkChanged(); }), "modified, not current");
+  EXPECT_EQ(marksAfter([&] {
+              document().MarkChanged();
+              document().MarkUnchanged();
+            }),
+            "unmodified, not current");
+}
+
+TEST_F(DocumentTest, RemovedDeviceTakesAllThatNamesItAlong) {
+  const std::int16_t display = addDisplay();
+  auto device = document().get_Devices()->ItemByID(display);
+  ASSERT_EQ(addModule("PWRTIMEOUT", device), 1);
+  const std::int16_t module = device->get_Modules().front()->get_ID();
+  const std::int16_t relay = add("Power Relay", host::entryPowerRelay);
+
+  const auto on = preset("System Power On");
+  append(*on, host::stepDigital, 0, relay, "Relay_Close");
+  append(*on, host::stepDigital, 0, display, "Power_On");
+  append(*on, host::stepDelay, 0, module, "", "100");
+  const auto outer = branch(*on, receiver(), "Powered_On");
+  append(*outer, host::stepDigital, 0, display, "Power_On");
+  const auto tested = branch(*outer, module, "Warming_Up");
+  append(*tested, host::stepDigital, 0, relay, "Relay_Open");
+  const auto event = output(receiver(), "Powered_On")->GetEvent(0)->get_Preset();
+  append(*event, host::stepDigital, 0, display, "Power_On");
+  const auto fed = document().get_Signals()->Find(receiver(), "", "Lock", 1);
+  fed->put_SourceType(host::sourceSignal);
+  fed->put_SourceDeviceID(module);
+  fed->put_SourceSignalName("Warming_Up");
+  append(*output(module, "Warming_Up")->GetEvent(0)->get_Preset(), host::stepDigital, 0, relay,
+         "Relay_Open");
+  auto bill = document().get_Reports()->get_BillOfMaterials();
+  EXPECT_TRUE(bill->AddItem(0, 0, 4711, display));
+
+  EXPECT_TRUE(document().RemoveDevice(display, host::removalOfDevice));
+
+  EXPECT_EQ(trellisar::listing(data())["presets"][0]["steps"].dump(),
+            R"([{"kind":1,"target_type":0,"target":"Power Relay","signal":"Relay_Close"},)"
+            R"({"kind":9,"when":{"device":"Receiver","type":5,"signal":"Powered_On","state":"",)"
+            R"("compare":0,"value":1},"steps":[{"kind":1,"target_type":0,"target":"Power Relay",)"
+            R"("signal":"Relay_Open"}]}])");
+  EXPECT_EQ(event->get_StepCount(), 0);
+  EXPECT_EQ(fed->get_SourceType(), host::sourceEvents);
+  EXPECT_EQ(document().get_Devices()->ItemByID(module), nullptr);
+  EXPECT_NE(bill->Item(-display), nullptr) << "the bill is left alone";
+  EXPECT_EQ(device->get_ID(), 0);
+  EXPECT_THROW(static_cast<void>(device->get_Name()), host::Error);
+  EXPECT_GT(addDisplay(), module) << "an id is never given twice";
+}
+
+TEST_F(DocumentTest, RemovalsThatCantBeAreToldInTheLastError) {
+  EXPECT_FALSE(document().RemoveDevice(0, host::removalOfDevice));
+  EXPECT_EQ(document().GetLastError(), "Device 0 is not in the system.");
+  EXPECT_FALSE(document().RemoveDevice(receiver(), host::removalOfDevice));
+  EXPECT_EQ(document().GetLastError(), "\"Receiver\" is the control system and can't be removed.");
+  EXPECT_FALSE(document().RemoveTouchpanel(receiver(), host::removalOfTouchpanel));
+}
+
+TEST_F(DocumentTest, StepsAreRefusedOnlyWithoutTheirTarget) {
+  const auto on = preset("System Power On");
+  EXPECT_FALSE(append(*on, host::stepDigital, host::targetDevice, 999, "Power_On"));
+  EXPECT_FALSE(append(*on, host::stepCallPreset, host::targetPreset, 999, ""));
+  EXPECT_FALSE(append(*on, host::stepDigital, host::targetTouchpanel, receiver(), "Lock"));
+  EXPECT_FALSE(append(*on, 2, host::targetDevice, receiver(), "Lock"));
+  EXPECT_TRUE(append(*on, host::stepDigital, host::targetDevice, receiver(), "No_Such_Command"));
+  on->ClearSteps();
+
+  const auto step = forms::createObject<host::Step>(host::progIDStep);
+  EXPECT_TRUE(step->Init(host::stepDigital, host::targetDevice, 0, 999, "x")) << "in no preset yet";
+  EXPECT_FALSE(on->InsertStep(1, step));
+  EXPECT_FALSE(on->InsertStep(2, forms::createObject<host::Step>(host::progIDStep)));
+  const auto free = forms::createObject<host::Step>(host::progIDStep);
+  EXPECT_TRUE(on->InsertStep(1, free));
+  EXPECT_FALSE(on->InsertStep(1, free)) << "it stands there already";
+
+  auto deep = preset("System Power Off");
+  for (int depth = 0; depth < 20; ++depth) deep = branch(*deep, receiver(), "Powered_On");
+  EXPECT_FALSE(append(*deep, host::stepConditional, host::targetNone, 0, ""));
+  EXPECT_NO_THROW(trellisar::systemFileText(data()));
+}
+
+TEST_F(DocumentTest, InsertedStepGoesInFrontAndItsBranchIsFoundById) {
+  const auto on = preset("System Power On");
+  append(*on, host::stepDigital, 0, receiver(), "Lock");
+  const auto step = forms::createObject<host::Step>(host::progIDStep);
+  EXPECT_EQ(step->get_SubPresetID(), 0);
+  ASSERT_TRUE(on->InsertStep(1, step));
+  ASSERT_TRUE(step->Init(host::stepConditional, host::targetNone, 0, 0, ""));
+  EXPECT_EQ(on->get_Steps().front()->get_Kind(), host::stepConditional);
+  const std::int32_t id = step->get_SubPresetID();
+  ASSERT_NE(document().get_Presets()->ItemByID(id), nullptr);
+  on->ClearSteps();
+  EXPECT_EQ(document().get_Presets()->ItemByID(id), nullptr);
+}
+
+TEST_F(DocumentTest, CommandNamesComeFromTheMapBeforeTheDriver) {
+  const auto device = document().get_Devices()->Item(addDisplay());
+  const std::string driver = device->GetDefaultCommandName(host::scOn);
+  ASSERT_FALSE(driver.empty());
+  EXPECT_EQ(device->GetCommandName("166"), driver);
+
+  const auto entry = std::make_shared<host::StandardCommand>();
+  entry->put_StandardID(host::scOn);
+  std::string warning;
+  device->AddStandardCommand(entry, warning);
+  EXPECT_FALSE(warning.empty());
+  EXPECT_EQ(device->GetCommandName("166"), "") << "an empty entry answers empty";
+  EXPECT_EQ(device->GetDefaultCommandName(host::scOn), driver);
+
+  entry->put_CommandName("Menu");
+  device->AddStandardCommand(entry, warning);
+  EXPECT_EQ(warning, "");
+  ASSERT_EQ(device->get_StandardCommands().size(), 1u) << "it takes the place of the first";
+  bool changed = true;
+  device->SetCommandName("166", "Menu", changed);
+  EXPECT_FALSE(changed);
+  device->SetCommandName("165", "Freeze", changed);
+  EXPECT_TRUE(changed);
+  EXPECT_EQ(device->GetCommandName("165"), "Freeze");
+  device->get_StandardCommands().front()->put_CommandName("Enter");
+  EXPECT_EQ(device->GetCommandName("166"), "Enter") << "entries are the document's own";
+}
+
+TEST_F(DocumentTest, ModulesAreAddedOnceAndWorkBelowTheirDevice) {
+  auto device = document().get_Devices()->Item(addDisplay());
+  EXPECT_EQ(addModule("PWRSENSE", device), 1);
+  EXPECT_EQ(addModule("PWRSENSE", device), 1) << "also when it is there already";
+  ASSERT_EQ(device->get_Modules().size(), 1u);
+  const auto module = device->get_Modules().front();
+  ASSERT_EQ(module->get_CommandSlots().size(), 1u);
+  module->get_CommandSlots().front()->put_CommandName("Menu");
+  EXPECT_EQ(device->get_Modules().front()->get_CommandSlots().front()->get_CommandName(), "Menu");
+  EXPECT_TRUE(module->HasSignal("Power_On", host::directionInput, host::signalDigital));
+  EXPECT_NE(document().get_Devices()->ItemByID(module->get_ID()), nullptr);
+
+  const std::int16_t handle =
+      host.mainWindow()->GetPowerSensorDeviceHandle(1, {host::modelPowerSensor});
+  EXPECT_GT(handle, 0);
+  EXPECT_EQ(host.mainWindow()->GetPowerSensorDeviceHandle(1, {host::modelPowerSensor}), handle);
+  EXPECT_EQ(host.mainWindow()->GetPowerSensorDeviceHandle(1, {9}), 0);
+
+  auto blank = document().get_Devices()->Item(0);
+  EXPECT_EQ(addModule("PWRSENSE", blank), 0);
+}
+
+TEST_F(DocumentTest, ControlSystemChangesItsModelAndNothingElse) {
+  const auto before = document().get_ControlSystem();
+  const std::int16_t handle = before->get_DeviceHandle();
+  std::string message;
+  document().ChangeControlSystem(host::modelReceiverThreeInputs, "", 0, message);
+  EXPECT_EQ(message, "");
+  EXPECT_EQ(before->get_ModelID(), host::modelReceiverThreeInputs);
+  EXPECT_EQ(before->get_DeviceHandle(), handle);
+  EXPECT_EQ(before->get_ID(), receiver());
+  append(*output(receiver(), "Input3_Error")->GetEvent(0)->get_Preset(), host::stepDigital, 0,
+         receiver(), "Lock");
+
+  document().ChangeControlSystem(host::modelReceiverOneInput, "", 0, message);
+  EXPECT_NE(message.find("Input3_Error"), std::string::npos);
+  EXPECT_EQ(output(receiver(), "Input3_Error")->GetEvent(0)->get_Preset()->get_StepCount(), 1);
+  EXPECT_FALSE(before->HasSignal("Input3_Error", host::directionOutput, host::signalDigital));
+
+  document().ChangeControlSystem(7, "", 0, message);
+  EXPECT_NE(message.find("no receiver of model 7"), std::string::npos);
+  EXPECT_EQ(before->get_ModelID(), host::modelReceiverOneInput);
+}
+
+TEST_F(DocumentTest, BillEntriesAreLive) {
+  const auto bill = document().get_Reports()->get_BillOfMaterials();
+  const std::int32_t key = document().get_ControlSystem()->get_DeviceHandle();
+  const auto entry = bill->Item(key);
+  ASSERT_NE(entry, nullptr);
+  auto main = entry->get_MainItem();
+  main.put_PartID(20703);
+  entry->put_MainItem(main);
+  EXPECT_TRUE(bill->UpdateItem(entry->get_Key()));
+  entry->get_Parts()->Add(host::partPowerSensor, 1);
+  entry->get_Parts()->Add(host::partPowerSensor, 1);
+  EXPECT_EQ(bill->Item(key)->get_MainItem().get_PartID(), 20703);
+  EXPECT_EQ(bill->Item(key)->get_Parts()->get_Count(), 1);
+  bill->Item(key)->get_Parts()->Remove(host::partKeyPowerSensor);
+  EXPECT_FALSE(entry->get_Parts()->Exists(host::partKeyPowerSensor));
+  EXPECT_THROW(entry->get_Parts()->Remove(host::partKeyPowerSensor), host::Error);
+
+  const std::int16_t display = addDisplay();
+  EXPECT_FALSE(bill->AddItem(0, 0, 0, display));
+  EXPECT_TRUE(bill->AddItem(0, 0, 20711, display));
+  EXPECT_FALSE(bill->AddItem(0, 0, 20711, display));
+  EXPECT_TRUE(bill->RemoveItem(-display));
+  EXPECT_FALSE(bill->RemoveItem(-display));
+}
+
+TEST_F(DocumentTest, UnknownIdsAndNamesAreAnsweredAsTheListsSay) {
+  const auto devices = document().get_Devices();
+  EXPECT_EQ(devices->ItemByID(999), nullptr);
+  EXPECT_EQ(devices->Item(999)->get_ID(), 0);
+  EXPECT_NE(devices->FindByName("Digital Input 2", "Receiver"), nullptr);
+  EXPECT_EQ(devices->FindByName("digital input 2", "Receiver"), nullptr);
+  EXPECT_EQ(devices->FindByName("Digital Input 2", "Digital Input 1"), nullptr);
+  EXPECT_EQ(document().get_ControlSystem()->GetProperty("No"), nullptr);
+  EXPECT_THROW(document().get_ControlSystem()->get_Properties()->Item("No"), host::Error);
+  EXPECT_THROW(host.libraryManager()->get_Models()->Item(0, 7), host::Error);
+  EXPECT_EQ(host.libraryManager()->get_Models()->Item(0, 841)->get_PartID(), 20703);
+}
+
+TEST_F(DocumentTest, ClosedDocumentIsGoneForAllItsObjects) {
+  const auto old = host.document();
+  const auto device = old->get_ControlSystem();
+  const auto on = preset("System Power On");
+  old->Close();
+  EXPECT_THROW(static_cast<void>(old->get_Name()), host::Error);
+  EXPECT_THROW(static_cast<void>(device->get_Name()), host::Error);
+  EXPECT_THROW(on->ClearSteps(), host::Error);
+}
+
+}  // namespace
+}  // namespace tests

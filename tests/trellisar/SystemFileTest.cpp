@@ -1,0 +1,197 @@
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <functional>
+
+#include "tests/trellisar/World.h"
+#include "trellisar/FileIO.h"
+#include "trellisar/Json.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+using trellisar::readFile;
+using trellisar::readSystemFile;
+using trellisar::systemFileText;
+
+/// A room in which everything is stored that a file can hold.
+class SystemFileTest : public HostTest {
+ protected:
+  SystemFileTest() : file(folder.path() / "Room.tsy") {
+    openTemplate();
+    const std::int16_t display = addDisplay();
+    auto on = preset("Display Power On");
+    append(*on, host::stepDigital, host::targetDevice, display, "Power_On", "10");
+    const std::int16_t receiver = data().controlSystem;
+    const auto inner = branch(*branch(*on, receiver, "RGB_Selected"), receiver, "Powered_On");
+    append(*inner, host::stepCallPreset, host::targetPreset, preset("System Lock")->get_ID(), "");
+    const auto signal = host.document()->get_Signals()->Find(receiver, "Powered_On", "", 1);
+    append(*signal->GetEvent(host::eventLow)->get_Preset(), host::stepDelay, host::targetDevice,
+           display, "", "100");
+    signal->get_Options()->EnableEvents(host::eventsAll, true);
+    host.mainWindow()->AddInterface(host::modelFenlet, receiver, "");
+    const auto entry =
+        host.document()->get_Reports()->get_BillOfMaterials()->Item(data().bill.front()->key);
+    entry->get_Parts()->Add(host::partPowerSensor, 1);
+    host.document()->get_SystemInfo()->SetAddInAttributes("Orlena", "A=1;B(3)=;=;;");
+    data().name = "Room";
+    trellisar::saveSystemFile(data(), folder.inside("Room"));
+  }
+
+  /// The text of the error that reading gives; empty when it gives none.
+  std::string errorOf(const std::string& content) {
+    const fs::path other = folder.path() / "Other.tsy";
+    writeFile(other, content);
+    try {
+      readSystemFile(other, shippedLibrary());
+    } catch (const host::Error& error) {
+      return error.description();
+    }
+    return {};
+  }
+
+  /// The saved file after a change of its JSON.
+  std::string changed(const std::function<void(trellisar::Json&)>& change) {
+    auto json = trellisar::Json::parse(readFile(file));
+    change(json);
+    return json.dump();
+  }
+
+  fs::path file;
+};
+
+TEST_F(SystemFileTest, OpenedAndSavedGivesTheSameBytesAndTheSameListing) {
+  const std::string first = readFile(file);
+  trellisar::saveSystemFile(data(), folder.inside("Room.tsy"));
+  EXPECT_EQ(readFile(file), first);
+
+  const auto opened = readSystemFile(file, nullptr);
+  EXPECT_EQ(systemFileText(*opened), first);
+  EXPECT_FALSE(opened->isModified);
+  auto expected = trellisar::listing(data());
+  expected["folder"] = folder.inside("");
+  EXPECT_EQ(trellisar::listing(*opened).dump(1), expected.dump(1));
+}
+
+TEST_F(SystemFileTest, LiesWhereItLiesAndIsNamedAsItsFile) {
+  fs::create_directory(folder.path() / "moved");
+  const fs::path moved = folder.path() / "moved" / "rOOM.tsy";
+  fs::copy_file(file, moved);
+  EXPECT_EQ(readSystemFile(moved, nullptr)->folder, folder.inside("moved") + "\\");
+  EXPECT_EQ(readSystemFile(moved, nullptr)->name, "Room") << "differs in case alone";
+  const fs::path renamed = folder.path() / "moved" / "Hall.tsy";
+  fs::copy_file(file, renamed);
+  EXPECT_EQ(readSystemFile(renamed, nullptr)->name, "Hall");
+}
+
+TEST_F(SystemFileTest, CutAnywhereIsRefusedWithTheFilesName) {
+  const std::string whole = readFile(file);
+  for (std::size_t length = 0; length + 2 < whole.size(); length += 1 + whole.size() / 211) {
+    const std::string error = errorOf(whole.substr(0, length));
+    EXPECT_TRUE(error.starts_with("Other.tsy: ")) << "cut at " << length << ": " << error;
+  }
+}
+
+TEST_F(SystemFileTest, DamageIsToldWithItsPlace) {
+  using Json = trellisar::Json;
+  struct Case {
+    const char* error;
+    std::function<void(Json&)> damage;
+  };
+  const Case cases[] = {
+      {"format: is no Trellisar system", [](Json& j) { j["format"] = "other"; }},
+      {"version: the file is of version 2; this program reads version 1",
+       [](Json& j) { j["version"] = 2; }},
+      {"colour: is no key that is known here", [](Json& j) { j["colour"] = 1; }},
+      {"devices[2].name: is missing", [](Json& j) { j["devices"][2].erase("name"); }},
+      {"devices[1].port: must be a whole number from 0 to 32767",
+       [](Json& j) { j["devices"][1]["port"] = 40000; }},
+      {"devices[1].id: the id stands twice", [](Json& j) { j["devices"][1]["id"] = 1; }},
+      {"devices[0].handle: must be below \"next_handle\"", [](Json& j) { j["next_handle"] = 1; }},
+      {"devices[2].parent: there is no device under this id",
+       [](Json& j) { j["devices"][2]["parent"] = 999; }},
+      {"devices[0].definition: there is no such definition",
+       [](Json& j) { j["devices"][0]["definition"] = 99; }},
+      {"devices[0].properties.Volume Knob Control: \"9d\" is not what the property takes",
+       [](Json& j) { j["devices"][0]["properties"]["Volume Knob Control"] = "9d"; }},
+      {"control_system: there is no receiver under this id",
+       [](Json& j) { j["control_system"] = 2; }},
+      {"presets[2].steps[0].target: there is no device under this id",
+       [](Json& j) { j["presets"][2]["steps"][0]["target"] = 999; }},
+      {"presets[2].steps[0].kind: there is no such kind of step",
+       [](Json& j) { j["presets"][2]["steps"][0]["kind"] = 2; }},
+      {"presets[2].steps[1].steps[0].steps[0].preset: there is no preset \"Gone\"",
+       [](Json& j) { j["presets"][2]["steps"][1]["steps"][0]["steps"][0]["preset"] = "Gone"; }},
+      {"presets[1].name: the name stands twice",
+       [](Json& j) { j["presets"][1]["name"] = "System Power On"; }},
+  };
+  for (const Case& one : cases) {
+    EXPECT_EQ(errorOf(changed(one.damage)), "Other.tsy: " + std::string(one.error));
+  }
+  std::string twice = readFile(file);
+  twice.insert(1, "\"name\": \"Room\",");
+  EXPECT_EQ(errorOf(twice), "Other.tsy: name: the key stands twice");
+  EXPECT_NE(errorOf(std::string(200, '[')).find("is nested more than 100 deep"), std::string::npos);
+  EXPECT_NE(errorOf("\xff\xfe").find("The file is damaged"), std::string::npos);
+}
+
+TEST_F(SystemFileTest, FullDiskKeepsTheOldFileAndSaysWhy) {
+  const std::string old = readFile(file);
+  const pid_t child = fork();
+  if (child == 0) {
+    const rlimit limit{4096, 4096};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    data().name = "Another";
+    try {
+      trellisar::saveSystemFile(data(), folder.inside("Room"));
+    } catch (const host::Error& error) {
+      const bool says = error.description().find("larger than the disk") != std::string::npos;
+      _exit(says ? 0 : 2);
+    }
+    _exit(1);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_EQ(readFile(file), old);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1) << "nothing is left over";
+}
+
+TEST_F(SystemFileTest, KilledDuringASaveLeavesOneOfTheTwoWhole) {
+  data().application = "One";
+  const std::string one = systemFileText(data());
+  data().application = "Two";
+  const std::string two = systemFileText(data());
+  for (int round = 0; round < 40; ++round) {
+    const pid_t child = fork();
+    if (child == 0) {
+      while (true) {
+        trellisar::replaceFile(file, one);
+        trellisar::replaceFile(file, two);
+      }
+    }
+    usleep(static_cast<useconds_t>(1000 + round * 350));
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    const std::string left = readFile(file);
+    const bool isOld = round == 0 && left.find("\"Trellisar\"") != std::string::npos;
+    EXPECT_TRUE(left == one || left == two || isOld) << "in round " << round;
+  }
+  trellisar::replaceFile(file, one);
+  EXPECT_EQ(readFile(file), one) << "what a killed save leaves beside does not hinder the next";
+}
+
+TEST_F(SystemFileTest, SavedThroughALinkKeepsTheLink) {
+  const fs::path link = folder.path() / "Link.tsy";
+  fs::create_symlink(file, link);
+  data().application = "Linked";
+  trellisar::saveSystemFile(data(), folder.inside("Link"));
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_NE(readFile(file).find("\"Linked\""), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tests

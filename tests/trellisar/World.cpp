@@ -1,0 +1,93 @@
+#include "tests/trellisar/World.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+
+#include "forms/Components.h"
+#include "forms/Paths.h"
+#include "trellisar/DeviceLibrary.h"
+
+namespace tests {
+
+namespace fs = std::filesystem;
+
+fs::path dataFolder() { return fs::path(ORLENA_SOURCE_FOLDER) / "data"; }
+
+std::shared_ptr<const trellisar::DeviceLibrary> shippedLibrary() {
+  static const auto library =
+      std::make_shared<const trellisar::DeviceLibrary>(dataFolder() / "library");
+  return library;
+}
+
+TemporaryFolder::TemporaryFolder() {
+  std::string pattern = (fs::temp_directory_path() / "trellisar-test-XXXXXX").string();
+  path_ = ::mkdtemp(pattern.data());
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  fs::remove_all(path_, ignored);
+}
+
+std::string TemporaryFolder::inside(const std::string& name) const {
+  return forms::fromMachinePath(path_ / name);
+}
+
+void writeFile(const fs::path& file, const std::string& content) {
+  std::ofstream(file, std::ios::binary) << content;
+}
+
+HostTest::HostTest() : host({.dataFolder = dataFolder(), .library = shippedLibrary()}) {
+  application.setTitle("Trellisar");
+}
+
+trellisar::Document& HostTest::openTemplate() {
+  const fs::path file = dataFolder() / "TemplateSystems/Orlena TEMPLATE/Orlena TEMPLATE.tsy";
+  if (!host.mainWindow()->FileOpen(forms::fromMachinePath(file), false)) {
+    throw std::runtime_error("the template could not be opened");
+  }
+  return *host.document();
+}
+
+std::int16_t HostTest::add(const std::string& name, std::int16_t entry) {
+  host::AddDeviceArguments arguments;
+  arguments.strName = name;
+  arguments.strParentName = host.document()->get_ControlSystem()->get_Name();
+  arguments.iSlot = host::slotReceiverPorts;
+  arguments.iControlEntryID = entry;
+  EXPECT_TRUE(host.mainWindow()->AddDevice(arguments)) << arguments.strError;
+  return arguments.iDeviceID;
+}
+
+std::shared_ptr<host::Preset> HostTest::preset(const std::string& name) {
+  return host.document()->get_Presets()->FindByName(name);
+}
+
+bool HostTest::append(host::Preset& preset, std::int16_t kind, std::int16_t targetType,
+                      std::int32_t target, const std::string& signal, const std::string& value) {
+  const auto step = forms::createObject<host::Step>(host::progIDStep);
+  preset.InsertStep(static_cast<std::int16_t>(preset.get_StepCount() + 1), step);
+  if (!step->Init(kind, targetType, 0, target, signal)) return false;
+  if (!value.empty()) step->put_Value(value);
+  return true;
+}
+
+std::shared_ptr<host::Preset> HostTest::branch(host::Preset& preset, std::int16_t device,
+                                               const std::string& signal) {
+  const auto condition = std::make_shared<host::StepCondition>();
+  condition->put_DeviceID(device);
+  condition->put_ConditionType(host::conditionDigitalValue);
+  condition->put_SignalName(signal);
+  condition->put_Value(1);
+  const auto group = std::make_shared<host::StepConditionGroup>();
+  group->Add(condition);
+  const auto step = forms::createObject<host::Step>(host::progIDStep);
+  EXPECT_TRUE(step->Init(host::stepConditional, host::targetNone, 0, 0, ""));
+  step->put_Conditions(group);
+  EXPECT_TRUE(preset.InsertStep(static_cast<std::int16_t>(preset.get_StepCount() + 1), step));
+  return host.document()->get_Presets()->ItemByID(step->get_SubPresetID());
+}
+
+}  // namespace tests

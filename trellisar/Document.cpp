@@ -1,0 +1,145 @@
+#include "trellisar/Document.h"
+
+#include "host/Error.h"
+#include "host/Numbers.h"
+#include "trellisar/BillObjects.h"
+#include "trellisar/DeviceLists.h"
+#include "trellisar/DeviceObject.h"
+#include "trellisar/LibraryObjects.h"
+#include "trellisar/ProgramObjects.h"
+#include "trellisar/Provisioning.h"
+#include "trellisar/SystemFile.h"
+#include "trellisar/SystemInfoObject.h"
+
+namespace trellisar {
+namespace {
+
+using Kind = DeviceData::Kind;
+
+/// Names what the program uses of the control system and the new model lacks.
+std::string whatIsMissing(const DeviceData& receiver) {
+  std::string missing;
+  for (const auto& signal : receiver.signals) {
+    bool isUsed = signal->sourceType == host::sourceSignal;
+    for (const auto& event : signal->events) isUsed = isUsed || (event && !event->steps.empty());
+    const SignalRow& row = signal->row;
+    SignalRow found;
+    if (!isUsed || receiver.definition->findRow(row.output, row.input, row.type, found)) continue;
+    missing += "\r\n" + (row.output.empty() ? row.input : row.output);
+  }
+  return missing;
+}
+
+}  // namespace
+
+const DocumentPtr& Document::open() const {
+  if (!data_->isClosed) return data_;
+  throw host::Error(host::errDocumentClosed, "The system has been closed.");
+}
+
+void Document::SetModified(bool bModified, bool bProgram, bool) {
+  data().note(std::string("SetModified ") + (bModified ? "True" : "False"));
+  data().isModified = bModified;
+  if (bModified && bProgram) data().programIsCurrent = false;
+}
+
+void Document::Close() {
+  data_->note("Close");
+  data_->isClosed = true;
+}
+
+void Document::Save(const std::string& strFile, bool& bSaved) {
+  data().note("Save " + strFile);
+  bSaved = false;
+  try {
+    saveSystemFile(data(), strFile);
+    data().isModified = false;
+    bSaved = true;
+  } catch (const host::Error& error) {
+    data().lastError = error.description();
+  }
+}
+
+std::shared_ptr<host::DeviceList> Document::get_Devices() const { return makeDeviceList(open()); }
+
+std::shared_ptr<host::TouchpanelList> Document::get_Touchpanels() const {
+  return makeTouchpanelList(open());
+}
+
+std::shared_ptr<host::Device> Document::get_ControlSystem() const {
+  return get_Devices()->Item(data().controlSystem);
+}
+
+std::shared_ptr<host::SystemInfo> Document::get_SystemInfo() const {
+  return makeSystemInfo(open());
+}
+
+std::shared_ptr<host::PresetList> Document::get_Presets() const { return makePresetList(open()); }
+
+std::shared_ptr<host::SignalList> Document::get_Signals() const { return makeSignalList(open()); }
+
+std::shared_ptr<host::Reports> Document::get_Reports() const { return makeReports(open()); }
+
+bool Document::remove(std::int16_t id, Kind kind, const char* what) {
+  const DevicePtr device = data().find(id, kind);
+  if (!device) {
+    data().lastError = std::string(what) + " " + std::to_string(id) + " is not in the system.";
+    return false;
+  }
+  if (id == data().controlSystem) {
+    data().lastError = "\"" + device->name + "\" is the control system and can't be removed.";
+    return false;
+  }
+  removeDevice(data(), device);
+  return true;
+}
+
+bool Document::RemoveDevice(std::int16_t iDeviceID, const host::RemovalFlags&) {
+  data().note("RemoveDevice " + data().shownName(iDeviceID));
+  return remove(iDeviceID, Kind::device, "Device");
+}
+
+bool Document::RemoveTouchpanel(std::int16_t iDeviceID, const host::RemovalFlags&) {
+  data().note("RemoveTouchpanel " + data().shownName(iDeviceID));
+  return remove(iDeviceID, Kind::panel, "Touch panel");
+}
+
+std::shared_ptr<host::SlotDefinition> Document::GetSlotDefinition(std::int16_t iSlot,
+                                                                  std::string& strError) const {
+  strError.clear();
+  try {
+    return makeSlotDefinition(*data().library, iSlot);
+  } catch (const host::Error& error) {
+    strError = error.description();
+    return makeEmptySlotDefinition();
+  }
+}
+
+void Document::ChangeControlSystem(std::int16_t iModelID, const std::string&, std::int16_t,
+                                   std::string& strMessage) {
+  data().note("ChangeControlSystem " + std::to_string(iModelID));
+  strMessage.clear();
+  const DevicePtr receiver = data().find(data().controlSystem);
+  if (receiver->definition->modelId == iModelID) return;
+  const DefinitionPtr definition = data().library->findReceiver(iModelID);
+  if (!definition) {
+    strMessage = "The device library has no receiver of model " + std::to_string(iModelID) +
+                 ". The receiver stays as it is.";
+    return;
+  }
+  takeDefinition(*receiver, definition);
+  receiver->description = definition->description;
+  receiver->maker = definition->maker;
+  data().markStructureChanged();
+  const std::string missing = whatIsMissing(*receiver);
+  if (missing.empty()) return;
+  strMessage = "The program of \"" + receiver->name + "\" uses signals that the model " +
+               definition->model + " does not have:\r\n" + missing;
+}
+
+std::int16_t Document::AddModules(const host::ModuleList& colModules,
+                                  std::shared_ptr<host::Device>& oDevice) {
+  return addModules(open(), colModules, oDevice);
+}
+
+}  // namespace trellisar

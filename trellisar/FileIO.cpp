@@ -1,0 +1,171 @@
+#include "trellisar/FileIO.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <ctime>
+#include <system_error>
+#include <utility>
+
+#include "host/Error.h"
+
+namespace trellisar {
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(const std::string& what, const fs::path& file, int errorNumber) {
+  throw host::Error(host::errFile,
+                    what + " \"" + file.string() + "\": " + systemReason(errorNumber));
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor& operator=(Descriptor&&) = delete;
+
+  int number() const { return number_; }
+  bool isOpen() const { return number_ >= 0; }
+
+ private:
+  int number_;
+};
+
+/// A write beyond the limit on the size of a file is to fail like one on a full disk; as a signal it would end the
+/// program.
+class NoSizeSignal {
+ public:
+  NoSizeSignal() {
+    sigemptyset(&signal_);
+    sigaddset(&signal_, SIGXFSZ);
+    pthread_sigmask(SIG_BLOCK, &signal_, &old_);
+  }
+  ~NoSizeSignal() {
+    const timespec now{};
+    while (sigtimedwait(&signal_, nullptr, &now) > 0) {
+    }
+    pthread_sigmask(SIG_SETMASK, &old_, nullptr);
+  }
+  NoSizeSignal(const NoSizeSignal&) = delete;
+  NoSizeSignal& operator=(const NoSizeSignal&) = delete;
+
+ private:
+  sigset_t signal_{};
+  sigset_t old_{};
+};
+
+bool isSameFile(int descriptor, const fs::path& file) {
+  struct stat opened {};
+  struct stat named {};
+  return fstat(descriptor, &opened) == 0 && lstat(file.c_str(), &named) == 0 &&
+         opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
+}
+
+/// Opens the file that is written beside `file`, for this writer alone. Two programs that save the same system write one
+/// after the other and never into one file: who waited finds that the name has moved on and opens it anew.
+Descriptor openBeside(const fs::path& beside, const fs::path& file) {
+  while (true) {
+    Descriptor opened(
+        ::open(beside.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666));
+    if (!opened.isOpen()) fail("Can't write", file, errno);
+    if (flock(opened.number(), LOCK_EX) != 0) fail("Can't write", file, errno);
+    if (isSameFile(opened.number(), beside)) return opened;
+  }
+}
+
+/// 0, or the number of the error.
+int writeAll(int descriptor, std::string_view content) {
+  if (ftruncate(descriptor, 0) != 0) return errno;
+  while (!content.empty()) {
+    const ssize_t written = ::write(descriptor, content.data(), content.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return errno;
+    content.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return fsync(descriptor) == 0 ? 0 : errno;
+}
+
+/// What a link leads to, or the path itself.
+fs::path behindLinks(const fs::path& file) {
+  std::error_code error;
+  const fs::path target = fs::canonical(file, error);
+  return error ? file : target;
+}
+
+void keepMode(int descriptor, const fs::path& file) {
+  struct stat old {};
+  if (stat(file.c_str(), &old) == 0) {
+    static_cast<void>(fchmod(descriptor, old.st_mode & 07777U));
+  }
+}
+
+void flushFolder(const fs::path& folder) {
+  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (opened.isOpen()) static_cast<void>(fsync(opened.number()));
+}
+
+}  // namespace
+
+std::string systemReason(int errorNumber) {
+  switch (errorNumber) {
+    case ENOSPC:
+    case EDQUOT: return "the disk is full. Make room or choose another folder.";
+    case EFBIG: return "the file would be larger than the disk or its limit allows.";
+    case EACCES:
+    case EPERM: return "access is denied. Choose a folder that you may write to.";
+    case EROFS: return "the disk can only be read. Choose another folder.";
+    case ENOENT: return "it does not exist.";
+    case ENOTDIR: return "a file stands where a folder should be. Choose another folder.";
+    case EISDIR: return "a folder stands where the file should be. Choose another name.";
+    case ENAMETOOLONG: return "the name is too long.";
+    default: return std::generic_category().message(errorNumber) + ".";
+  }
+}
+
+std::string readFile(const fs::path& file) {
+  const Descriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!opened.isOpen()) fail("Can't read", file, errno);
+  struct stat status {};
+  if (fstat(opened.number(), &status) != 0) fail("Can't read", file, errno);
+  std::string content;
+  content.reserve(static_cast<std::size_t>(status.st_size) + 1);
+  char buffer[64 * 1024];
+  while (true) {
+    const ssize_t count = ::read(opened.number(), buffer, sizeof buffer);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) fail("Can't read", file, errno);
+    if (count == 0) return content;
+    content.append(buffer, static_cast<std::size_t>(count));
+  }
+}
+
+void replaceFile(const fs::path& named, std::string_view content) {
+  const fs::path file = behindLinks(named);
+  const fs::path beside = file.parent_path() / ("." + file.filename().string() + ".saving");
+  std::error_code ignored;
+  if (fs::is_directory(file, ignored)) fail("Can't write", named, EISDIR);
+  const NoSizeSignal noSizeSignal;
+  const Descriptor opened = openBeside(beside, named);
+  int error = writeAll(opened.number(), content);
+  if (error == 0) {
+    keepMode(opened.number(), file);
+    if (::rename(beside.c_str(), file.c_str()) != 0) error = errno;
+  }
+  if (error != 0) {
+    ::unlink(beside.c_str());
+    fail("Can't write", named, error);
+  }
+  flushFolder(file.parent_path());
+}
+
+}  // namespace trellisar

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace trellisar {
+
+/// The whole content of a file. Raises host::Error errFile with the file and the reason.
+std::string readFile(const std::filesystem::path& file);
+
+/// Replaces a file's content: writes a file beside it, flushes it to the disk and renames it, so that at every moment
+/// the file holds the old or the new content, whole. A link stays a link. Raises host::Error errFile with the file and
+/// the reason, and then the old content is untouched.
+void replaceFile(const std::filesystem::path& file, std::string_view content);
+
+/// "The disk is full." for the number of a failed system call.
+std::string systemReason(int errorNumber);
+
+}  // namespace trellisar

@@ -1,0 +1,193 @@
+#include <algorithm>
+
+#include "forms/Application.h"
+#include "forms/Paths.h"
+#include "forms/Text.h"
+#include "host/Error.h"
+#include "trellisar/MainWindowOperations.h"
+#include "trellisar/SystemFile.h"
+#include "trellisar/SystemFolders.h"
+#include "trellisar/SystemInfoObject.h"
+#include "trellisar/TimeText.h"
+
+namespace trellisar {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isThere(const fs::path& file) {
+  std::error_code error;
+  return fs::exists(file, error);
+}
+
+/// Why the name can't be a system's; empty when it can.
+std::string nameProblem(const std::string& name) {
+  if (name.empty()) return "A system must have a name.";
+  if (forms::length(name) > maximumNameLength) {
+    return "The name of a system has at most " + std::to_string(maximumNameLength) + " characters.";
+  }
+  const bool isReserved = name == "." || name == "..";
+  const bool hasIllegal = std::any_of(name.begin(), name.end(), [](unsigned char c) {
+    return c < ' ' || c == '/' || c == '\\' || c == 0x7F;
+  });
+  if (!isReserved && !hasIllegal) return {};
+  return "\"" + name + "\" can't be the name of a file. Choose another name for the system.";
+}
+
+}  // namespace
+
+void showFailure(const std::string& text) {
+  forms::Application::current().messageBox(text, forms::Buttons::ok, forms::Icon::exclamation);
+}
+
+std::string MainWindowOperations::chooseFile() const {
+  forms::FileDialog dialog;
+  dialog.title = "Open System";
+  dialog.filter = "Trellisar systems (*.tsy)|*.tsy";
+  dialog.initialFolder = GetDefaultSystemsFolder();
+  dialog.defaultExtension = "tsy";
+  return forms::Application::current().desktop().chooseFileToOpen(dialog);
+}
+
+std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string& strFile,
+                                                               bool bUseRecovery,
+                                                               bool& bCancelled) {
+  note("FileOpen " + strFile);
+  const std::string path = strFile.empty() ? chooseFile() : strFile;
+  bCancelled = path.empty();
+  if (bCancelled) return nullptr;
+  const fs::path file = forms::toMachinePath(path);
+  // Who names a file that isn't there tells the user so.
+  if (!strFile.empty() && !isThere(file)) return nullptr;
+  try {
+    const DocumentPtr data = readSystemFile(file, session_->library);
+    data->journal = session_->journal;
+    // A template is where systems come from and never where one is saved to without a question.
+    if (!bUseRecovery) data->ownFile.clear();
+    if (session_->document) session_->document->Close();
+    session_->document = std::make_shared<Document>(data);
+    if (bUseRecovery) session_->preferences.remember(path);
+    return session_->document;
+  } catch (const host::Error& error) {
+    forms::Application::current().messageBox(
+        "The system could not be opened.\r\n\r\n" + error.description(), forms::Buttons::ok,
+        forms::Icon::critical);
+    return nullptr;
+  }
+}
+
+bool MainWindowOperations::mayReplace(const fs::path& file) const {
+  const Replacing replacing = session_->replacing;
+  if (!isThere(file) || isSameFile(file, session_->data()->ownFile)) return true;
+  if (replacing == Replacing::always) return true;
+  const std::string name = "\"" + file.string() + "\"";
+  if (replacing == Replacing::never) {
+    showFailure("Another system is in the file " + name + ". It was not replaced.");
+    return false;
+  }
+  // The first button is the default one, so the question is put so that Yes does no harm.
+  return forms::Application::current().messageBox(
+             "Another system is in the file " + name + ".\r\n\r\nDo you want to keep that system? "
+             "Yes keeps it and does not save; No replaces it.",
+             forms::Buttons::yesNo, forms::Icon::question) == forms::Answer::no;
+}
+
+void MainWindowOperations::save(const std::string& path, const std::string& application) {
+  DocumentData& document = *session_->data();
+  MadeFolders folders(forms::toMachinePath(path).parent_path());
+  const std::string oldApplication = std::exchange(document.application, application);
+  try {
+    saveSystemFile(document, path);
+  } catch (const host::Error&) {
+    document.application = oldApplication;
+    throw;
+  }
+  folders.keep();
+  document.isModified = false;
+  session_->preferences.remember(withSystemExtension(path));
+}
+
+bool MainWindowOperations::FileSaveAs(const std::string& strFile,
+                                      const std::string& strApplication) {
+  note("FileSaveAs " + strFile + ", " + strApplication);
+  if (forms::fileNameOf(strFile).empty()) {
+    showFailure("The system could not be saved: it has no name. Give it one and save again.");
+    return false;
+  }
+  const std::string path = withSystemExtension(strFile);
+  try {
+    if (!mayReplace(forms::toMachinePath(path))) return false;
+    save(path, strApplication);
+    return true;
+  } catch (const host::Error& error) {
+    forms::Application::current().messageBox(
+        "The system could not be saved.\r\n\r\n" + error.description(), forms::Buttons::ok,
+        forms::Icon::critical);
+    return false;
+  }
+}
+
+void MainWindowOperations::DestroyDoc() {
+  note("DestroyDoc");
+  if (session_->document) session_->document->Close();
+  session_->document = nullptr;
+  session_->openSystems.clear();
+}
+
+std::string MainWindowOperations::GetDefaultSystemsFolder() const {
+  return defaultSystemsFolder(session_->preferences);
+}
+
+bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
+  note("CreateProjectFolder " + strFolder);
+  if (strFolder.empty() || strFolder.ends_with("\\\\")) {
+    showFailure("The system has no name, so its folder can't be made. Give the system a name.");
+    return false;
+  }
+  const fs::path folder = (forms::toMachinePath(strFolder) / "").parent_path();
+  const fs::path ownFile = session_->document ? session_->data()->ownFile : fs::path();
+  const fs::path foreign = foreignSystemIn(folder, ownFile);
+  const bool isReplaced =
+      session_->replacing == Replacing::always && foreign.stem() == folder.filename();
+  if (!foreign.empty() && !isReplaced) {
+    showFailure("The folder \"" + folder.string() + "\" holds another system, \"" +
+                foreign.filename().string() +
+                "\". Choose another name or another place for this system.");
+    return false;
+  }
+  try {
+    MadeFolders(folder).keep();
+    return true;
+  } catch (const host::Error& error) {
+    showFailure(error.description());
+    return false;
+  }
+}
+
+bool MainWindowOperations::CheckValidSystemName(std::string& strName) {
+  const std::string problem = nameProblem(strName);
+  if (!problem.empty()) {
+    forms::Application::current().messageBox(problem, forms::Buttons::ok,
+                                             forms::Icon::information);
+  }
+  return problem.empty();
+}
+
+void MainWindowOperations::ResetApplicationStatus(const std::string& strPath,
+                                                  const std::string& strName) {
+  note("ResetApplicationStatus " + strPath + ", " + strName);
+  std::erase(session_->openSystems, std::pair(strPath, strName));
+}
+
+void MainWindowOperations::SetApplicationStatus(const std::string& strPath,
+                                                const std::string& strName) {
+  note("SetApplicationStatus " + strPath + ", " + strName);
+  std::erase(session_->openSystems, std::pair(strPath, strName));
+  session_->openSystems.emplace_back(strPath, strName);
+}
+
+std::int32_t MainWindowOperations::GetHSeconds(const std::string& strTime, std::int16_t) const {
+  return hundredthsOfSecond(strTime);
+}
+
+}  // namespace trellisar

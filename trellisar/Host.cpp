@@ -1,0 +1,40 @@
+#include "trellisar/Host.h"
+
+#include "forms/Components.h"
+#include "forms/Paths.h"
+#include "host/Numbers.h"
+#include "trellisar/DeviceObject.h"
+#include "trellisar/ProgramObjects.h"
+
+namespace trellisar {
+namespace {
+
+namespace fs = std::filesystem;
+
+void registerDocumentObjects() {
+  forms::registerObject(host::progIDStep, [] { return std::make_shared<StepObject>(); });
+  forms::registerObject(host::progIDDevice, [] { return std::make_shared<DeviceObject>(); });
+}
+
+}  // namespace
+
+Host::Host(const HostOptions& options)
+    : dataFolder_(fs::absolute(options.dataFolder)), session_(std::make_shared<Session>()) {
+  registerDocumentObjects();
+  session_->library = options.library;
+  if (!session_->library) {
+    session_->library = std::make_shared<DeviceLibrary>(dataFolder_ / "library");
+  }
+  session_->libraryManager = std::make_shared<LibraryManager>(
+      session_->library, forms::fromMachinePath(dataFolder_ / "pictures"));
+  session_->preferences = Preferences(options.preferencesFile);
+  session_->replacing = options.replacing;
+  mainWindow_ = std::make_shared<MainWindowOperations>(session_);
+}
+
+const Pictures& Host::pictures() {
+  if (!pictures_) pictures_ = readPictures(dataFolder_ / "pictures");
+  return *pictures_;
+}
+
+}  // namespace trellisar

@@ -1,0 +1,45 @@
+#include "trellisar/PreferencesDialog.h"
+
+#include "forms/Application.h"
+#include "forms/Text.h"
+#include "trellisar/MainWindowOperations.h"
+#include "trellisar/SystemFolders.h"
+
+namespace trellisar {
+namespace {
+
+constexpr forms::Twips dialogWidth = 6600;
+
+}  // namespace
+
+PreferencesDialog::PreferencesDialog(Preferences& preferences)
+    : Dialog("Preferences", "Preferences"), preferences_(preferences) {
+  txtFolder.setText(preferences.defaultFolder());
+  lblUsual.setCaption("Without a folder of your own, new systems go to " +
+                      defaultSystemsFolder(Preferences()));
+  cmdBrowse.click.connect([this] { browse(); });
+  layOutAbove(dialogWidth, {forms::item(lblFolder),
+                            forms::row({forms::rest(txtFolder), forms::item(cmdBrowse)}),
+                            forms::rest(lblUsual)});
+}
+
+void PreferencesDialog::browse() {
+  const std::string folder = forms::Application::current().desktop().chooseFolder(
+      {windowHandle(), "Save new systems in this folder:", txtFolder.text()});
+  if (!folder.empty()) txtFolder.setText(folder);
+}
+
+bool PreferencesDialog::accept() {
+  const std::string folder = forms::trimmed(txtFolder.text());
+  if (!folder.empty() && !folder.starts_with('\\')) {
+    showFailure("\"" + folder +
+                "\" is no whole path of a folder. Choose the folder with Browse, or leave the box "
+                "empty for the usual one.");
+    txtFolder.setFocus();
+    return false;
+  }
+  preferences_.setDefaultFolder(folder);
+  return true;
+}
+
+}  // namespace trellisar

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "trellisar/DeviceLibrary.h"
+#include "trellisar/Document.h"
+#include "trellisar/Journal.h"
+#include "trellisar/LibraryObjects.h"
+#include "trellisar/Preferences.h"
+
+namespace trellisar {
+
+/// What happens to a system that stands where another is to be saved.
+enum class Replacing {
+  ask,     // the user decides
+  never,   // it stays, and the save fails
+  always,  // it is replaced
+};
+
+/// What the parts of one host share.
+struct Session {
+  std::shared_ptr<const DeviceLibrary> library;
+  std::shared_ptr<LibraryManager> libraryManager;
+  Preferences preferences;
+  Replacing replacing = Replacing::ask;
+  std::shared_ptr<Document> document;  // the open system; nothing when there is none
+  std::vector<std::pair<std::string, std::string>> openSystems;  // folder and name, as registered
+  std::shared_ptr<Journal> journal = std::make_shared<Journal>();
+
+  /// The document's data; raises host::Error errDocumentClosed when no system is open.
+  const DocumentPtr& data() const;
+};
+
+}  // namespace trellisar

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "trellisar/DocumentData.h"
+#include "trellisar/Preferences.h"
+
+namespace trellisar {
+
+/// The folder for new systems, with backslashes and one at the end: what the environment variable TRELLISAR_SYSTEMS
+/// names, or the preferences, or "Trellisar Systems" in the user's documents folder.
+std::string defaultSystemsFolder(const Preferences& preferences);
+
+/// Whether the two machine paths lead to one file.
+bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
+
+/// A system file of the folder that is not the document's own; empty when there is none.
+std::filesystem::path foreignSystemIn(const std::filesystem::path& folder,
+                                      const std::filesystem::path& ownFile);
+
+/// Makes a folder and those above it. Without `keep` they are removed again at the end, as far as they are empty.
+class MadeFolders {
+ public:
+  /// Raises host::Error errFile with the folder and the reason.
+  explicit MadeFolders(const std::filesystem::path& folder);
+  ~MadeFolders();
+  MadeFolders(const MadeFolders&) = delete;
+  MadeFolders& operator=(const MadeFolders&) = delete;
+
+  void keep() { made_.clear(); }
+
+ private:
+  void removeMade();
+
+  std::vector<std::filesystem::path> made_;  // the innermost last
+};
+
+}  // namespace trellisar

@@ -99,11 +99,15 @@ void IAddIn::IAddInContract_UseOpenFile(bool bUseOpenFile) {
   SetDocument(nullptr);
 }
 
-std::int32_t IAddIn::IAddInContract_HwndAddIn() const { return m_frmAddIn ? m_frmAddIn->Hwnd() : 0; }
+std::int32_t IAddIn::IAddInContract_HwndAddIn() const {
+  return m_frmAddIn ? m_frmAddIn->Hwnd() : 0;
+}
 
 std::string IAddIn::GetDescription() const {
-  return "Create an Orlena room solution. Use this Wizard for a low cost room solution to control a display device, "
-         "adjust the room volume, provide AV source selection and help desk capabilities, and more.";
+  return "Create an Orlena room solution. Use this Wizard for a low cost room solution to control "
+         "a display device, "
+         "adjust the room volume, provide AV source selection and help desk capabilities, and "
+         "more.";
 }
 
 std::vector<std::string> IAddIn::GetTabProgIDs() const {

@@ -33,8 +33,8 @@ std::shared_ptr<host::Device> FindDevice(std::int16_t iDeviceID) {
   return oDevice && oDevice->get_ID() > 0 ? oDevice : nullptr;
 }
 
-/// Enters the driver's command into the map in which the program looks it up. A driver without one gives an entry with
-/// an empty command, and nobody is warned.
+/// Enters the driver's command into the map in which the program looks it up. A driver without one
+/// gives an entry with an empty command, and nobody is warned.
 void SetStandardCommand(host::Device& oDevice, std::int16_t iStandardID) {
   const auto oCommand = std::make_shared<host::StandardCommand>();
   oCommand->put_DeviceID(oDevice.get_ID());
@@ -132,8 +132,8 @@ std::int16_t IAddIn::GetDigitalInputID(std::int16_t iInput) const {
 }
 
 void IAddIn::AddFenlet() {
-  const auto oPanel = gOwnerForm().AddInterface(host::modelFenlet,
-                                                gDocument().get_ControlSystem()->get_ID(), "");
+  const auto oPanel =
+      gOwnerForm().AddInterface(host::modelFenlet, gDocument().get_ControlSystem()->get_ID(), "");
   if (!oPanel) return;
   oPanel->put_ConnectSlot(GetDeviceSlot());
   m_iFenletID = oPanel->get_ID();

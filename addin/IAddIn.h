@@ -16,11 +16,12 @@
 
 namespace addin {
 
-/// The add-in's one creatable class: the contract with the host, the settings of the wizard, the system file, and the
-/// devices of the room. Each concern has a file of its own.
+/// The add-in's one creatable class: the contract with the host, the settings of the wizard, the
+/// system file, and the devices of the room. Each concern has a file of its own.
 ///
-/// The host creates it by the name that IAddInContract_ClassName gives, calls IAddInContract_Load and then
-/// IAddInContract_Run, which returns when the wizard has closed; both may be called again on the same object.
+/// The host creates it by the name that IAddInContract_ClassName gives, calls IAddInContract_Load
+/// and then IAddInContract_Run, which returns when the wizard has closed; both may be called again
+/// on the same object.
 class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<IAddIn> {
  public:
   IAddIn();
@@ -61,8 +62,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   std::int32_t GetActiveWindowHandle() const;
   void put_iPreviewImage(std::int16_t iImage) { m_iPreviewImage = iImage; }
 
-  // The answers that are stored with the system: Settings.cpp. Times are whole seconds but for the pulse times; check
-  // box values are 1 and 0, and writing any other number stores 0.
+  // The answers that are stored with the system: Settings.cpp. Times are whole seconds but for the
+  // pulse times; check box values are 1 and 0, and writing any other number stores 0.
   bool get_VolumeKnobControl() const { return m_strVolumeKnobControl == "1d"; }
   void put_VolumeKnobControl(bool bMaster);
   bool get_MicModeControl() const { return m_strMicModeControl == "1d"; }
@@ -88,8 +89,11 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void put_PowerOffLockoutTime(std::int16_t iSeconds);
   /// One of enumContactClosure.
   std::int16_t get_PowerContactClosureOption() const { return m_iPowerContactClosureOption; }
-  void put_PowerContactClosureOption(std::int16_t iOption) { m_iPowerContactClosureOption = iOption; }
-  /// Seconds, kept in hundredths; `intOption` 0 is the screen, 1 the lift. Writing stores the absolute value.
+  void put_PowerContactClosureOption(std::int16_t iOption) {
+    m_iPowerContactClosureOption = iOption;
+  }
+  /// Seconds, kept in hundredths; `intOption` 0 is the screen, 1 the lift. Writing stores the
+  /// absolute value.
   float get_PowerOnPulseTime(std::int16_t intOption) const;
   void put_PowerOnPulseTime(std::int16_t intOption, float sngSeconds);
   float get_PowerOffPulseTime(std::int16_t intOption) const;
@@ -101,8 +105,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   std::int16_t get_MotionSensorTimeout() const { return m_iMotionSensorTimeout; }
   void put_MotionSensorTimeout(std::int16_t iSeconds) { m_iMotionSensorTimeout = iSeconds; }
 
-  // The devices of the room, by their ids in the document; 0: the device isn't in the system. They are not stored but
-  // found again by name.
+  // The devices of the room, by their ids in the document; 0: the device isn't in the system. They
+  // are not stored but found again by name.
   std::int16_t get_ReceiverID() const { return m_iReceiverID; }
   std::int16_t get_DisplayDeviceID() const { return m_iDisplayDeviceID; }
   std::int16_t get_PowerRelayID() const { return m_iPowerRelayID; }
@@ -126,17 +130,20 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   bool LoadAttributes();
   bool SaveAttributes();
 
-  // The system file: SystemFile.cpp. False is a failure that the user has been told of, or his own refusal.
+  // The system file: SystemFile.cpp. False is a failure that the user has been told of, or his own
+  // refusal.
   bool StartSystem();
   bool NewSystem();
   bool OpenCurrentSystem();
   bool OpenSystemFile(bool& bCancelled);
-  /// Writes steps, settings and program into the document and saves it. `bShowWarnings` shows the generator's warnings.
+  /// Writes steps, settings and program into the document and saves it. `bShowWarnings` shows the
+  /// generator's warnings.
   bool SaveSystem(bool bShowWarnings, bool bSaveAs);
   /// The form of SaveSystem that the save button and the question on closing use.
   bool SaveSystemAs() { return SaveSystem(false, true); }
   bool CheckSystemLocation();
-  /// Offers to save. True: the caller may go on. `iResponse` takes the answer when there was a question.
+  /// Offers to save. True: the caller may go on. `iResponse` takes the answer when there was a
+  /// question.
   bool QueryCloseSystem(forms::Answer& iResponse);
   std::string GetTemplatePath() const;
   void SetLibraryFilter();
@@ -157,7 +164,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   /// 0 when the input isn't there.
   std::int16_t GetDigitalInputID(std::int16_t iInput) const;
   void HideDevice(std::int16_t iDeviceID);
-  /// Assigning a device also gives it its standard commands, and the display its starting power mode. 0 clears.
+  /// Assigning a device also gives it its standard commands, and the display its starting power
+  /// mode. 0 clears.
   void put_DisplayDeviceID(std::int16_t iDeviceID);
   void put_ScreenDeviceID(std::int16_t iDeviceID);
   void put_LiftDeviceID(std::int16_t iDeviceID);
@@ -184,7 +192,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void ChooseNewSystemName();
   void ShowWarnings(const ErrorItems& colErrorItems) const;
 
-  /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is what it was.
+  /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is
+  /// what it was.
   bool AddFixedDevice(const FixedDevice& device, const std::string& strName,
                       std::int16_t& iDeviceID);
   bool RemoveDevice(std::int16_t iDeviceID);

@@ -7,7 +7,8 @@
 namespace addin {
 namespace {
 
-/// The port that a transmitter's name ends in, counted from 1; 0 when it ends in anything but 1, 2 or 3.
+/// The port that a transmitter's name ends in, counted from 1; 0 when it ends in anything but 1, 2
+/// or 3.
 std::int16_t PortOf(const std::string& strName) {
   const std::string strPort = forms::right(strName, 1);
   if (strPort < "1" || strPort > "3") return 0;

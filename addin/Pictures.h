@@ -8,7 +8,8 @@
 
 namespace addin {
 
-/// The two lists that the steps take their pictures from. Created as "AddInOrlena.frmImages", once for a thread.
+/// The two lists that the steps take their pictures from. Created as "AddInOrlena.frmImages", once
+/// for a thread.
 class PictureLists : public forms::Object {
  public:
   virtual forms::ImageList& get_ImageList() = 0;

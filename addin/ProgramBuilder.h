@@ -14,11 +14,13 @@ using ErrorItems = std::vector<std::shared_ptr<host::clsErrorItem>>;
 /// What the add-in needs of the generator. Created as "AddInOrlena.Generate", anew for each run.
 class ProgramBuilder : public forms::Object {
  public:
-  /// Writes the room's control program into the open document. False: it is not complete, and GetLastError may say why.
+  /// Writes the room's control program into the open document. False: it is not complete, and
+  /// GetLastError may say why.
   [[nodiscard]] virtual bool Build() = 0;
   /// The text of the last failure; empty when there was none, or one without a text.
   virtual std::string GetLastError() const = 0;
-  /// The warnings of the run in the order in which they came up; the list itself, which the next Build replaces.
+  /// The warnings of the run in the order in which they came up; the list itself, which the next
+  /// Build replaces.
   virtual const ErrorItems& GetErrorItems() const = 0;
 };
 

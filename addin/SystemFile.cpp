@@ -30,7 +30,9 @@ std::string SystemFile() { return gDocument().get_Path() + gDocument().get_Name(
 
 }  // namespace
 
-bool IAddIn::StartSystem() { return m_bUseOpenFile && IsDocumentSet() ? OpenCurrentSystem() : NewSystem(); }
+bool IAddIn::StartSystem() {
+  return m_bUseOpenFile && IsDocumentSet() ? OpenCurrentSystem() : NewSystem();
+}
 
 std::string IAddIn::GetTemplatePath() const {
   return std::string("TemplateSystems\\") + strTemplateName + "\\" + strTemplateName + ".tsy";
@@ -151,6 +153,8 @@ bool IAddIn::QueryCloseSystem(Answer& iResponse) {
   return iResponse != Answer::cancel;
 }
 
-void IAddIn::SetLibraryFilter() { gLibraryManager().get_DeviceTypes()->put_DeviceFilter(colFilter); }
+void IAddIn::SetLibraryFilter() {
+  gLibraryManager().get_DeviceTypes()->put_DeviceFilter(colFilter);
+}
 
 }  // namespace addin

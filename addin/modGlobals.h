@@ -11,8 +11,8 @@
 #include "host/Numbers.h"
 #include "host/OwnerForm.h"
 
-/// One instance of each for the thread: they hang from its Application. The accessors raise host::Error 91 while theirs
-/// is empty, so that a click without a system is a message.
+/// One instance of each for the thread: they hang from its Application. The accessors raise
+/// host::Error 91 while theirs is empty, so that a click without a system is a message.
 namespace addin {
 
 class IAddIn;

@@ -87,9 +87,8 @@ bool Generate::AddDiscretePowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iD
     WarnOfMissingPowerCommand(ePowerOnOrOff, iDeviceID);
     return true;
   }
-  const std::string sName = GetDisplayPowerPreset(ePowerOnOrOff).sName;
-  const auto preset = FindPreset(sName);
-  if (!preset) return CannotFindSequence(sName);
+  const auto preset = FindSequence(GetDisplayPowerPreset(ePowerOnOrOff).sName);
+  if (!preset) return false;
   preset->ClearSteps();
 
   if (ePowerOnOrOff == addin::pdOn) AppendRelayCloseSteps(*preset);

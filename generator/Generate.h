@@ -45,6 +45,8 @@ class Generate : public addin::ProgramBuilder {
 
   // The toolbox, presets: ToolboxPresets.cpp. What is looked up is nothing when absent.
   static PresetPtr FindPreset(const std::string& sName);
+  /// A preset that steps are to go into: its absence is a failure with a text.
+  PresetPtr FindSequence(const std::string& sName);
   [[nodiscard]] static bool AddStep(host::Preset& preset, std::int16_t iIndex, const NewStep& step);
   /// A step at the end, whose result is not looked at.
   static void AppendStep(host::Preset& preset, const NewStep& step);

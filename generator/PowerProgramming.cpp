@@ -29,9 +29,8 @@ bool Generate::BuildPowerProgramming() {
 }
 
 bool Generate::ClearPowerPreset(std::int16_t ePowerOnOrOff) {
-  const std::string sName = GetSystemPowerPreset(ePowerOnOrOff).sName;
-  const auto preset = FindPreset(sName);
-  if (!preset) return CannotFindSequence(sName);
+  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  if (!preset) return false;
   preset->ClearSteps();
   return true;
 }
@@ -39,8 +38,8 @@ bool Generate::ClearPowerPreset(std::int16_t ePowerOnOrOff) {
 bool Generate::BuildLinkSystemToDisplayPower(std::int16_t ePowerOnOrOff) {
   const NamedPreset system = GetSystemPowerPreset(ePowerOnOrOff);
   const NamedPreset display = GetDisplayPowerPreset(ePowerOnOrOff);
-  const auto systemPreset = FindPreset(system.sName);
-  if (!systemPreset) return CannotFindSequence(system.sName);
+  const auto systemPreset = FindSequence(system.sName);
+  if (!systemPreset) return false;
   const auto displayPreset = FindPreset(display.sName);
   if (!displayPreset) return false;
   if (systemPreset->get_Comment().empty()) systemPreset->put_Comment(system.sComment);
@@ -59,9 +58,8 @@ bool Generate::AddAuxiliaryPulseStep(std::int16_t iAuxiliaryDevice, std::int16_t
                                      ? settings.get_ScreenDeviceID()
                                      : settings.get_LiftDeviceID();
   if (iDeviceID <= 0) return true;
-  const std::string sName = GetSystemPowerPreset(ePowerOnOrOff).sName;
-  const auto preset = FindPreset(sName);
-  if (!preset) return CannotFindSequence(sName);
+  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  if (!preset) return false;
   const std::string sCommand = GetAuxiliaryCommandName(iDeviceID, ePowerOnOrOff);
   if (sCommand.empty()) return true;
   const auto intOption = static_cast<std::int16_t>(iAuxiliaryDevice - addin::adtScreen);
@@ -89,9 +87,8 @@ bool Generate::BuildReceiverPowerOff() { return AddReceiverPowerStep(addin::pdOf
 bool Generate::AddReceiverPowerStep(std::int16_t ePowerOnOrOff) {
   const std::int16_t iReceiverID = addin::gAddIn().get_ReceiverID();
   if (iReceiverID <= 0) return true;
-  const std::string sName = GetSystemPowerPreset(ePowerOnOrOff).sName;
-  const auto preset = FindPreset(sName);
-  if (!preset) return CannotFindSequence(sName);
+  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  if (!preset) return false;
   AppendStep(*preset, Command(iReceiverID, GetReceiverPowerCommand(ePowerOnOrOff)));
   return true;
 }
@@ -103,9 +100,8 @@ bool Generate::BuildKestrumPowerFeedback() {
 bool Generate::AddKestrumPowerFeedbackStep(std::int16_t ePowerOnOrOff) {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
   if (iKestrumID <= 0) return true;
-  const std::string sName = GetSystemPowerPreset(ePowerOnOrOff).sName;
-  const auto preset = FindPreset(sName);
-  if (!preset) return CannotFindSequence(sName);
+  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  if (!preset) return false;
   AppendStep(*preset, Command(iKestrumID, GetKestrumPowerSignal(ePowerOnOrOff)));
   return true;
 }

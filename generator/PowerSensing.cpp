@@ -73,9 +73,8 @@ bool Generate::BuildSensedPower(std::int16_t ePowerOnOrOff, DevicePtr display,
 //    Power_On     sensing module            Relay_Open   power relay
 bool Generate::AddSensedPowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iModuleID) {
   const std::string sSlot = GetModulePowerSlot(ePowerOnOrOff);
-  const std::string sName = GetDisplayPowerPreset(ePowerOnOrOff).sName;
-  const auto preset = FindPreset(sName);
-  if (!preset) return CannotFindSequence(sName);
+  const auto preset = FindSequence(GetDisplayPowerPreset(ePowerOnOrOff).sName);
+  if (!preset) return false;
   preset->ClearSteps();
 
   if (ePowerOnOrOff == addin::pdOn) AppendRelayCloseSteps(*preset);

@@ -22,6 +22,12 @@ Generate::PresetPtr Generate::FindPreset(const std::string& sName) {
   return addin::gDocument().get_Presets()->FindByName(sName);
 }
 
+Generate::PresetPtr Generate::FindSequence(const std::string& sName) {
+  auto preset = FindPreset(sName);
+  if (!preset) CannotFindSequence(sName);
+  return preset;
+}
+
 bool Generate::AddStep(host::Preset& preset, std::int16_t iIndex, const NewStep& newStep) {
   const auto step = CreateStep();
   preset.InsertStep(iIndex, step);  // Init tells whether the step is good

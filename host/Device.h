@@ -13,10 +13,11 @@ namespace host {
 class Device;
 class LibraryModule;
 
-/// A property of a device or module. Values are texts, a constant in the document's syntax where the device wants one
+/// A property of a device or module. Values are texts, a constant in the document's syntax where
+/// the device wants one
 /// ("0d").
 class DeviceProperty {
-public:
+ public:
   virtual ~DeviceProperty() = default;
   virtual std::string get_Name() const = 0;
   virtual std::string get_Value() const = 0;
@@ -26,7 +27,7 @@ public:
 
 /// A device's properties by name, in the driver's order.
 class PropertyList {
-public:
+ public:
   virtual ~PropertyList() = default;
   /// Raises Error errUnknownKey for a name that the device does not have.
   virtual std::shared_ptr<DeviceProperty> Item(const std::string& strName) const = 0;
@@ -35,7 +36,7 @@ public:
 
 /// A command of a device's driver.
 class DeviceCommand {
-public:
+ public:
   virtual ~DeviceCommand() = default;
   virtual std::string get_Name() const = 0;
   virtual std::int16_t get_CommandType() const = 0;  // enumCommandType
@@ -43,7 +44,7 @@ public:
 
 /// The commands of a driver, in its order. Names are compared exactly.
 class CommandList {
-public:
+ public:
   virtual ~CommandList() = default;
   virtual bool Exists(const std::string& strName) const = 0;
   virtual std::vector<std::shared_ptr<DeviceCommand>> Items() const = 0;
@@ -51,7 +52,7 @@ public:
 
 /// A place of a module that takes a command of a device. DeviceID 0 and an empty command: unset.
 class ModuleCommandSlot {
-public:
+ public:
   virtual ~ModuleCommandSlot() = default;
   virtual std::string get_Name() const = 0;
   virtual std::int16_t get_DeviceID() const = 0;
@@ -60,13 +61,14 @@ public:
   virtual void put_CommandName(const std::string& strCommandName) = 0;
 };
 
-/// A device of the document, or a module that hangs below one. A reference stays usable while the document lives; using
-/// one whose device was removed raises Error errDocumentClosed, but for get_ID, which then answers 0.
+/// A device of the document, or a module that hangs below one. A reference stays usable while the
+/// document lives; using one whose device was removed raises Error errDocumentClosed, but for
+/// get_ID, which then answers 0.
 //
-/// A module is made with forms::createObject<Device>(progIDDevice), filled from its library entry, and handed to
-/// AddModules, which takes a copy.
+/// A module is made with forms::createObject<Device>(progIDDevice), filled from its library entry,
+/// and handed to AddModules, which takes a copy.
 class Device : public forms::Object {
-public:
+ public:
   virtual std::int16_t get_ID() const = 0;  // 0: no device
   virtual std::string get_Name() const = 0;
   virtual void put_Name(const std::string& strName) = 0;
@@ -108,7 +110,8 @@ public:
   /// Nothing when absent.
   virtual std::shared_ptr<DeviceProperty> GetProperty(const std::string& strName) const = 0;
   virtual std::shared_ptr<PropertyList> get_Properties() const = 0;
-  /// Whether there are properties to show; bAdvanced counts those too that are kept off the properties page.
+  /// Whether there are properties to show; bAdvanced counts those too that are kept off the
+  /// properties page.
   virtual bool HasProperties(bool bAdvanced) const = 0;
 
   virtual bool HasSignal(const std::string& strSignalName, std::int16_t iDirection,
@@ -120,21 +123,24 @@ public:
                                                      std::int16_t iDirection,
                                                      std::int16_t iSignalType) const = 0;
 
-  /// The command for a standard command id in decimal text: from the standard command map, where an entry with an empty
-  /// command answers empty, else the driver's default; empty when neither has one.
+  /// The command for a standard command id in decimal text: from the standard command map, where an
+  /// entry with an empty command answers empty, else the driver's default; empty when neither has
+  /// one.
   virtual std::string GetCommandName(const std::string& strStandardID) const = 0;
-  /// Writes the entry of the map, adding one if needed. bChanged tells whether GetCommandName answers another text now.
+  /// Writes the entry of the map, adding one if needed. bChanged tells whether GetCommandName
+  /// answers another text now.
   virtual void SetCommandName(const std::string& strStandardID, const std::string& strCommandName,
                               bool& bChanged) = 0;
   /// The driver's own, whatever the map holds; empty when it has none.
   virtual std::string GetDefaultCommandName(std::int16_t iStandardID) const = 0;
   virtual std::vector<std::shared_ptr<StandardCommand>> get_StandardCommands() const = 0;
-  /// Replaces an entry of the same standard id. strWarning names a command that is empty or that the driver lacks; the
-  /// entry is made all the same.
+  /// Replaces an entry of the same standard id. strWarning names a command that is empty or that
+  /// the driver lacks; the entry is made all the same.
   virtual void AddStandardCommand(const std::shared_ptr<StandardCommand>& oCommand,
                                   std::string& strWarning) = 0;
 
-  /// Fills a module that is not in a document yet from its library entry; iParentID is the device it will hang below.
+  /// Fills a module that is not in a document yet from its library entry; iParentID is the device
+  /// it will hang below.
   virtual void CreateFromLibrary(const std::shared_ptr<LibraryModule>& oEntry,
                                  std::int16_t iParentID) = 0;
 };

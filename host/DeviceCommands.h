@@ -19,7 +19,7 @@ inline constexpr LoadCommandsFlags commandsForPower{true, false};
 
 /// Lets a user choose one of a device's commands, or none.
 class DeviceCommands : public forms::UserControl {
-public:
+ public:
   DeviceCommands(forms::Container& container, std::string strName);
 
   /// The pictures that stand beside the commands; the list stays as long as the control.
@@ -27,14 +27,16 @@ public:
   /// What stands for "nothing assigned". Raises nothing.
   void SetEmptyText(const std::string& strText);
 
-  /// Offers the device's digital commands and selects one; empty selects nothing. A command that the device lacks is
-  /// offered besides and selected, so that what was stored stays. Raises CommandChanged once, at its end, always.
+  /// Offers the device's digital commands and selects one; empty selects nothing. A command that
+  /// the device lacks is offered besides and selected, so that what was stored stays. Raises
+  /// CommandChanged once, at its end, always.
   void LoadCommands(const Device& oDevice, const std::string& strSelected,
                     const LoadCommandsFlags& flags);
 
   /// Selects without an event; as in LoadCommands, a command that is not in the list is taken in.
   void SelectCommand(const std::string& strCommand);
-  /// What the control shows. An empty text shows nothing, with nothing selected; putting it raises nothing.
+  /// What the control shows. An empty text shows nothing, with nothing selected; putting it raises
+  /// nothing.
   std::string get_Text() const { return cboCommands.shownText(); }
   void put_Text(const std::string& strText);
 
@@ -43,7 +45,7 @@ public:
 
   forms::Event<> CommandChanged;
 
-private:
+ private:
   void cboCommands_Click();
   std::int32_t FirstCommand() const { return m_bOfferEmpty ? 1 : 0; }
 

@@ -12,7 +12,7 @@ namespace host {
 
 /// The modules that AddModules is to add, each under its key.
 class ModuleList {
-public:
+ public:
   /// Raises nothing: a second module under a key takes the first one's place.
   void Add(const std::shared_ptr<Device>& oModule, const std::string& strKey) {
     for (auto& [strOther, oOther] : m_colItems) {
@@ -28,14 +28,14 @@ public:
     return m_colItems;
   }
 
-private:
+ private:
   std::vector<std::pair<std::string, std::shared_ptr<Device>>> m_colItems;
 };
 
-/// The devices of a document in the order in which they were added, the control system first; modules are not among them
-/// but are found by id. Names are compared exactly.
+/// The devices of a document in the order in which they were added, the control system first;
+/// modules are not among them but are found by id. Names are compared exactly.
 class DeviceList {
-public:
+ public:
   virtual ~DeviceList() = default;
   virtual std::int16_t get_Count() const = 0;
   /// A blank device with id 0 when absent.
@@ -53,7 +53,7 @@ public:
 
 /// A user interface of the document.
 class Touchpanel {
-public:
+ public:
   virtual ~Touchpanel() = default;
   virtual std::int16_t get_ID() const = 0;
   virtual std::string get_Name() const = 0;
@@ -71,7 +71,7 @@ public:
 
 /// As DeviceList.
 class TouchpanelList {
-public:
+ public:
   virtual ~TouchpanelList() = default;
   virtual std::int16_t get_Count() const = 0;
   /// A blank panel with id 0 when absent.

@@ -14,7 +14,7 @@ namespace host {
 
 /// What the document knows about itself. Nothing here marks the document as modified.
 class SystemInfo {
-public:
+ public:
   virtual ~SystemInfo() = default;
   /// The settings text that an add-in keeps under its title; empty when there is none.
   virtual std::string GetAddInAttributes(const std::string& strTitle) const = 0;
@@ -32,8 +32,8 @@ public:
   virtual std::int32_t get_UploadHandle() const = 0;
 };
 
-/// The flags that follow the id in a removal. This host removes everything that names the device in every case and looks
-/// at none of them.
+/// The flags that follow the id in a removal. This host removes everything that names the device in
+/// every case and looks at none of them.
 struct RemovalFlags {
   bool bFlag2;
   bool bFlag3;
@@ -46,11 +46,12 @@ inline constexpr RemovalFlags removalOfTouchpanel{true, false, true, true, false
 
 /// The open system.
 //
-/// Adding, removing, replacing or choosing a device or interface, adding a module and changing the control system mark
-/// the document as modified and its program as not current; changing a preset, step, property, source or event marks the
-/// program as not current; a changed label marks the document as modified. Writing what is there already marks nothing.
+/// Adding, removing, replacing or choosing a device or interface, adding a module and changing the
+/// control system mark the document as modified and its program as not current; changing a preset,
+/// step, property, source or event marks the program as not current; a changed label marks the
+/// document as modified. Writing what is there already marks nothing.
 class Document {
-public:
+ public:
   virtual ~Document() = default;
 
   virtual std::string get_Name() const = 0;
@@ -60,8 +61,9 @@ public:
   virtual void put_Path(const std::string& strPath) = 0;
 
   virtual bool get_Modified() const = 0;
-  /// With bModified the document is modified, and with bProgram also its program not current; without bModified the
-  /// document is not modified and nothing else changes. bNotify tells the host's windows.
+  /// With bModified the document is modified, and with bProgram also its program not current;
+  /// without bModified the document is not modified and nothing else changes. bNotify tells the
+  /// host's windows.
   virtual void SetModified(bool bModified, bool bProgram, bool bNotify) = 0;
   /// An answer that the program depends on has changed.
   void MarkChanged() { SetModified(true, true, true); }
@@ -75,8 +77,8 @@ public:
 
   /// Ends the document without a question. All its objects are gone afterwards.
   virtual void Close() = 0;
-  /// Writes to strFile, to which ".tsy" is added; the folder must be there. bSaved tells whether it was written; what
-  /// hindered it is GetLastError.
+  /// Writes to strFile, to which ".tsy" is added; the folder must be there. bSaved tells whether it
+  /// was written; what hindered it is GetLastError.
   virtual void Save(const std::string& strFile, bool& bSaved) = 0;
 
   virtual std::shared_ptr<DeviceList> get_Devices() const = 0;
@@ -88,23 +90,27 @@ public:
   virtual std::shared_ptr<SignalList> get_Signals() const = 0;
   virtual std::shared_ptr<Reports> get_Reports() const = 0;
 
-  /// A device goes with its modules and with every step, source and slot that names them; a conditional step that tests
-  /// it gives way to the steps of its branch. The bill of materials is left alone. False: GetLastError.
+  /// A device goes with its modules and with every step, source and slot that names them; a
+  /// conditional step that tests it gives way to the steps of its branch. The bill of materials is
+  /// left alone. False: GetLastError.
   [[nodiscard]] virtual bool RemoveDevice(std::int16_t iDeviceID, const RemovalFlags& flags) = 0;
   [[nodiscard]] virtual bool RemoveTouchpanel(std::int16_t iDeviceID,
                                               const RemovalFlags& flags) = 0;
 
-  /// What the library offers for a slot. strError is empty when it could be had; else the definition is empty.
+  /// What the library offers for a slot. strError is empty when it could be had; else the
+  /// definition is empty.
   virtual std::shared_ptr<SlotDefinition> GetSlotDefinition(std::int16_t iSlot,
                                                             std::string& strError) const = 0;
 
-  /// Makes the receiver another model: id, name, handle, children, signals and events stay. strMessage tells the user
-  /// what can't stay, or why nothing was changed; empty when there is nothing to tell.
+  /// Makes the receiver another model: id, name, handle, children, signals and events stay.
+  /// strMessage tells the user what can't stay, or why nothing was changed; empty when there is
+  /// nothing to tell.
   virtual void ChangeControlSystem(std::int16_t iModelID, const std::string& strReserved,
                                    std::int16_t iReserved, std::string& strMessage) = 0;
 
-  /// Adds modules below a device and replaces oDevice by the device as it is then. The number of modules of the list that
-  /// hang there afterwards, those included that did so already; 0 when there is none.
+  /// Adds modules below a device and replaces oDevice by the device as it is then. The number of
+  /// modules of the list that hang there afterwards, those included that did so already; 0 when
+  /// there is none.
   [[nodiscard]] virtual std::int16_t AddModules(const ModuleList& colModules,
                                                 std::shared_ptr<Device>& oDevice) = 0;
 };

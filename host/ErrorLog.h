@@ -12,7 +12,7 @@ namespace host {
 
 /// A list of messages. It is filled by the error log of the host that it is attached to.
 class ErrorLog : public forms::UserControl {
-public:
+ public:
   ErrorLog(forms::Container& container, std::string strName);
 
   /// "hidecolumnheaders" and "showinformationitems".
@@ -29,8 +29,8 @@ public:
   /// Whether any message is shown.
   bool HasItems() const { return !m_colShown.empty(); }
 
-  /// Writes the messages that are shown, a line for each; with bAppend behind what the file holds. Raises Error errFile
-  /// with the file's name when it can't be written.
+  /// Writes the messages that are shown, a line for each; with bAppend behind what the file holds.
+  /// Raises Error errFile with the file's name when it can't be written.
   void SaveToFile(const std::string& strFile, bool bAppend) const;
 
   /// The messages that are shown, in their order.
@@ -38,7 +38,7 @@ public:
 
   forms::Event<const std::shared_ptr<clsErrorItem>&> ItemDoubleClicked;
 
-private:
+ private:
   void lvwItems_DoubleClick();
 
   forms::ListView lvwItems{*this, "lvwItems"};

@@ -15,7 +15,7 @@ namespace host {
 
 /// What the host asks of an add-in, made by its class name. The listing members answer at any time.
 class IAddInContract : public forms::Object {
-public:
+ public:
   virtual void IAddInContract_Load(const std::shared_ptr<Document>& clsDocument,
                                    const std::shared_ptr<LibraryManager>& clsLibraryManager,
                                    const std::shared_ptr<CommObject>& clsCommObject,

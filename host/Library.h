@@ -10,14 +10,14 @@ namespace host {
 
 /// The types of devices that the host offers.
 class DeviceTypes {
-public:
+ public:
   virtual ~DeviceTypes() = default;
   /// Offers only the devices of these types, until the next call; nothing offers all.
   virtual void put_DeviceFilter(const std::optional<std::vector<std::int16_t>>& colIDs) = 0;
 };
 
 class Model {
-public:
+ public:
   virtual ~Model() = default;
   virtual std::int16_t get_ModelID() const = 0;
   virtual std::string get_Name() const = 0;
@@ -25,15 +25,16 @@ public:
 };
 
 class Models {
-public:
+ public:
   virtual ~Models() = default;
-  /// Raises Error errUnknownKey for a model that the library does not have. iLibraryID is 0 for the library in use.
+  /// Raises Error errUnknownKey for a model that the library does not have. iLibraryID is 0 for the
+  /// library in use.
   virtual std::shared_ptr<Model> Item(std::int16_t iLibraryID, std::int16_t iModelID) const = 0;
 };
 
 /// A module that can hang below a device.
 class LibraryModule {
-public:
+ public:
   virtual ~LibraryModule() = default;
   virtual std::int16_t get_ID() const = 0;
   virtual std::string get_ShortName() const = 0;
@@ -44,7 +45,7 @@ public:
 
 /// A device that the library offers.
 class LibraryDevice {
-public:
+ public:
   virtual ~LibraryDevice() = default;
   virtual std::string get_Name() const = 0;
   virtual std::string get_Description() const = 0;
@@ -56,13 +57,13 @@ public:
 
 /// What fits into a slot, in the library's order.
 class SlotDefinition {
-public:
+ public:
   virtual ~SlotDefinition() = default;
   virtual std::vector<std::shared_ptr<LibraryDevice>> get_LibraryDevices() const = 0;
 };
 
 class LibraryManager {
-public:
+ public:
   virtual ~LibraryManager() = default;
   virtual std::shared_ptr<DeviceTypes> get_DeviceTypes() const = 0;
   virtual std::shared_ptr<Models> get_Models() const = 0;

@@ -2,17 +2,17 @@
 
 #include <cstdint>
 
-/// The numbers that stand in a document, in the device library and in the host's operations. They are plain enumerations,
-/// so that they pass as the 16-bit and 32-bit integers of the interfaces.
+/// The numbers that stand in a document, in the device library and in the host's operations. They
+/// are plain enumerations, so that they pass as the 16-bit and 32-bit integers of the interfaces.
 namespace host {
 
 /// The slot that takes every device and interface below the receiver.
 inline constexpr std::int16_t slotReceiverPorts = 15;
 
 enum enumStepKind : std::int16_t {
-  stepDigital = 1,      // command; the value is empty, a hold time in hundredths, levelHigh or levelLow
-  stepAnalog = 5,       // command; the value is a constant such as "2d"
-  stepSerial = 6,       // command; the value is the text to send
+  stepDigital = 1,  // command; the value is empty, a hold time in hundredths, levelHigh or levelLow
+  stepAnalog = 5,   // command; the value is a constant such as "2d"
+  stepSerial = 6,   // command; the value is the text to send
   stepCallPreset = 7,   // the target is the preset's id
   stepConditional = 9,  // has conditions and a branch
   stepDelay = 11,       // the value is the time in hundredths
@@ -56,7 +56,7 @@ enum enumDirection : std::int16_t {
 };
 
 enum enumConditionType : std::int32_t {
-  conditionNamedState = 1,   // "Is Open" or "Is Closed" of a device input
+  conditionNamedState = 1,    // "Is Open" or "Is Closed" of a device input
   conditionDigitalValue = 5,  // the value of a digital signal
 };
 
@@ -132,7 +132,8 @@ enum enumErrorSeverity : std::int16_t {
   severityWarning = 2,
 };
 
-/// Places in the host's two lists of pictures, counted from 1. The large list but for pictureSmall...
+/// Places in the host's two lists of pictures, counted from 1. The large list but for
+/// pictureSmall...
 enum enumPicture : std::int16_t {
   pictureFenlet = 9,
   pictureDisplay = 12,

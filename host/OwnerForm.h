@@ -14,7 +14,8 @@ class Form;
 
 namespace host {
 
-/// The arguments of OwnerForm::AddDevice in their order; numbered ones have no meaning for an add-in.
+/// The arguments of OwnerForm::AddDevice in their order; numbered ones have no meaning for an
+/// add-in.
 struct AddDeviceArguments {
   std::string strName;
   std::string strParentName;
@@ -58,15 +59,15 @@ struct SystemManagerOptions {
 
 /// The host's main window: the operations that an add-in calls by name. Paths have backslashes.
 class OwnerForm {
-public:
+ public:
   virtual ~OwnerForm() = default;
 
   /// The window itself; nothing where the host runs without one.
   virtual forms::Form* get_Form() const = 0;
 
-  /// Opens a file, or asks for one when strFile is empty; bCancelled tells that the user chose none. Nothing on failure,
-  /// which the user has been told. The open document is replaced only when the new one could be opened. bUseRecovery
-  /// allows a recovery file in its place.
+  /// Opens a file, or asks for one when strFile is empty; bCancelled tells that the user chose
+  /// none. Nothing on failure, which the user has been told. The open document is replaced only
+  /// when the new one could be opened. bUseRecovery allows a recovery file in its place.
   virtual std::shared_ptr<Document> FileOpen(const std::string& strFile, bool bUseRecovery,
                                              bool& bCancelled) = 0;
   std::shared_ptr<Document> FileOpen(const std::string& strFile, bool bUseRecovery) {
@@ -75,14 +76,15 @@ public:
   }
   std::shared_ptr<Document> FileOpen(bool& bCancelled) { return FileOpen("", true, bCancelled); }
 
-  /// Saves the open document as strFile with ".tsy" and makes the folders. Asks before another system's file is replaced.
-  /// False: it was not saved, and the user has been told why.
+  /// Saves the open document as strFile with ".tsy" and makes the folders. Asks before another
+  /// system's file is replaced. False: it was not saved, and the user has been told why.
   [[nodiscard]] virtual bool FileSaveAs(const std::string& strFile,
                                         const std::string& strApplication) = 0;
   /// The host forgets its document and its registration, if there is one.
   virtual void DestroyDoc() = 0;
   virtual std::string GetDefaultSystemsFolder() const = 0;  // ends in a backslash
-  /// Makes the folder of a system. False, with a message: it can't be made, holds another system, or has no name.
+  /// Makes the folder of a system. False, with a message: it can't be made, holds another system,
+  /// or has no name.
   [[nodiscard]] virtual bool CreateProjectFolder(const std::string& strFolder) = 0;
   /// False, with a message: the name can't be a system's.
   virtual bool CheckValidSystemName(std::string& strName) = 0;
@@ -106,7 +108,8 @@ public:
   /// The handle of the iNumber-th power sensor of one of the models; 0: the library has none.
   virtual std::int16_t GetPowerSensorDeviceHandle(std::int16_t iNumber,
                                                   const std::vector<std::int16_t>& colModels) = 0;
-  /// Shows the pages, given by their program ids; without any it shows nothing. Returns when the user has closed them.
+  /// Shows the pages, given by their program ids; without any it shows nothing. Returns when the
+  /// user has closed them.
   virtual void ShowControlledDeviceProperties(std::int16_t iDeviceID,
                                               const std::vector<std::string>& colTabs) = 0;
 
@@ -117,7 +120,8 @@ public:
   virtual void SetQueryResponse(std::int16_t iResponse) = 0;
 
   virtual std::shared_ptr<UIManager> GetUIMgr() = 0;
-  /// Makes the panel's project; may replace the object in oPanel. False: the project could not be made.
+  /// Makes the panel's project; may replace the object in oPanel. False: the project could not be
+  /// made.
   [[nodiscard]] virtual bool CreateTouchpanels(std::shared_ptr<Touchpanel>& oPanel) = 0;
 
   virtual void ShowPreferencesDialog() = 0;

@@ -5,10 +5,11 @@
 
 namespace host {
 
-/// An entry of a device's standard command map: which of the driver's commands stands for a standard command. An entry
-/// taken from Device::get_StandardCommands is the document's own: what is put into it is in the document.
+/// An entry of a device's standard command map: which of the driver's commands stands for a
+/// standard command. An entry taken from Device::get_StandardCommands is the document's own: what
+/// is put into it is in the document.
 class StandardCommand {
-public:
+ public:
   std::int16_t get_DeviceID() const { return m_iDeviceID; }
   void put_DeviceID(std::int16_t iDeviceID) { m_iDeviceID = iDeviceID; }
 
@@ -26,7 +27,7 @@ public:
   const std::string& get_Name() const { return m_strName; }
   void put_Name(const std::string& strName) { m_strName = strName; }
 
-private:
+ private:
   std::int16_t m_iDeviceID = 0;
   std::int16_t m_iStandardID = 0;
   std::string m_strCommandName;

@@ -9,7 +9,7 @@ namespace host {
 
 /// One test of a conditional step.
 class StepCondition {
-public:
+ public:
   std::int16_t get_DeviceID() const { return m_iDeviceID; }
   void put_DeviceID(std::int16_t iDeviceID) { m_iDeviceID = iDeviceID; }
 
@@ -31,7 +31,7 @@ public:
 
   bool operator==(const StepCondition&) const = default;
 
-private:
+ private:
   std::int16_t m_iDeviceID = 0;
   std::int32_t m_lConditionType = 0;
   std::string m_strSignalName;
@@ -42,11 +42,11 @@ private:
 
 /// The tests of a conditional step. Programs use one test; a branch runs when all hold.
 class StepConditionGroup {
-public:
+ public:
   void Add(const std::shared_ptr<StepCondition>& oCondition) { m_colItems.push_back(oCondition); }
   const std::vector<std::shared_ptr<StepCondition>>& Items() const { return m_colItems; }
 
-private:
+ private:
   std::vector<std::shared_ptr<StepCondition>> m_colItems;
 };
 

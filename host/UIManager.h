@@ -14,7 +14,7 @@ class ErrorLog;
 
 /// An object on a page of a panel project.
 class PageObject {
-public:
+ public:
   virtual ~PageObject() = default;
   virtual std::int32_t get_ID() const = 0;
   virtual std::string get_Text() const = 0;  // lines end with CR LF
@@ -22,14 +22,14 @@ public:
 
 /// The project of a panel.
 class TessraProject {
-public:
+ public:
   virtual ~TessraProject() = default;
   virtual std::string get_Name() const = 0;
 };
 
 /// The panel design application.
 class TessraApp {
-public:
+ public:
   virtual ~TessraApp() = default;
   /// The project of the panel that CreateTouchpanels made last; nothing when there is none.
   virtual std::shared_ptr<TessraProject> GetAssignedProject() const = 0;
@@ -44,17 +44,18 @@ public:
 };
 
 class Projects {
-public:
+ public:
   virtual ~Projects() = default;
   forms::Event<> OnStartBuild;
 };
 
 /// The messages of a panel build. Not the control ErrorLog, which shows them while it is attached.
 class TessraErrorLog {
-public:
+ public:
   virtual ~TessraErrorLog() = default;
   virtual void Clear() = 0;
-  /// Not owned; nothing when none is attached. Whoever attaches a control clears it before the control goes.
+  /// Not owned; nothing when none is attached. Whoever attaches a control clears it before the
+  /// control goes.
   virtual ErrorLog* get_AttachedControl() const = 0;
   virtual void put_AttachedControl(ErrorLog* oControl) = 0;
 
@@ -64,7 +65,7 @@ public:
 
 /// The host's manager of panel projects.
 class UIManager {
-public:
+ public:
   virtual ~UIManager() = default;
   virtual void SetIncludeDefaultPages(bool bInclude) = 0;
   virtual void SetIncludeSharedPages(bool bInclude) = 0;

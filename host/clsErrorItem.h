@@ -9,7 +9,7 @@ namespace host {
 
 /// A message in an error list.
 class clsErrorItem {
-public:
+ public:
   virtual ~clsErrorItem() = default;
 
   std::int16_t get_Severity() const { return m_iSeverity; }  // enumErrorSeverity
@@ -22,13 +22,14 @@ public:
   bool get_CanActivate() const { return m_bCanActivate; }
   void put_CanActivate(bool bCanActivate) { m_bCanActivate = bCanActivate; }
 
-  /// Shows the place that the message speaks of. An item without one, or with CanActivate False, does nothing.
+  /// Shows the place that the message speaks of. An item without one, or with CanActivate False,
+  /// does nothing.
   virtual void Activate(const std::string& strText, const std::shared_ptr<void>& oObject) {
     static_cast<void>(strText);
     static_cast<void>(oObject);
   }
 
-private:
+ private:
   std::int16_t m_iSeverity = 0;
   std::string m_strMessage;
   bool m_bCanActivate = true;

@@ -7,13 +7,13 @@ namespace host {
 
 /// Shows one picture.
 class ctlImage : public forms::UserControl {
-public:
+ public:
   ctlImage(forms::Container& container, std::string strName);
 
   void put_Picture(const forms::Picture& picture) { imgPicture.setPicture(picture); }
   void put_BackColor(forms::Color color);
 
-private:
+ private:
   forms::Image imgPicture{*this, "imgPicture"};
 };
 

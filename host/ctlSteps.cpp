@@ -26,8 +26,8 @@ void ctlSteps::put_StepCount(std::int16_t iCount) {
 void ctlSteps::EnsureStep(std::int16_t iStep) {
   while (static_cast<std::int16_t>(cmdStep.size()) <= iStep) {
     const auto i = static_cast<std::int16_t>(cmdStep.size());
-    cmdStep.push_back(std::make_unique<forms::CommandButton>(
-        *this, "cmdStep(" + std::to_string(i) + ")"));
+    cmdStep.push_back(
+        std::make_unique<forms::CommandButton>(*this, "cmdStep(" + std::to_string(i) + ")"));
     forms::CommandButton& cmdNew = *cmdStep.back();
     cmdNew.setFlat(true);
     cmdNew.setBackColor(backColor());

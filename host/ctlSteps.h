@@ -8,10 +8,10 @@
 
 namespace host {
 
-/// The list of a wizard's steps: all names, the current one in the selected font. Steps count from 0. A user clicks a
-/// name, or goes to it with the arrows and presses Space or Enter.
+/// The list of a wizard's steps: all names, the current one in the selected font. Steps count from
+/// 0. A user clicks a name, or goes to it with the arrows and presses Space or Enter.
 class ctlSteps : public forms::UserControl {
-public:
+ public:
   ctlSteps(forms::Container& container, std::string strName);
 
   /// How many steps there will be; a step beyond it is shown all the same once it has a text.
@@ -24,7 +24,7 @@ public:
 
   forms::Event<std::int16_t&> OnStepClicked;
 
-private:
+ private:
   void EnsureStep(std::int16_t iStep);
   void ShowCurrentStep();
   void cmdStep_KeyDown(std::int16_t iStep, forms::KeyDown& key);

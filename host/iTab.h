@@ -5,10 +5,10 @@
 
 namespace host {
 
-/// The typed contract of a wizard step. A step also has members that are called by name, any of which it may lack:
-/// SetData, SetEnabled, BeforeTabChange(bCancel), OtherTabClicked, SetContainer.
+/// The typed contract of a wizard step. A step also has members that are called by name, any of
+/// which it may lack: SetData, SetEnabled, BeforeTabChange(bCancel), OtherTabClicked, SetContainer.
 class iTab {
-public:
+ public:
   virtual ~iTab() = default;
   /// The caption of the step's page, and its text in the list of steps.
   virtual std::string iTab_GetTabName() const = 0;

@@ -14,6 +14,7 @@ namespace qt {
 namespace {
 
 constexpr forms::Color systemBit = 0x80000000;
+constexpr int roomInRow = 4;
 constexpr int darkest = 128;
 
 QPalette::ColorRole roleOf(forms::Color color) {
@@ -121,6 +122,8 @@ QFont toQt(const forms::Font& font) {
   return used;
 }
 
+QSize rowSize(const QWidget& list) { return {1, list.fontMetrics().height() + roomInRow}; }
+
 bool isSystemColor(forms::Color color) { return (color & systemBit) != 0; }
 
 QColor toQt(forms::Color color) {
@@ -131,8 +134,11 @@ QColor toQt(forms::Color color) {
 
 QPalette paletteOf(const forms::Control& control) {
   QPalette palette = QApplication::palette();
-  const QColor background = toQt(control.backColor());
-  palette.setColor(isField(control.kind()) ? QPalette::Base : QPalette::Window, background);
+  if (!isField(control.kind())) {
+    palette.setColor(QPalette::Window, toQt(control.backColor()));
+  } else if (control.backColor() != forms::colors::windowBackground) {
+    palette.setColor(QPalette::Base, toQt(control.backColor()));
+  }
   const QColor text = textColor(control);
   for (const auto role : {QPalette::WindowText, QPalette::Text}) {
     palette.setColor(QPalette::Active, role, text);

@@ -8,12 +8,6 @@
 #include "qt/Conversions.h"
 
 namespace qt {
-namespace {
-
-constexpr int borderMargin = 3;
-
-}  // namespace
-
 /// Draws its text itself, since a QLabel shows the mark of an accelerator as it is written where it
 /// has no buddy.
 class LabelWidget : public QLabel {
@@ -41,28 +35,26 @@ class LabelWidget : public QLabel {
       painter.setPen(palette().color(QPalette::Mid));
       painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-    const int margin = bordered_ ? borderMargin : 0;
-    const QRect area = rect().adjusted(margin, margin, -margin, -margin);
-    drawText(painter, area);
-    if (hasFocus()) drawFocus(painter, area);
+    drawText(painter);
+    if (hasFocus()) drawFocus(painter);
   }
 
  private:
   static constexpr int flags =
       Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextShowMnemonic;
 
-  void drawText(QPainter& painter, const QRect& area) const {
+  void drawText(QPainter& painter) const {
     QFont font = painter.font();
     font.setUnderline(font.underline() || link_);
     painter.setFont(font);
-    style()->drawItemText(&painter, area, flags, palette(), isEnabled(), caption_,
+    style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), caption_,
                           link_ && isEnabled() ? QPalette::Link : QPalette::WindowText);
   }
 
-  void drawFocus(QPainter& painter, const QRect& area) {
+  void drawFocus(QPainter& painter) {
     QStyleOptionFocusRect option;
     option.initFrom(this);
-    const QRect text = painter.boundingRect(area, flags, caption_);
+    const QRect text = painter.boundingRect(rect(), flags, caption_);
     option.rect = text.adjusted(-1, 0, 1, 0).intersected(rect());
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
   }

@@ -29,6 +29,7 @@ void ListBoxAdapter::showItems() {
     const QString text = toQt(list_.text(i));
     if (i == widget_->count()) {
       widget_->addItem(text);
+      widget_->item(i)->setSizeHint(rowSize(*widget_));
     } else if (widget_->item(i)->text() != text) {
       widget_->item(i)->setText(text);
     }

@@ -8,6 +8,11 @@
 #include "qt/Conversions.h"
 
 namespace qt {
+namespace {
+
+constexpr int leastEditorWidth = 120;
+
+}  // namespace
 
 ListViewAdapter::ListViewAdapter(forms::ListView& list, const Place& place)
     : Adapter(list, place, new QTreeWidget(&place.parent)),
@@ -70,6 +75,7 @@ void ListViewAdapter::showRows() {
 
 bool ListViewAdapter::showRow(QTreeWidgetItem& item, std::int32_t row) {
   bool different = false;
+  item.setSizeHint(0, {item.sizeHint(0).width(), rowSize(*tree_).height()});
   for (int column = 0; column < tree_->columnCount(); ++column) {
     const bool filled = column < static_cast<int>(list_.columns().size()) || column == 0;
     const QString text = filled ? toQt(list_.text(row, column)) : QString();
@@ -93,7 +99,7 @@ void ListViewAdapter::showEditor() {
 void ListViewAdapter::openEditor() {
   QTreeWidgetItem* item = tree_->topLevelItem(list_.selectedRow());
   QRect place = tree_->visualItemRect(item);
-  place.setWidth(tree_->columnWidth(0) - place.left());
+  place.setWidth(std::max(leastEditorWidth, tree_->columnWidth(0) - place.left()));
   editor_ = new QLineEdit(toQt(list_.text(list_.selectedRow(), 0)), tree_->viewport());
   editor_->setGeometry(place);
   editor_->setAccessibleName(

@@ -83,7 +83,7 @@ void ClickedAdapter::click() {
 
 bool ClickedAdapter::mousePressed(QWidget&, QMouseEvent& event) {
   if (event.button() != Qt::LeftButton) return true;
-  const Reached reached = pressed();
+  const Reached reached = reach();
   if (reached == Reached::interrupted) click();
   return reached != Reached::smoothly;
 }

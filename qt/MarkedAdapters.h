@@ -15,8 +15,6 @@ class ClickedAdapter : public Adapter {
 
   bool mousePressed(QWidget& part, QMouseEvent& event) override;
   KeyUse useOf(QKeyEvent& event) override;
-  /// The focus goes to it as part of a press.
-  virtual Reached pressed() { return reach(); }
   void click();
 };
 

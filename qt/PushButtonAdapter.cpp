@@ -67,20 +67,14 @@ void PushButtonAdapter::show() {
                                  button_.backColor() != forms::colors::buttonFace);
 }
 
-void PushButtonAdapter::press(forms::User& user, forms::MouseButton mouseButton) {
-  user.press(button_, mouseButton);
-}
-
+/// A cancel button gets the focus with its click, which validates nothing.
 bool PushButtonAdapter::mousePressed(QWidget& part, QMouseEvent& event) {
   if (event.button() == Qt::RightButton) {
-    act([this](forms::User& user) { press(user, forms::MouseButton::right); });
+    act([this](forms::User& user) { user.press(button_, forms::MouseButton::right); });
     return true;
   }
-  return ClickedAdapter::mousePressed(part, event);
-}
-
-PushButtonAdapter::Reached PushButtonAdapter::pressed() {
-  return reachBy([this](forms::User& user) { press(user, forms::MouseButton::left); });
+  const bool cancels = button_.isCancel() && event.button() == Qt::LeftButton;
+  return !cancels && ClickedAdapter::mousePressed(part, event);
 }
 
 }  // namespace qt

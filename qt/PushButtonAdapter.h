@@ -14,11 +14,8 @@ class PushButtonAdapter : public ClickedAdapter {
  protected:
   void show() override;
   bool mousePressed(QWidget& part, QMouseEvent& event) override;
-  Reached pressed() override;
 
  private:
-  void press(forms::User& user, forms::MouseButton mouseButton);
-
   forms::CommandButton& button_;
   PushButton* widget_;
 };

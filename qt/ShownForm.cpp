@@ -65,6 +65,7 @@ void ShownForm::run() {
 }
 
 void ShownForm::act(const std::function<void(forms::User&)>& deed) {
+  ++acts_;
   try {
     forms::User user(forms::Application::current());
     deed(user);
@@ -72,6 +73,7 @@ void ShownForm::act(const std::function<void(forms::User&)>& deed) {
   } catch (const forms::Error& error) {
     forms::reportHandlerError(error);
   }
+  --acts_;
   refresh();
 }
 
@@ -141,9 +143,16 @@ void ShownForm::refreshLater() {
   refreshIsComing_ = true;
   const auto refreshNow = [this] {
     refreshIsComing_ = false;
+    settle();
     refresh();
   };
   QMetaObject::invokeMethod(&window_, refreshNow, Qt::QueuedConnection);
+}
+
+/// What the program did outside of an act may have hidden or disabled the control with the focus.
+void ShownForm::settle() {
+  const bool active = form_ && forms::Application::current().activeForm() == form_;
+  if (active && acts_ == 0) form_->focus().settle();
 }
 
 void ShownForm::note(Adapter& adapter) {
@@ -228,8 +237,9 @@ void ShownForm::showForm() {
   }
   const forms::Size frame = frameOf(*form_);
   const forms::Size least = form_->minimumSize();
-  window_.setMinimumSize(
-      pixels({std::max(0, least.width - frame.width), std::max(0, least.height - frame.height)}));
+  const forms::Size leastInner{std::max(0, least.width - frame.width),
+                               std::max(0, least.height - frame.height)};
+  window_.setMinimumSize(pixels(leastInner));
   if (window_.size() != inner) window_.resize(inner);
 }
 

@@ -65,6 +65,7 @@ class ShownForm : public forms::FormView {
   void addMissing(const forms::Container& container);
   void showForm();
   void showFocus();
+  void settle();
   bool turnPage(const QKeyEvent& event);
   void helpOnFocus();
 
@@ -75,6 +76,7 @@ class ShownForm : public forms::FormView {
   std::map<const forms::Control*, std::unique_ptr<Adapter>> adapters_;
   std::vector<std::unique_ptr<Adapter>> gone_;  // one may be in the middle of an event
   std::vector<Adapter*> noted_;
+  int acts_ = 0;  // under way, one inside the other
   bool refreshing_ = false;
   bool refreshIsComing_ = false;
 };

@@ -13,6 +13,18 @@ namespace {
 
 constexpr int pictureSize = 16;
 
+/// Headers of the height that forms reckon with.
+class Headers : public QTabBar {
+ public:
+  using QTabBar::QTabBar;
+
+ protected:
+  QSize tabSizeHint(int place) const override {
+    return {QTabBar::tabSizeHint(place).width(), height()};
+  }
+  QSize minimumTabSizeHint(int place) const override { return tabSizeHint(place); }
+};
+
 /// The pages, with a border around them where their headers are in sight.
 class Pages : public QWidget {
  public:
@@ -35,9 +47,8 @@ class Pages : public QWidget {
 }  // namespace
 
 TabStripAdapter::TabStripAdapter(forms::TabStrip& strip, const Place& place)
-    : Adapter(strip, place, new Pages(&place.parent)), strip_(strip), bar_(new QTabBar(widget())) {
+    : Adapter(strip, place, new Pages(&place.parent)), strip_(strip), bar_(new Headers(widget())) {
   widget()->setAutoFillBackground(true);
-  bar_->setFocusPolicy(Qt::NoFocus);
   bar_->setIconSize({pictureSize, pictureSize});
   bar_->setDrawBase(false);
   bar_->setExpanding(false);
@@ -53,6 +64,8 @@ void TabStripAdapter::show() {
   shownPage_ = strip_.currentPage();
   form().noteContents(strip_);
 }
+
+QWidget* TabStripAdapter::focusWidget() const { return bar_; }
 
 void TabStripAdapter::showHeaders() {
   pages_.clear();

@@ -17,6 +17,8 @@ class TabStripAdapter : public Adapter {
   /// then pages are turned by other means alone.
   bool turnPage(bool forward);
 
+  QWidget* focusWidget() const override;
+
  protected:
   void show() override;
   bool mousePressed(QWidget& part, QMouseEvent& event) override;

@@ -123,8 +123,8 @@ forms::UserControl& TabWizard::PlaceTab(const std::string& strProgID, const std:
   }
   iTotalTabs = std::max(iTotalTabs, m_iTabsPerRow);
   const int iRows = (iTotalTabs + m_iTabsPerRow - 1) / m_iTabsPerRow;
-  extStep.setBounds({100, lHeaderRow * iRows, bounds().width - 200,
-                     tabControl.bounds().height - 4800});
+  extStep.setBounds(
+      {100, lHeaderRow * iRows, bounds().width - 200, tabControl.bounds().height - 4800});
   extStep.setContainer(tabControl);
   extStep.setVisible(true);
   tabControl.setPageCaption(m_iTabCount, AsTab(extStep).iTab_GetTabName());

@@ -12,11 +12,12 @@
 
 namespace shell {
 
-/// Holds the steps of a wizard, each on a page of a tab strip, and moves between them. Steps and pages count from 0; a
-/// step's index is its page.
+/// Holds the steps of a wizard, each on a page of a tab strip, and moves between them. Steps and
+/// pages count from 0; a step's index is its page.
 ///
-/// One accepted change of step, from A to B: `BeforeTabChange` of A, which may refuse; `OnTabChanged` to the parent;
-/// `OtherTabClicked` of A; `iTab_TabClicked` of B. When B is the first step the last two are left out.
+/// One accepted change of step, from A to B: `BeforeTabChange` of A, which may refuse;
+/// `OnTabChanged` to the parent; `OtherTabClicked` of A; `iTab_TabClicked` of B. When B is the
+/// first step the last two are left out.
 class TabWizard : public forms::UserControl {
  public:
   TabWizard(forms::Container& container, std::string strName);
@@ -28,15 +29,15 @@ class TabWizard : public forms::UserControl {
   /// A step that has no such member is passed over.
   void SetEnabled(bool bEnabled);
   std::int16_t GetCurrentTabHelpContextID();
-  /// Goes to the first page with this caption, whatever its case, and answers its number; 0, with nothing changed, when
-  /// no page bears it.
+  /// Goes to the first page with this caption, whatever its case, and answers its number; 0, with
+  /// nothing changed, when no page bears it.
   std::int16_t SetCurrentTabText(const std::string& strTab);
   std::string GetCurrentTabText() const;
   void SetHelpContextID(std::int16_t iHelpContextID);
 
-  /// Creates a step and puts it on the next page. Null, after a message, when it can't be created, is no step, or finds
-  /// no free page. `iTotalTabs` is the number of steps that the height of the headers is counted for; it is raised to
-  /// what one row holds.
+  /// Creates a step and puts it on the next page. Null, after a message, when it can't be created,
+  /// is no step, or finds no free page. `iTotalTabs` is the number of steps that the height of the
+  /// headers is counted for; it is raised to what one row holds.
   forms::UserControl* AddTab(const std::string& strProgID, const std::string& strName,
                              std::int16_t& iTotalTabs);
   forms::UserControl* AddTab(const std::string& strProgID, const std::string& strName);

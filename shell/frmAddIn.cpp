@@ -19,7 +19,8 @@ using forms::Icon;
 
 constexpr forms::Size sizeOfWindow{9705, 7500};
 constexpr forms::Rect placeOfSteps{0, -120, 2415, 6315};
-/// The negative top puts the headers of the pages out of reach: pages change through the window's own controls alone.
+/// The negative top puts the headers of the pages out of reach: pages change through the window's
+/// own controls alone.
 constexpr forms::Rect placeOfTabs{2460, -660, 8355, 6795};
 
 forms::Application& App() { return forms::Application::current(); }
@@ -234,8 +235,8 @@ void frmAddIn::cmdFinish_Click() {
   if (m_iCurrentTab != LastTab()) return ctlTabs.SetCurrentTab(LastTab());
   const std::string strTitle = gAddIn().IAddInContract_Title();
   const Answer iResponse =
-      App().messageBox("Are you sure you want to exit the " + strTitle + " wizard?",
-                       Buttons::yesNo, Icon::question, strTitle);
+      App().messageBox("Are you sure you want to exit the " + strTitle + " wizard?", Buttons::yesNo,
+                       Icon::question, strTitle);
   if (iResponse == Answer::yes) unload();
 }
 

@@ -14,7 +14,8 @@
 
 namespace shell {
 
-/// The wizard's main window: the list of steps, the steps, the file buttons, and Back, Next, Finish and Help.
+/// The wizard's main window: the list of steps, the steps, the file buttons, and Back, Next, Finish
+/// and Help.
 class frmAddIn : public forms::Form, public addin::WizardWindow {
  public:
   frmAddIn();

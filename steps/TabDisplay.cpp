@@ -268,39 +268,43 @@ void TabDisplay::lblDisplayHelp_Click() {
 void TabDisplay::LayOut() {
   using namespace forms;
   constexpr Twips lBoxWidth = 570;
-  layOut(pageArea, {
-      rest(lblBanner),
-      row({item(Label1), spring(), item(lblDisplayHelp)}),
-      box(Frame3, {
-          row({
-              item(ctlImageDisplay, sizeOfPicture),
-              either({
-                  columns({
-                      {item(lblDescriptionTag), rest(lblDescription, 390)},
-                      {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
-                  }),
-                  box(frameInfo, {
-                      row({item(ctlImage, sizeOfPicture), rest(lblInfo)}),
-                  }),
-              }),
-              column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
-          }),
-      }),
-      box(frameCommand, {
-          item(lblSwitch),
-          columns({
-              {item(lblTransport(0)), rest(ctlCommands(0))},
-              {item(lblTransport(1)), rest(ctlCommands(1))},
-          }),
-      }),
-      item(chkPowerRelay),
-      indented({
-          columns({
-              {item(lblDelay(0)), wide(txtDelay(0), lBoxWidth), item(lblDelaySeconds(0))},
-              {item(lblDelay(1)), wide(txtDelay(1), lBoxWidth), item(lblDelaySeconds(1))},
-          }),
-      }),
-  });
+  layOut(pageArea,
+         {
+             rest(lblBanner),
+             row({item(Label1), spring(), item(lblDisplayHelp)}),
+             box(Frame3,
+                 {
+                     row({
+                         item(ctlImageDisplay, sizeOfPicture),
+                         either({
+                             columns({
+                                 {item(lblDescriptionTag), rest(lblDescription, 390)},
+                                 {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
+                             }),
+                             box(frameInfo,
+                                 {
+                                     row({item(ctlImage, sizeOfPicture), rest(lblInfo)}),
+                                 }),
+                         }),
+                         column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
+                     }),
+                 }),
+             box(frameCommand,
+                 {
+                     item(lblSwitch),
+                     columns({
+                         {item(lblTransport(0)), rest(ctlCommands(0))},
+                         {item(lblTransport(1)), rest(ctlCommands(1))},
+                     }),
+                 }),
+             item(chkPowerRelay),
+             indented({
+                 columns({
+                     {item(lblDelay(0)), wide(txtDelay(0), lBoxWidth), item(lblDelaySeconds(0))},
+                     {item(lblDelay(1)), wide(txtDelay(1), lBoxWidth), item(lblDelaySeconds(1))},
+                 }),
+             }),
+         });
   const Rect info = frameInfo.bounds();
   lblBorder.setBounds({0, 0, info.width, info.height});
 }

@@ -16,8 +16,8 @@
 
 namespace steps {
 
-/// The room's display: the device, its commands for the two inputs, and the power triggered relay. Each action lands at
-/// once in the document or the settings, so that nothing is left to be saved.
+/// The room's display: the device, its commands for the two inputs, and the power triggered relay.
+/// Each action lands at once in the document or the settings, so that nothing is left to be saved.
 class TabDisplay : public WizardStep {
  public:
   TabDisplay(forms::Container& container, std::string strName);
@@ -54,8 +54,7 @@ class TabDisplay : public WizardStep {
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " Display Device"};
-  forms::Label Label1{*this, "Label1",
-                      "This step will configure the display device for the room."};
+  forms::Label Label1{*this, "Label1", "This step will configure the display device for the room."};
   forms::Label lblDisplayHelp{*this, "lblDisplayHelp", "Display Device Requirements"};
   forms::Frame Frame3{*this, "Frame3", "Display Device"};
   host::ctlImage ctlImageDisplay{Frame3, "ctlImageDisplay"};
@@ -82,8 +81,8 @@ class TabDisplay : public WizardStep {
       {{0, *this, "Delay between Relay Closure and Display Power On:"},
        {1, *this, "Delay between Display Power Off and Relay Release:"}}};
   forms::ControlArray<forms::TextBox> txtDelay{"txtDelay", {{0, *this}, {1, *this}}};
-  forms::ControlArray<forms::Label> lblDelaySeconds{
-      "lblDelaySeconds", {{0, *this, "seconds"}, {1, *this, "seconds"}}};
+  forms::ControlArray<forms::Label> lblDelaySeconds{"lblDelaySeconds",
+                                                    {{0, *this, "seconds"}, {1, *this, "seconds"}}};
 
   bool m_bLoading = false;
   bool m_bSaving = false;

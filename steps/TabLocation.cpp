@@ -147,9 +147,8 @@ void TabLocation::txtSystemName_LostFocus() {
 }
 
 void TabLocation::cmdBrowse_Click() {
-  const std::string strFolder =
-      common::BrowseForFolder(gAddIn().GetActiveWindowHandle(),
-                              "Save your system in this folder:", gDocument().get_Path());
+  const std::string strFolder = common::BrowseForFolder(
+      gAddIn().GetActiveWindowHandle(), "Save your system in this folder:", gDocument().get_Path());
   if (!strFolder.empty()) txtLocation.setText(SystemFolder(strFolder));
 }
 
@@ -161,21 +160,22 @@ void TabLocation::SetTabStops(bool bValue) {
 void TabLocation::LayOut() {
   using namespace forms;
   layOut(pageArea, {
-      rest(lblBanner),
-      gap(60),
-      box(frameNameLocation, {
-          item(Label1),
-          columns({
-              {item(lblSystemName), rest(txtSystemName)},
-          }),
-          gap(240),
-          item(Label3),
-          columns({
-              {item(lblLocation), rest(txtLocation)},
-          }),
-          row({spring(), item(cmdBrowse)}),
-      }),
-  });
+                       rest(lblBanner),
+                       gap(60),
+                       box(frameNameLocation,
+                           {
+                               item(Label1),
+                               columns({
+                                   {item(lblSystemName), rest(txtSystemName)},
+                               }),
+                               gap(240),
+                               item(Label3),
+                               columns({
+                                   {item(lblLocation), rest(txtLocation)},
+                               }),
+                               row({spring(), item(cmdBrowse)}),
+                           }),
+                   });
 }
 
 }  // namespace steps

@@ -27,10 +27,12 @@ constexpr const char* strToggleCommand = "POWER";
 constexpr const char* strDiscreteText =
     "This device provides discrete commands for \"Power On\" and \"Power Off\".";
 constexpr const char* strSensingText =
-    "This device only has a \"Power\" command that toggles the power on and off, so use a power sensor attached to a "
+    "This device only has a \"Power\" command that toggles the power on and off, so use a power "
+    "sensor attached to a "
     "digital input";
 constexpr const char* strNoSensingText =
-    "This option is not available since the currently selected device does not have a \"Power\" command to toggle the "
+    "This option is not available since the currently selected device does not have a \"Power\" "
+    "command to toggle the "
     "power on and off.";
 constexpr const char* strNoneText =
     "This device is turned on and off manually by the user.  Or this device is assumed always on.";
@@ -89,7 +91,8 @@ void TabPower::ConnectEvents() {
 
 bool TabPower::SetData() {
   const forms::ImageList& images = addin::frmImages().get_ImageList();
-  ctlCommands.each([&](std::int16_t, host::DeviceCommands& selector) { selector.SetImages(images); });
+  ctlCommands.each(
+      [&](std::int16_t, host::DeviceCommands& selector) { selector.SetImages(images); });
   return false;
 }
 
@@ -128,8 +131,8 @@ void TabPower::iTab_TabClicked() {
 void TabPower::UpdatePowerSensing() {
   const auto oDevice = FindDisplay();
   if (!oDevice || oDevice->get_ID() < 1) return;
-  const bool bToggles = oDevice->GetCommandList(host::directionInput, host::signalDigital)
-                            ->Exists(strToggleCommand);
+  const bool bToggles =
+      oDevice->GetCommandList(host::directionInput, host::signalDigital)->Exists(strToggleCommand);
   lblPower(powerSensing).setCaption(bToggles ? strSensingText : strNoSensingText);
   optPower(powerSensing).setEnabled(bToggles);
   if (!bToggles && optPower(powerSensing).isChosen()) optPower(powerNone).setChosen(true);
@@ -208,14 +211,17 @@ void TabPower::WarnOfCommands(std::int16_t Index) const {
   if (forms::equalsIgnoringCase(ctlCommands(Index).get_SelectedCommand(), strToggleCommand)) {
     Inform(
         "Generally the command \"Power\" toggles the power on and off.\r\n\r\n"
-        "Since this normally is not a discrete command verify it is discrete before assigning it here.");
+        "Since this normally is not a discrete command verify it is discrete before assigning it "
+        "here.");
   }
   if (forms::equalsIgnoringCase(ctlCommands(iOnCommand).get_SelectedCommand(),
                                 ctlCommands(iOffCommand).get_SelectedCommand())) {
     Inform(
         "You have selected identical commands for power on and power off.\r\n\r\n"
-        "Since these are not discrete commands this device will get out of sync with the other devices.\r\n\r\n"
-        "Please choose discrete power commands to continue or select another power control method.");
+        "Since these are not discrete commands this device will get out of sync with the other "
+        "devices.\r\n\r\n"
+        "Please choose discrete power commands to continue or select another power control "
+        "method.");
   }
 }
 
@@ -223,9 +229,8 @@ void TabPower::StoreCommand(std::int16_t Index) {
   const auto oDevice = FindDisplay();
   if (!oDevice || oDevice->get_ID() < 1) return;
   bool bChanged = false;
-  oDevice->SetCommandName(
-      forms::decimal(gAddIn().GetStandardCommandIDForPowerControl(Index)),
-      ctlCommands(Index).get_SelectedCommand(), bChanged);
+  oDevice->SetCommandName(forms::decimal(gAddIn().GetStandardCommandIDForPowerControl(Index)),
+                          ctlCommands(Index).get_SelectedCommand(), bChanged);
   if (bChanged) gDocument().MarkChanged();
 }
 
@@ -279,32 +284,36 @@ void TabPower::LayOut() {
     return column({row({item(optPower(Index)), std::move(recommendation)}),
                    indented({rest(lblPower(Index), 390)})});
   };
-  layOut(pageArea, {
-      rest(lblBanner),
-      either({
-          box(fraAll, {
-              item(Label1),
-              rest(lblInstructions),
-              gap(30),
-              Mode(powerDiscrete, item(lblRecommended)),
-              indented({
-                  columns({
-                      {item(lblCommands(iOnCommand)), rest(ctlCommands(iOnCommand))},
-                      {item(lblCommands(iOffCommand)), rest(ctlCommands(iOffCommand))},
-                  }),
-                  row({item(chkSecondOff), rest(ctlCommands(iSecondOffCommand)),
-                       item(lblSecondOff(0)), wide(txtSecondOff, 570), item(lblSecondOff(1))}),
-              }),
-              gap(60),
-              Mode(powerSensing, item(lblDiagram)),
-              gap(60),
-              Mode(powerNone, item(lblNotRecommended)),
-          }),
-          box(frameInfo, {
-              row({item(ctlImage, {480, 480}), rest(lblInfo)}),
-          }),
-      }),
-  });
+  layOut(pageArea,
+         {
+             rest(lblBanner),
+             either({
+                 box(fraAll,
+                     {
+                         item(Label1),
+                         rest(lblInstructions),
+                         gap(30),
+                         Mode(powerDiscrete, item(lblRecommended)),
+                         indented({
+                             columns({
+                                 {item(lblCommands(iOnCommand)), rest(ctlCommands(iOnCommand))},
+                                 {item(lblCommands(iOffCommand)), rest(ctlCommands(iOffCommand))},
+                             }),
+                             row({item(chkSecondOff), rest(ctlCommands(iSecondOffCommand)),
+                                  item(lblSecondOff(0)), wide(txtSecondOff, 570),
+                                  item(lblSecondOff(1))}),
+                         }),
+                         gap(60),
+                         Mode(powerSensing, item(lblDiagram)),
+                         gap(60),
+                         Mode(powerNone, item(lblNotRecommended)),
+                     }),
+                 box(frameInfo,
+                     {
+                         row({item(ctlImage, {480, 480}), rest(lblInfo)}),
+                     }),
+             }),
+         });
   const Rect info = frameInfo.bounds();
   lblBorder.setBounds({0, 0, info.width, info.height});
 }

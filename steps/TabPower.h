@@ -15,11 +15,11 @@
 
 namespace steps {
 
-/// How the display is powered, with which commands, and whether a second Power Off command follows. The page is filled
-/// each time it is entered; each change lands at once.
+/// How the display is powered, with which commands, and whether a second Power Off command follows.
+/// The page is filled each time it is entered; each change lands at once.
 ///
-/// The index of a power button is the power mode that it stands for; the selectors 1, 2 and 3 are the commands for power
-/// on, for power off and the second one for power off.
+/// The index of a power button is the power mode that it stands for; the selectors 1, 2 and 3 are
+/// the commands for power on, for power off and the second one for power off.
 class TabPower : public WizardStep {
  public:
   TabPower(forms::Container& container, std::string strName);
@@ -52,9 +52,9 @@ class TabPower : public WizardStep {
   forms::Label lblBanner{*this, "lblBanner", " Power Control"};
   forms::Frame fraAll{*this, "fraAll"};
   forms::Label Label1{fraAll, "Label1", "Configure the Power Control for your Display Device:"};
-  forms::Label lblInstructions{
-      fraAll, "lblInstructions",
-      "Select the statement that best describes how you wish to control the power for the selected device:"};
+  forms::Label lblInstructions{fraAll, "lblInstructions",
+                               "Select the statement that best describes how you wish to control "
+                               "the power for the selected device:"};
   forms::ControlArray<forms::OptionButton> optPower{
       "optPower",
       {{2, fraAll, "&Discrete   "}, {1, fraAll, "&Power Sensing"}, {0, fraAll, "N&one"}}};

@@ -28,8 +28,8 @@ TabStart::TabStart(forms::Container& container, std::string strName)
   lblPreview.setLink(true);
   forms::ignoringErrors([this] {
     forms::Application& application = forms::Application::current();
-    imgBackground.setPicture(application.loadPicture(
-        common::AddBackslash(application.folder()) + "pictures\\wizard-banner.svg"));
+    imgBackground.setPicture(application.loadPicture(common::AddBackslash(application.folder()) +
+                                                     "pictures\\wizard-banner.svg"));
   });
 
   lblPreview.click.connect([this] { lblPreview_Click(); });
@@ -45,21 +45,21 @@ void TabStart::lblPreview_Click() {
 void TabStart::LayOut() {
   using namespace forms;
   layOut(pageArea, {
-      gap(240),
-      row({
-          column({
-              rest(lblBanner),
-              item(lblVersion),
-              gap(150),
-              rest(lblDescription),
-              gap(150),
-              item(lblPreview),
-              gap(600),
-              item(lblContinue),
-          }),
-          item(imgBackground, sizeOfBackground),
-      }),
-  });
+                       gap(240),
+                       row({
+                           column({
+                               rest(lblBanner),
+                               item(lblVersion),
+                               gap(150),
+                               rest(lblDescription),
+                               gap(150),
+                               item(lblPreview),
+                               gap(600),
+                               item(lblContinue),
+                           }),
+                           item(imgBackground, sizeOfBackground),
+                       }),
+                   });
   if (length(lblBanner.caption()) > lLongTitle) {
     lblBanner.setBounds({lblBanner.bounds().left, 300, lblBanner.bounds().width, 1155});
   }

@@ -10,8 +10,8 @@
 
 namespace steps {
 
-/// The part of a step that the window shows, in twips from the step's own corner: the strip's headers hide what is above,
-/// the window's edge what is at the right.
+/// The part of a step that the window shows, in twips from the step's own corner: the strip's
+/// headers hide what is above, the window's edge what is at the right.
 inline constexpr forms::Rect pageArea{60, 340, 6900, 5500};
 
 /// What all steps answer alike. A step shows an icon nowhere and stores no id.

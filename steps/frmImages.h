@@ -5,7 +5,8 @@
 
 namespace steps {
 
-/// The form that is never shown: it holds the two picture lists, which are empty until the host's are copied into them.
+/// The form that is never shown: it holds the two picture lists, which are empty until the host's
+/// are copied into them.
 class frmImages : public forms::Form, public addin::PictureLists {
  public:
   frmImages() : Form("frmImages") {}

@@ -17,7 +17,8 @@ class PictureForm : public forms::Form, public addin::PictureWindow {
  protected:
   explicit PictureForm(const std::string& strName);
 
-  /// A picture of the program's own, from its pictures folder. A missing file leaves the list as it is.
+  /// A picture of the program's own, from its pictures folder. A missing file leaves the list as it
+  /// is.
   void AddPicture(const std::string& strFile);
   void ShowPicture(const std::string& strCaption, std::int16_t iImage);
   /// The size in pixels, the window's edges included.

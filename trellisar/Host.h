@@ -14,12 +14,12 @@ namespace trellisar {
 
 struct HostOptions {
   /// Holds "library", "pictures" and "TemplateSystems".
-  std::filesystem::path dataFolder;
+  std::filesystem::path dataFolder = {};
   /// A device library that stands in for the shipped one; shared between hosts that run side by side or one after the
   /// other. Nothing: the one of the data folder.
-  std::shared_ptr<const DeviceLibrary> library;
+  std::shared_ptr<const DeviceLibrary> library = {};
   /// Where the user's preferences are kept; empty: nowhere, and there are none.
-  std::filesystem::path preferencesFile;
+  std::filesystem::path preferencesFile = {};
   Replacing replacing = Replacing::ask;
 };
 

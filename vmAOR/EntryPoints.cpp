@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::string_view className = "AddInOrlena.IAddIn";
 
-/// The add-in objects that were handed out, over all threads. All else of the component hangs from one of them or from
-/// the application of its thread.
+/// The add-in objects that were handed out, over all threads. All else of the component hangs from
+/// one of them or from the application of its thread.
 class LivingObjects {
  public:
   void add(const std::shared_ptr<forms::Object>& object) {

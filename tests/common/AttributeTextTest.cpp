@@ -51,13 +51,6 @@ TEST(AttributeText, longerKeyCountsOnlyWhereItIsAllowed) {
   EXPECT_EQ(place.iKeyPos, 0);
 }
 
-TEST(AttributeText, emptyTextLeavesThePlaceAsItWas) {
-  common::AttributePlace place{.iKeyPos = 7, .iValuePos = 8, .iValueLength = 9, .sFullKey = "Key"};
-  EXPECT_FALSE(FindAttribute("", "Delay", place));
-  EXPECT_EQ(place.iKeyPos, 7);
-  EXPECT_EQ(place.iValueLength, 9);
-}
-
 TEST(AttributeText, setReplacesInPlaceAndAppendsWhatIsNew) {
   struct Case {
     std::string name, data, key, value, result;
@@ -78,15 +71,6 @@ TEST(AttributeText, setReplacesInPlaceAndAppendsWhatIsNew) {
     EXPECT_EQ(data, c.result) << c.name;
     EXPECT_EQ(GetAttributeValue(data, c.key), c.value) << c.name;
   }
-}
-
-TEST(AttributeText, otherSeparatorsDecideWhenALengthIsNeeded) {
-  const common::AttributeOptions options{.sSeparator = "|", .sEquals = ":"};
-  std::string data;
-  SetAttributeValue(data, "A", "x;y=z", options);
-  SetAttributeValue(data, "B", "1|2", options);
-  EXPECT_EQ(data, "A:x;y=z|B(3):1|2|");
-  EXPECT_EQ(GetAttributeValue(data, "B", options), "1|2");
 }
 
 TEST(AttributeText, onlyThreeWordsAreTrue) {

@@ -129,17 +129,17 @@ std::string Room::nameOf(std::int16_t id) const {
 }
 
 std::string Room::step(const host::Step& step) const {
-  const auto& presets = *document().get_Presets();
+  const auto presets = document().get_Presets();
   switch (step.get_Kind()) {
     case host::stepCallPreset:
-      return "call " + presets.ItemByID(step.get_TargetID())->get_Name();
+      return "call " + presets->ItemByID(step.get_TargetID())->get_Name();
     case host::stepDelay:
       return nameOf(static_cast<std::int16_t>(step.get_TargetID())) + " waits " + step.get_Value();
     case host::stepConditional: {
-      const auto& test = *step.get_Conditions()->Items().front();
+      const host::StepCondition test = *step.get_Conditions()->Items().front();
       return "if " + nameOf(test.get_DeviceID()) + "." + test.get_SignalName() + "=" +
              std::to_string(test.get_Value()) + " { " +
-             steps(*presets.ItemByID(step.get_SubPresetID())) + " }";
+             steps(*presets->ItemByID(step.get_SubPresetID())) + " }";
     }
     default:
       return nameOf(static_cast<std::int16_t>(step.get_TargetID())) + "." + step.get_SignalName() +

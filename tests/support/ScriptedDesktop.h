@@ -47,6 +47,9 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
                      std::optional<forms::Answer> answer = std::nullopt,
                      std::function<void()> during = nullptr);
 
+  /// As above, for a message of the host: with an OK button, told by its icon and by what its text holds.
+  void expectMessageWith(forms::Icon icon, const std::string& partOfText);
+
   /// The next modal run of the form with this name.
   void whenShown(const std::string& formName, Script script);
 
@@ -87,6 +90,8 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
     forms::MessageBox box;
     forms::Answer answer;
     std::function<void()> during;
+    bool isPart = false;  // of the text, and the caption is any
+    bool matches(const forms::MessageBox& message) const;
   };
   struct ExpectedDialog {
     std::string sort;

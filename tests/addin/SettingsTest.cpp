@@ -1,0 +1,127 @@
+#include <gtest/gtest.h>
+
+#include "addin/modGlobals.h"
+#include "tests/wizard/Wizard.h"
+
+namespace {
+
+using tests::Wizard;
+
+constexpr const char* freshBlock =
+    "Volume Knob Control=0d;Mic Mode Control=0d;Mute on Digital Input 3 contact=False;Always use the 3 OL "
+    "receiver=False;Second Power Off command Send=False;Second Power Off command Name=;Second Power Off command "
+    "Time=0;Power Relay Power On Delay=0;Power Relay Power Off Delay=120;Power On Lockout Time=30;Power Off Lockout "
+    "Time=120;Contact Closure Option=-1;Power On Pulse Time 0=0;Power On Pulse Time 1=0;Power Off Pulse Time "
+    "0=0;Power Off Pulse Time 1=0;Fenlet Password=mossgate;Motion Sensor Timeout=0;";
+
+void givenBlock(Wizard& wizard, const std::string& block) {
+  wizard.document().get_SystemInfo()->SetAddInAttributes("Orlena", block);
+  wizard.addIn->FileOpen();
+}
+
+TEST(Settings, FreshSystemSavesTheWholeBlockAndTwiceTheSame) {
+  Wizard wizard;
+  wizard.run([&] {
+    wizard.clickInWindow("cmdSave");
+    EXPECT_EQ(wizard.settingsBlock(), freshBlock);
+    const std::string file = tests::fileText(wizard.systemFile("My Orlena System"));
+    wizard.clickInWindow("cmdSave");
+    EXPECT_EQ(wizard.settingsBlock(), freshBlock);
+    EXPECT_EQ(tests::fileText(wizard.systemFile("My Orlena System")), file);
+  });
+}
+
+TEST(Settings, AllAnswersRoundTrip) {
+  Wizard wizard;
+  wizard.run([&] {
+    addin::IAddIn& settings = *wizard.addIn;
+    settings.put_VolumeKnobControl(true);
+    settings.put_bUse3OLReceiver(1);
+    settings.put_bSecondPowerOff(1);
+    settings.put_sSecondPowerOff("POF;CONFIRM");
+    settings.put_iSecondPowerOff(3);
+    settings.put_PowerRelayOnDelay(5);
+    settings.put_PowerOnLockoutTime(-5);
+    settings.put_PowerContactClosureOption(addin::contactPowerOff);
+    settings.put_PowerOnPulseTime(1, 2.5F);
+    settings.put_PowerOffPulseTime(0, -0.1F);
+    settings.put_FenletPassword("  a=b; c ");
+    settings.put_MotionSensorTimeout(600);
+    settings.SaveAttributes();
+    EXPECT_NE(wizard.settingsBlock().find("Second Power Off command Name(11)=POF;CONFIRM;"),
+              std::string::npos);
+
+    settings.FileOpen();
+    EXPECT_TRUE(settings.get_VolumeKnobControl());
+    EXPECT_FALSE(settings.get_MicModeControl());
+    EXPECT_EQ(settings.get_bUse3OLReceiver(), 1);
+    EXPECT_EQ(settings.get_bMuteOnDigInp3(), 0);
+    EXPECT_EQ(settings.get_sSecondPowerOff(), "POF;CONFIRM");
+    EXPECT_EQ(settings.get_iSecondPowerOff(), 3);
+    EXPECT_EQ(settings.get_PowerOnLockoutTime(), 5);
+    EXPECT_EQ(settings.get_PowerContactClosureOption(), 0);
+    EXPECT_FLOAT_EQ(settings.get_PowerOnPulseTime(1), 2.5F);
+    EXPECT_FLOAT_EQ(settings.get_PowerOffPulseTime(0), 0.1F);
+    EXPECT_EQ(settings.get_FenletPassword(), "a=b; c");
+    EXPECT_EQ(settings.get_MotionSensorTimeout(), 600);
+  });
+}
+
+TEST(Settings, RowsThatAreMissingReadAsNothing) {
+  Wizard wizard;
+  wizard.run([&] {
+    givenBlock(wizard, "Second Power Off command Send=yes;Power Off Lockout Time=-45");
+    EXPECT_EQ(wizard.addIn->get_bSecondPowerOff(), 1);
+    EXPECT_EQ(wizard.addIn->get_PowerOnLockoutTime(), 0);
+    EXPECT_EQ(wizard.addIn->get_PowerOffLockoutTime(), 45);
+    EXPECT_EQ(wizard.addIn->get_PowerRelayOffDelay(), 0);
+    EXPECT_EQ(wizard.addIn->get_FenletPassword(), "");
+  });
+}
+
+TEST(Settings, NumberThatDoesNotFitIsTold) {
+  Wizard wizard;
+  wizard.run([&] {
+    const std::string block = "Power On Lockout Time=40000;";
+    wizard.desktop.expectMessage("Overflow Error",
+                                 "Overflow error in GetAttributeValueInt: \r\nData: " + block +
+                                     "\r\nKey: Power On Lockout Time\r\nSeparator: ;\r\n"
+                                     "This error should be reported to Velmondo Technical Support.",
+                                 forms::Buttons::ok, forms::Icon::exclamation);
+    givenBlock(wizard, block);
+    EXPECT_EQ(wizard.addIn->get_PowerOnLockoutTime(), 0);
+  });
+}
+
+TEST(Settings, CheckBoxValuesOtherThanOneAreFalse) {
+  Wizard wizard;
+  wizard.addIn->put_bSecondPowerOff(2);
+  EXPECT_EQ(wizard.addIn->get_bSecondPowerOff(), 0);
+}
+
+TEST(Contract, UseOpenFileFalseLetsTheDocumentGo) {
+  Wizard wizard;
+  wizard.addIn->IAddInContract_UseOpenFile(false);
+  wizard.givenOpenSystem(std::filesystem::path(ORLENA_SOURCE_FOLDER) /
+                         "data/TemplateSystems/Orlena EXAMPLE/Orlena EXAMPLE.tsy");
+  ASSERT_TRUE(addin::IsDocumentSet());
+  wizard.document().MarkChanged();
+  wizard.addIn->IAddInContract_UseOpenFile(false);
+  EXPECT_FALSE(addin::IsDocumentSet());
+  EXPECT_FALSE(wizard.document().get_Modified());
+}
+
+TEST(Contract, SecondLoadCopiesNoPictures) {
+  Wizard wizard;
+  const std::int16_t small = addin::frmImages().get_ImageList().count();
+  const std::int16_t large = addin::frmImages().get_ImageListLarge().count();
+  EXPECT_GE(small, 166);
+  EXPECT_GE(large, 174);
+  wizard.addIn->IAddInContract_Load(nullptr, wizard.host->libraryManager(),
+                                    wizard.host->communication(), wizard.host->smallPictures(),
+                                    wizard.host->largePictures(), wizard.host->mainWindow());
+  EXPECT_EQ(addin::frmImages().get_ImageList().count(), small);
+  EXPECT_EQ(addin::frmImages().get_ImageListLarge().count(), large);
+}
+
+}  // namespace

@@ -1,0 +1,194 @@
+#include "shell/TabWizard.h"
+
+#include <gtest/gtest.h>
+
+#include "forms/Components.h"
+#include "host/iTab.h"
+#include "tests/support/ScriptedDesktop.h"
+
+namespace {
+
+using tests::ScriptedDesktop;
+
+std::vector<std::string>* journal = nullptr;
+
+void note(const std::string& call) { journal->push_back(call); }
+
+/// A step that notes what is called on it. "refusing" refuses to be left; "plain" has no members by name.
+class ProbeStep : public forms::UserControl, public host::iTab {
+ public:
+  ProbeStep(forms::Container& container, const std::string& name, std::string sort)
+      : UserControl(container, name), sort_(std::move(sort)) {
+    if (sort_ == "plain") return;
+    offer("SetData", [this] { note("SetData " + this->name()); });
+    offer("OtherTabClicked", [this] { note("OtherTabClicked " + this->name()); });
+    offer<bool&>("BeforeTabChange", [this](bool& cancel) {
+      note("BeforeTabChange " + this->name());
+      cancel = sort_ == "refusing";
+    });
+  }
+
+  std::string iTab_GetTabName() const override { return "Page " + name(); }
+  std::string iTab_GetName() const override { return ""; }
+  std::int16_t iTab_GetTabIcon() const override { return 0; }
+  std::int16_t iTab_GetIcon() const override { return 0; }
+  std::int16_t iTab_GetHelpContextID() const override { return 7; }
+  void iTab_SetID(std::int32_t) override {}
+  bool iTab_SaveData() override { return true; }
+  bool iTab_VerifyData(bool) override { return true; }
+  void iTab_TabClicked() override { note("iTab_TabClicked " + name()); }
+
+ private:
+  std::string sort_;
+};
+
+class TabWizardTest : public testing::Test {
+ protected:
+  TabWizardTest() {
+    journal = &calls;
+    for (const std::string sort : {"probe", "refusing", "plain"}) {
+      forms::registerControl("test." + sort,
+                             [sort](forms::Container& container, const std::string& name) {
+                               return std::make_unique<ProbeStep>(container, name, sort);
+                             });
+    }
+    form.load();
+    tabs.initProperties();
+    tabs.OnTabChanged.connect([](std::int16_t& previous, std::int16_t& current) {
+      note("OnTabChanged " + std::to_string(previous) + "," + std::to_string(current));
+    });
+  }
+
+  void givenSteps(const std::vector<std::string>& sorts) {
+    for (std::size_t i = 0; i < sorts.size(); ++i) {
+      tabs.AddTab("test." + sorts[i], "ctl" + std::to_string(i));
+    }
+    calls.clear();
+  }
+
+  std::vector<std::string> calls;
+  ScriptedDesktop desktop;
+  forms::Application application{desktop, "\\program"};
+  forms::Form form{"form"};
+  shell::TabWizard tabs{form, "tabs"};
+};
+
+using Calls = std::vector<std::string>;
+
+TEST_F(TabWizardTest, AcceptedChangeCallsInOrder) {
+  givenSteps({"probe", "probe", "probe"});
+  tabs.SetCurrentTab(1);
+  EXPECT_EQ(calls, (Calls{"BeforeTabChange ctl0", "OnTabChanged 0,1", "OtherTabClicked ctl0",
+                          "iTab_TabClicked ctl1"}));
+  calls.clear();
+  tabs.SetCurrentTab(2);
+  EXPECT_EQ(calls, (Calls{"BeforeTabChange ctl1", "OnTabChanged 1,2", "OtherTabClicked ctl1",
+                          "iTab_TabClicked ctl2"}));
+}
+
+TEST_F(TabWizardTest, ChangeToFirstStepLeavesOutTheLastTwo) {
+  givenSteps({"probe", "probe"});
+  tabs.SetCurrentTab(1);
+  calls.clear();
+  tabs.SetCurrentTab(0);
+  EXPECT_EQ(calls, (Calls{"BeforeTabChange ctl1", "OnTabChanged 1,0"}));
+}
+
+TEST_F(TabWizardTest, RefusalLeavesAllAsItWas) {
+  givenSteps({"probe", "refusing", "probe"});
+  tabs.SetCurrentTab(1);
+  calls.clear();
+  tabs.SetCurrentTab(2);
+  EXPECT_EQ(calls, Calls{"BeforeTabChange ctl1"});
+  EXPECT_EQ(tabs.GetCurrentTab(), 1);
+}
+
+TEST_F(TabWizardTest, StepWithoutMembersByNameIsLeftWithoutAnError) {
+  givenSteps({"plain", "plain", "probe"});
+  tabs.SetCurrentTab(1);
+  tabs.SetCurrentTab(2);
+  EXPECT_EQ(calls, (Calls{"OnTabChanged 0,1", "iTab_TabClicked ctl1", "OnTabChanged 1,2",
+                          "iTab_TabClicked ctl2"}));
+}
+
+TEST_F(TabWizardTest, AddingLaterStepsTellsTheParent) {
+  tabs.AddTab("test.probe", "ctl0");
+  EXPECT_EQ(calls, Calls{});
+  tabs.AddTab("test.probe", "ctl1");
+  EXPECT_EQ(calls, Calls{"OnTabChanged 1,0"});
+}
+
+TEST_F(TabWizardTest, StepThatCannotBeAddedIsToldAndLeftOut) {
+  desktop.expectMessage("", "Can't create \"test.unknown\": no component is registered under this id.",
+                        forms::Buttons::ok, forms::Icon::critical);
+  EXPECT_EQ(tabs.AddTab("test.unknown", "ctl0"), nullptr);
+
+  for (int i = 0; i < 16; ++i) ASSERT_TRUE(tabs.AddTab("test.plain", "ctl" + std::to_string(i)));
+  desktop.expectMessage("", "The tab strip \"tabControl\" has no page 16.", forms::Buttons::ok,
+                        forms::Icon::critical);
+  EXPECT_EQ(tabs.AddTab("test.plain", "ctl16"), nullptr);
+  EXPECT_EQ(tabs.GetControls().size(), 16U);
+}
+
+TEST_F(TabWizardTest, OnlyTheStepEnteredLastIsHeard) {
+  givenSteps({"probe", "probe", "probe"});
+  tabs.SetCurrentTab(1);
+  tabs.GetControls()[2]->objectEvent.raise({"JumpToTab", {std::string("Page ctl2")}});
+  EXPECT_EQ(tabs.GetCurrentTab(), 1);
+  tabs.GetControls()[1]->objectEvent.raise({"JumpToTab", {std::string("PAGE CTL2")}});
+  EXPECT_EQ(tabs.GetCurrentTab(), 2);
+}
+
+TEST_F(TabWizardTest, PagesAreFoundByCaptionInAnyCase) {
+  givenSteps({"probe", "probe"});
+  EXPECT_EQ(tabs.SetCurrentTabText("page CTL1"), 1);
+  EXPECT_EQ(tabs.GetCurrentTabText(), "Page ctl1");
+  EXPECT_EQ(tabs.SetCurrentTabText("nowhere"), 0);
+  EXPECT_EQ(tabs.GetCurrentTab(), 1);
+  EXPECT_FALSE(tabs.SetTabVisible("nowhere", false));
+  EXPECT_TRUE(tabs.SetTabVisible("page ctl0", false));
+}
+
+TEST_F(TabWizardTest, TabPassesTheStepsOfOtherPages) {
+  givenSteps({"probe", "probe"});
+  tabs.SetCurrentTab(1);
+  EXPECT_FALSE(tabs.GetControls()[0]->tabStop());
+  EXPECT_TRUE(tabs.GetControls()[1]->tabStop());
+}
+
+TEST_F(TabWizardTest, OwnButtonsShowTheNeighbourWithoutAsking) {
+  givenSteps({"refusing", "probe"});
+  auto& next = dynamic_cast<forms::CommandButton&>(tabs.control("cmdNext"));
+  EXPECT_EQ(next.caption(), "");
+  tabs.put_ShowBackNext(true);
+  EXPECT_EQ(next.caption(), "&Next");
+  next.click.raise();
+  EXPECT_EQ(calls, (Calls{"OnTabChanged 0,1", "OtherTabClicked ctl0", "iTab_TabClicked ctl1"}));
+  EXPECT_FALSE(next.isEnabled());
+  tabs.put_ShowBackNext(false);
+  EXPECT_EQ(next.caption(), "");
+  EXPECT_FALSE(next.tabStop());
+}
+
+TEST_F(TabWizardTest, PropertiesRoundTripInTheirOrder) {
+  tabs.put_Style(1);
+  tabs.put_TabsPerRow(4);
+  forms::PropertyBag bag;
+  tabs.writeProperties(bag);
+  EXPECT_EQ(bag.order(), (Calls{"BackColor", "Style", "ShowBackNext", "TabsPerRow"}));
+  EXPECT_FALSE(bag.isStored("BackColor"));
+
+  shell::TabWizard other(form, "other");
+  other.readProperties(bag);
+  EXPECT_EQ(other.get_Style(), 1);
+  EXPECT_EQ(other.get_TabsPerRow(), 4);
+}
+
+TEST_F(TabWizardTest, ClearedControlTakesStepsAnew) {
+  givenSteps({"probe", "probe"});
+  tabs.ClearTabs();
+  EXPECT_TRUE(tabs.GetControls().empty());
+  EXPECT_TRUE(tabs.AddTab("test.probe", "ctl0"));
+}
+
+}  // namespace

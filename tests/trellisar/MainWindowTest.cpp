@@ -1,0 +1,323 @@
+#include <sys/stat.h>
+
+#include <cstdlib>
+
+#include "forms/ListBox.h"
+#include "forms/ListView.h"
+#include "forms/TextBox.h"
+#include "forms/User.h"
+#include "host/Error.h"
+#include "tests/trellisar/World.h"
+#include "trellisar/FileIO.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+using forms::Buttons;
+using forms::Icon;
+
+class MainWindowTest : public HostTest {
+ protected:
+  trellisar::MainWindowOperations& window() { return *host.mainWindow(); }
+  forms::User user{application};
+
+  bool save(const std::string& name) { return window().FileSaveAs(folder.inside(name), "Orlena"); }
+  void expectCritical(const std::string& text) {
+    desktop.expectMessage("Trellisar", text, Buttons::ok, Icon::critical);
+  }
+  void expectRefusal(const std::string& text) {
+    desktop.expectMessage("Trellisar", text, Buttons::ok, Icon::exclamation);
+  }
+  std::string machine(const std::string& name) { return (folder.path() / name).string(); }
+};
+
+TEST_F(MainWindowTest, SaveMakesTheFoldersAndSetsTheWord) {
+  openTemplate();
+  data().isModified = true;
+  EXPECT_TRUE(save("a\\b\\Room"));
+  EXPECT_TRUE(fs::exists(folder.path() / "a" / "b" / "Room.tsy"));
+  EXPECT_FALSE(data().isModified);
+  EXPECT_EQ(data().application, "Orlena");
+  EXPECT_TRUE(save("a\\b\\Room.tsy")) << "its own file is replaced without a question";
+}
+
+TEST_F(MainWindowTest, SaveThatCantBeLeavesEverythingAsItWas) {
+  openTemplate();
+  data().isModified = true;
+  writeFile(folder.path() / "file", "");
+  expectCritical("The system could not be saved.\r\n\r\nCan't make the folder \"" +
+                 machine("file/deep") +
+                 "\": a file stands where a folder should be. Choose another folder.");
+  EXPECT_FALSE(save("file\\deep\\Room"));
+  fs::create_directories(folder.path() / "Room.tsy");
+  data().ownFile = folder.path() / "Room.tsy";
+  expectCritical("The system could not be saved.\r\n\r\nCan't write \"" + machine("Room.tsy") +
+                 "\": a folder stands where the file should be. Choose another name.");
+  EXPECT_FALSE(save("Room"));
+  EXPECT_EQ(data().application, "Trellisar");
+  EXPECT_TRUE(data().isModified);
+  expectRefusal("The system could not be saved: it has no name. Give it one and save again.");
+  EXPECT_FALSE(save(""));
+}
+
+TEST_F(MainWindowTest, PlainSaveMakesNoFolderAndKeepsTheWord) {
+  openTemplate();
+  data().isModified = true;
+  bool saved = true;
+  host.document()->Save(folder.inside("none\\Room"), saved);
+  EXPECT_FALSE(saved);
+  EXPECT_NE(host.document()->GetLastError().find("it does not exist"), std::string::npos);
+  EXPECT_TRUE(data().isModified);
+  host.document()->Save(folder.inside("Room"), saved);
+  EXPECT_TRUE(saved);
+  EXPECT_FALSE(data().isModified);
+  EXPECT_EQ(data().application, "Trellisar");
+}
+
+TEST_F(MainWindowTest, OpenReplacesTheSystemOnlyWhenItSucceeded) {
+  openTemplate();
+  ASSERT_TRUE(save("Room"));
+  const auto first = host.document();
+  writeFile(folder.path() / "Bad.tsy", "{}");
+  expectCritical("The system could not be opened.\r\n\r\nBad.tsy: format: is missing");
+  EXPECT_EQ(window().FileOpen(folder.inside("Bad.tsy"), true), nullptr);
+  EXPECT_EQ(window().FileOpen(folder.inside("None.tsy"), false), nullptr);
+  bool cancelled = false;
+  desktop.expectOpenDialog("Open System", "");
+  EXPECT_EQ(window().FileOpen(cancelled), nullptr);
+  EXPECT_TRUE(cancelled);
+  EXPECT_EQ(host.document(), first);
+  EXPECT_NO_THROW(static_cast<void>(first->get_Name()));
+
+  desktop.expectOpenDialog("Open System", folder.inside("Room.tsy"));
+  EXPECT_NE(window().FileOpen(cancelled), nullptr);
+  EXPECT_FALSE(cancelled);
+  EXPECT_EQ(host.document()->get_Path(), folder.inside("") );
+  EXPECT_THROW(static_cast<void>(first->get_Name()), host::Error);
+  EXPECT_FALSE(host.document()->get_Modified());
+}
+
+TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
+  openTemplate();
+  ASSERT_TRUE(save("Room"));
+  const std::string first = trellisar::readFile(folder.path() / "Room.tsy");
+  openTemplate();
+  data().name = "Other";
+  const std::string question =
+      "Another system is in the file \"" + machine("Room.tsy") +
+      "\".\r\n\r\nDo you want to keep that system? Yes keeps it and does not save; No replaces it.";
+  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question);
+  EXPECT_FALSE(save("Room")) << "the default answer does no harm";
+  EXPECT_EQ(trellisar::readFile(folder.path() / "Room.tsy"), first);
+
+  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
+  EXPECT_TRUE(save("Room"));
+  EXPECT_NE(trellisar::readFile(folder.path() / "Room.tsy"), first);
+}
+
+TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {
+  openTemplate();
+  const std::string place = folder.inside("New");
+  EXPECT_TRUE(window().CreateProjectFolder(place + "\\"));
+  EXPECT_TRUE(fs::is_directory(folder.path() / "New"));
+  EXPECT_TRUE(window().CreateProjectFolder(place));
+  expectRefusal(
+      "The system has no name, so its folder can't be made. Give the system a name.");
+  EXPECT_FALSE(window().CreateProjectFolder(folder.inside("") + "\\"));
+
+  ASSERT_TRUE(save("New\\New"));
+  EXPECT_TRUE(window().CreateProjectFolder(place)) << "the system's own folder";
+  openTemplate();
+  expectRefusal("The folder \"" + machine("New") +
+                "\" holds another system, \"New.tsy\". Choose another name or another place for "
+                "this system.");
+  EXPECT_FALSE(window().CreateProjectFolder(place));
+  writeFile(folder.path() / "file", "");
+  expectRefusal("Can't make the folder \"" + machine("file") +
+                "\": a file stands where a folder should be. Choose another folder.");
+  EXPECT_FALSE(window().CreateProjectFolder(folder.inside("file")));
+}
+
+TEST_F(MainWindowTest, DestroyDocForgetsAndToleratesThatThereIsNone) {
+  openTemplate();
+  window().SetApplicationStatus("\\a\\", "A");
+  window().SetApplicationStatus("\\b\\", "B");
+  window().ResetApplicationStatus("\\a\\", "A");
+  ASSERT_EQ(host.openSystems().size(), 1u);
+  window().DestroyDoc();
+  window().DestroyDoc();
+  EXPECT_EQ(host.document(), nullptr);
+  EXPECT_TRUE(host.openSystems().empty());
+}
+
+TEST_F(MainWindowTest, TimeTextsAreReadToHundredths) {
+  const std::pair<const char*, std::int32_t> cases[] = {
+      {"0.1s", 10},    {" 120s", 12000}, {"3", 300},      {"2.675s", 268}, {"0.005s", 0},
+      {"0.015s", 2},   {"0.0151s", 2},   {"0.0051s", 1},  {".5s", 50},     {"-1s", -100},
+      {"", 0},         {"s", 0},         {"abc", 0},      {"1e3s", 0},     {"1.2.3s", 0},
+      {"655.36s", 65536}, {"99999999999s", INT32_MAX}};
+  for (const auto& [text, hundredths] : cases) {
+    EXPECT_EQ(window().GetHSeconds(text, 0), hundredths) << "\"" << text << "\"";
+  }
+}
+
+TEST_F(MainWindowTest, AddDeviceTellsWhatItCantAdd) {
+  openTemplate();
+  const auto refusal = [&](auto&& change) {
+    host::AddDeviceArguments arguments;
+    arguments.strName = "Thing";
+    arguments.strParentName = "Receiver";
+    arguments.iSlot = host::slotReceiverPorts;
+    arguments.iControlEntryID = host::entryPowerRelay;
+    change(arguments);
+    EXPECT_FALSE(window().AddDevice(arguments));
+    return arguments.strError;
+  };
+  EXPECT_EQ(refusal([](auto& a) { a.iControlEntryID = 9; }),
+            "\"Thing\" can't be added: the device library has no control entry 9.");
+  EXPECT_EQ(refusal([](auto& a) { a.iModelID = 7; }),
+            "\"Thing\" can't be added: the device library knows it as model 2528 and not 7.");
+  EXPECT_EQ(refusal([](auto& a) { a.iSlot = 3; }),
+            "\"Thing\" can't be added: it does not fit into slot 3.");
+  EXPECT_EQ(refusal([](auto& a) { a.strParentName = "Nobody"; }),
+            "\"Thing\" can't be added: there is no device \"Nobody\".");
+  EXPECT_EQ(refusal([](auto& a) { a.strName = "Digital Input 1"; }),
+            "There is a device named \"Digital Input 1\" in the system already.");
+}
+
+TEST_F(MainWindowTest, PortsFollowTheNameOrTheFirstFreeOne) {
+  openTemplate();
+  const auto input = host.document()->get_Devices()->FindByName("Digital Input 1", "Receiver");
+  ASSERT_TRUE(host.document()->RemoveDevice(input->get_ID(), host::removalOfDevice));
+  const auto sensor = host.document()->get_Devices()->Item(
+      add("Motion Detector", host::entryMotionDetector));
+  EXPECT_EQ(window().GetDevicePort(sensor->get_DeviceHandle()), "Digital Input 1");
+  EXPECT_EQ(window().GetDeviceIPID(sensor->get_DeviceHandle()), "");
+  const auto kestrum =
+      host.document()->get_Devices()->Item(add("Kestrum Interface", host::entryKestrum));
+  EXPECT_EQ(window().GetDeviceIPID(kestrum->get_DeviceHandle()), "03");
+  EXPECT_EQ(kestrum->get_IOAssignment(), "IP-ID 03");
+  EXPECT_EQ(window().GetDevicePort(999), "");
+}
+
+TEST_F(MainWindowTest, InterfaceIsTheOneThatIsThere) {
+  openTemplate();
+  const auto panel = window().AddInterface(host::modelFenlet, data().controlSystem, "");
+  ASSERT_NE(panel, nullptr);
+  EXPECT_EQ(panel->get_Name(), "Fenlet");
+  EXPECT_TRUE(panel->get_IsProjectPanel());
+  EXPECT_EQ(window().AddInterface(host::modelFenlet, data().controlSystem, "")->get_ID(),
+            panel->get_ID());
+  EXPECT_EQ(window().AddInterface(9, data().controlSystem, ""), nullptr);
+}
+
+TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
+  openTemplate();
+  host::DeviceDialogArguments arguments;
+  arguments.iParentID = data().controlSystem;
+  arguments.strName = "Screen";
+  arguments.strTitle = "Select a Device";
+  arguments.strCategory6 = "Screen";
+  std::int32_t place = 0;
+  const auto choose = [&](forms::Form& form) {
+    user.select(dynamic_cast<forms::ListBox&>(form.control("lstDevices")), place);
+    user.click(form.control("cmdOK"));
+  };
+  const auto cancel = [&](forms::Form& form) { user.press(forms::keys::escape); static_cast<void>(form); };
+
+  desktop.whenShown("DeviceDialog", cancel);
+  EXPECT_EQ(window().ShowAddReplaceDeviceDialog(arguments), host::deviceDialogNone);
+  desktop.whenShown("DeviceDialog", choose);
+  const std::int16_t first = window().ShowAddReplaceDeviceDialog(arguments);
+  ASSERT_GT(first, 0);
+  arguments.iDeviceID = first;
+  desktop.whenShown("DeviceDialog", choose);
+  EXPECT_EQ(window().ShowAddReplaceDeviceDialog(arguments), host::deviceDialogUnchanged);
+  desktop.whenShown("DeviceDialog", cancel);
+  EXPECT_EQ(window().ShowAddReplaceDeviceDialog(arguments), host::deviceDialogUnchanged);
+  place = 1;
+  desktop.whenShown("DeviceDialog", choose);
+  const std::int16_t second = window().ShowAddReplaceDeviceDialog(arguments);
+  EXPECT_GT(second, first);
+  EXPECT_EQ(data().find(first), nullptr);
+  EXPECT_EQ(host.document()->get_Devices()->Item(second)->get_Name(), "Screen");
+}
+
+TEST_F(MainWindowTest, DevicePropertiesChangeNothingBeforeOk) {
+  openTemplate();
+  const std::int16_t receiver = data().controlSystem;
+  const auto edit = [&](forms::Form& form, const char* button) {
+    user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtValue")), "1d");
+    user.click(form.control("cmdSet"));
+    user.click(form.control(button));
+  };
+  const auto knob =
+      host.document()->get_ControlSystem()->get_Properties()->Item("Volume Knob Control");
+  desktop.whenShown("DeviceProperties", [&](forms::Form& form) { edit(form, "cmdCancel"); });
+  window().ShowControlledDeviceProperties(receiver, {host::progIDPageProperties});
+  EXPECT_EQ(knob->get_Value(), "0d");
+  desktop.whenShown("DeviceProperties", [&](forms::Form& form) { edit(form, "cmdOK"); });
+  window().ShowControlledDeviceProperties(receiver, {host::progIDPageProperties});
+  EXPECT_EQ(knob->get_Value(), "1d");
+
+  desktop.whenShown("DeviceProperties", [&](forms::Form& form) {
+    user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtValue")), "loud");
+    expectRefusal(
+        "\"loud\" is no value for \"Volume Knob Control\". One of \"0d\", \"1d\".");
+    user.click(form.control("cmdOK"));
+    EXPECT_TRUE(form.isVisible());
+    user.click(form.control("cmdCancel"));
+  });
+  window().ShowControlledDeviceProperties(receiver, {host::progIDPageProperties});
+  window().ShowControlledDeviceProperties(receiver, {});
+}
+
+TEST_F(MainWindowTest, PreferencesGiveTheDefaultFolderBelowTheEnvironment) {
+  ::unsetenv("TRELLISAR_SYSTEMS");
+  const std::string place = folder.inside("Mine");
+  desktop.whenShown("Preferences", [&](forms::Form& form) {
+    user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtFolder")), "relative");
+    expectRefusal(
+        "\"relative\" is no whole path of a folder. Choose the folder with Browse, or leave the "
+        "box empty for the usual one.");
+    user.click(form.control("cmdOK"));
+    desktop.expectFolderDialog("Save new systems in this folder:", place);
+    user.click(form.control("cmdBrowse"));
+    user.click(form.control("cmdOK"));
+  });
+  window().ShowPreferencesDialog();
+  EXPECT_EQ(window().GetDefaultSystemsFolder(), place + "\\");
+  ::setenv("TRELLISAR_SYSTEMS", folder.path().c_str(), 1);
+  EXPECT_EQ(window().GetDefaultSystemsFolder(), folder.inside(""));
+  ::unsetenv("TRELLISAR_SYSTEMS");
+}
+
+TEST(Preferences, AreKeptAndTolerateADamagedFile) {
+  const TemporaryFolder folder;
+  const fs::path file = folder.path() / "deep" / "preferences.json";
+  {
+    trellisar::Preferences preferences(file);
+    preferences.setDefaultFolder("\\rooms");
+    for (int i = 0; i < 12; ++i) preferences.remember("\\" + std::to_string(i));
+    preferences.remember("\\5");
+  }
+  const trellisar::Preferences again(file);
+  EXPECT_EQ(again.defaultFolder(), "\\rooms");
+  ASSERT_EQ(again.recentSystems().size(), 10u);
+  EXPECT_EQ(again.recentSystems().front(), "\\5");
+  EXPECT_EQ(again.recentSystems()[1], "\\11");
+  writeFile(file, "{\"format\": \"trellisar-prefer");
+  EXPECT_EQ(trellisar::Preferences(file).defaultFolder(), "");
+}
+
+TEST_F(MainWindowTest, WhatTheHostDoesNotHaveYetSaysSo) {
+  openTemplate();
+  std::int32_t hwnd = 0;
+  EXPECT_THROW(window().Export(hwnd), host::Error);
+  EXPECT_THROW(window().GetUIMgr(), host::Error);
+  EXPECT_THROW(host.communication()->StartTransfer(0, 1, 2), host::Error);
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,146 @@
+#include "tests/wizard/Wizard.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "addin/modGlobals.h"
+#include "forms/DropDownList.h"
+#include "forms/ListBox.h"
+#include "forms/Paths.h"
+#include "forms/TabStrip.h"
+#include "forms/TextBox.h"
+#include "host/iTab.h"
+#include "vmAOR/EntryPoints.h"
+
+namespace tests {
+namespace {
+
+std::filesystem::path dataFolder() { return std::filesystem::path(ORLENA_SOURCE_FOLDER) / "data"; }
+
+/// Read once for all wizards of the program.
+std::shared_ptr<const trellisar::DeviceLibrary> library() {
+  static const auto shared =
+      std::make_shared<const trellisar::DeviceLibrary>(dataFolder() / "library");
+  return shared;
+}
+
+std::shared_ptr<addin::IAddIn> createAddIn() {
+  DllRegisterServer();
+  std::shared_ptr<forms::Object> object;
+  DllGetClassObject("AddInOrlena.IAddIn", object);
+  return std::dynamic_pointer_cast<addin::IAddIn>(object);
+}
+
+std::int32_t placeOf(const forms::ListBox& list, const std::string& text) {
+  for (std::int32_t i = 0; i < list.count(); ++i) {
+    if (list.text(i) == text) return i;
+  }
+  throw std::runtime_error("The dialog does not offer " + text);
+}
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() {
+  std::string name = (std::filesystem::temp_directory_path() / "orlena-test-XXXXXX").string();
+  if (!mkdtemp(name.data())) throw std::runtime_error("No temporary folder could be made.");
+  path_ = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code failure;
+  std::filesystem::remove_all(path_, failure);
+}
+
+std::string fileText(const std::filesystem::path& file) {
+  std::ostringstream text;
+  text << std::ifstream(file, std::ios::binary).rdbuf();
+  return text.str();
+}
+
+Wizard::Wizard() : application(desktop, forms::fromMachinePath(dataFolder())) {
+  setenv("TRELLISAR_SYSTEMS", systems_.path().c_str(), 1);
+  host = std::make_unique<trellisar::Host>(trellisar::HostOptions{
+      .dataFolder = dataFolder(), .library = library(), .preferencesFile = {}});
+  addIn = createAddIn();
+  addIn->IAddInContract_Load(nullptr, host->libraryManager(), host->communication(),
+                             host->smallPictures(), host->largePictures(), host->mainWindow());
+}
+
+Wizard::~Wizard() = default;
+
+void Wizard::givenOpenSystem(const std::filesystem::path& file) {
+  host->mainWindow()->FileOpen(forms::fromMachinePath(file), false);
+  addIn->IAddInContract_Load(host->document(), host->libraryManager(), host->communication(),
+                             host->smallPictures(), host->largePictures(), host->mainWindow());
+  addIn->IAddInContract_UseOpenFile(true);
+}
+
+void Wizard::run(const std::function<void()>& script) {
+  desktop.whenShown("frmAddIn", [this, script](forms::Form& form) {
+    window_ = &form;
+    script();
+    if (form.isVisible()) {
+      if (addin::IsDocumentSet()) addin::gDocument().MarkUnchanged();
+      addIn->put_FolderChecksOK(true);
+      form.unload();
+    }
+    window_ = nullptr;
+  });
+  addIn->IAddInContract_Run(host->mainWindow());
+}
+
+forms::UserControl& Wizard::step(const std::string& name) const {
+  auto& tabs = inWindow<forms::UserControl>("ctlTabs");
+  for (std::int16_t i = 0; i < 10; ++i) {
+    auto& step = dynamic_cast<forms::UserControl&>(tabs.control("ctl" + std::to_string(i)));
+    if (dynamic_cast<host::iTab&>(step).iTab_GetTabName() == name) return step;
+  }
+  throw std::runtime_error("There is no step " + name);
+}
+
+std::string Wizard::currentStep() const {
+  return inWindow<forms::UserControl>("ctlTabs").control("tabControl").shownText();
+}
+
+void Wizard::goTo(const std::string& name) {
+  auto& list = inWindow<forms::UserControl>("ctlSteps");
+  for (std::int16_t i = 0; i < 10; ++i) {
+    auto& entry = list.control("cmdStep(" + std::to_string(i) + ")");
+    if (entry.shownText() == name) return user.click(entry);
+  }
+  throw std::runtime_error("The list has no step " + name);
+}
+
+void Wizard::enter(const std::string& textBox, const std::string& text) {
+  user.replaceText(control<forms::TextBox>(textBox), text);
+}
+
+void Wizard::chooseDisplay(const std::string& device) {
+  desktop.whenShown("DeviceDialog", [this, device](forms::Form& dialog) {
+    auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
+    user.select(list, placeOf(list, device));
+    user.click(dialog.control("cmdOK"));
+  });
+  click("cmdChoose");
+}
+
+void Wizard::selectCommand(const std::string& selector, const std::string& command) {
+  auto& list =
+      dynamic_cast<forms::DropDownList&>(control<forms::UserControl>(selector).control("cboCommands"));
+  user.select(list, command.empty() ? 0 : list.find(command));
+}
+
+std::shared_ptr<host::Device> Wizard::device(const std::string& name) const {
+  return document().get_Devices()->FindByName(name, document().get_ControlSystem()->get_Name());
+}
+
+std::string Wizard::settingsBlock() const {
+  return document().get_SystemInfo()->GetAddInAttributes("Orlena");
+}
+
+std::filesystem::path Wizard::systemFile(const std::string& name) const {
+  return systemsFolder() / name / (name + ".tsy");
+}
+
+}  // namespace tests

@@ -4,6 +4,7 @@
 #include "common/modHTMLHelp.h"
 #include "forms/Application.h"
 #include "forms/Components.h"
+#include "forms/Guard.h"
 #include "forms/Numbers.h"
 
 namespace addin {
@@ -21,19 +22,6 @@ void ShowPicture(const char* strProgID, const std::string& strCaption, std::int1
   frmPicture->Setup(strCaption, iImage);
   frmPicture->ShowModal();
 }
-
-/// Runs an action at the end of a block, however it is left.
-template <typename Action>
-class AtEnd {
- public:
-  explicit AtEnd(Action action) : m_action(std::move(action)) {}
-  ~AtEnd() { m_action(); }
-  AtEnd(const AtEnd&) = delete;
-  AtEnd& operator=(const AtEnd&) = delete;
-
- private:
-  Action m_action;
-};
 
 }  // namespace
 
@@ -59,6 +47,7 @@ void IAddIn::IAddInContract_Load(const std::shared_ptr<host::Document>& clsDocum
   SetCommObject(clsCommObject);
 
   m_clsComm = clsCommObject;
+  m_onDisplayHelp.end();
   if (m_clsComm) {
     m_onDisplayHelp = m_clsComm->DisplayHelp.listen(
         [this](std::int32_t lTopicID) { m_clsComm_DisplayHelp(lTopicID); });
@@ -80,7 +69,7 @@ void IAddIn::IAddInContract_Run(const std::shared_ptr<host::OwnerForm>& oOwnerFo
   SetAddIn(shared_from_this());
   forms::Application::current().setTitle(IAddInContract_Title());
 
-  const AtEnd closed([this] {
+  const forms::AtEnd closed([this] {
     m_frmAddIn.reset();
     SetDocument(nullptr);
     m_onDisplayHelp.end();
@@ -125,8 +114,12 @@ void IAddIn::ShowTestPattern() {
 }
 
 std::int32_t IAddIn::GetActiveWindowHandle() const {
-  const forms::Form* frmActive = forms::Application::current().activeForm();
-  return frmActive ? frmActive->windowHandle() : 0;
+  std::int32_t hwnd = 0;
+  forms::ignoringErrors([&] {
+    const forms::Form* frmActive = forms::Application::current().activeForm();
+    if (frmActive) hwnd = frmActive->windowHandle();
+  });
+  return hwnd;
 }
 
 void IAddIn::m_clsComm_DisplayHelp(std::int32_t lTopicID) {

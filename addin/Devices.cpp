@@ -173,8 +173,8 @@ void IAddIn::SetUpPower(std::int16_t iDeviceID) {
     oDevice->put_PowerControlType(host::powerDiscrete);
     return;
   }
-  const bool bToggles =
-      oDevice->GetCommandList(host::directionInput, host::signalDigital)->Exists("POWER");
+  const bool bToggles = oDevice->GetCommandList(host::directionInput, host::signalDigital)
+                            ->Exists(host::commandPowerToggle);
   oDevice->put_PowerControlType(bToggles ? host::powerSensing : host::powerNone);
 }
 

@@ -4,7 +4,7 @@
 
 namespace addin {
 
-/// For which direction a power operation works.
+/// Whether a power operation works on going on or on going off.
 enum enumPowerDiscrete : std::int16_t { pdOn = 1, pdOff = 2 };
 
 enum enumAuxiliaryDeviceType : std::int16_t { adtScreen = 1, adtLift = 2 };

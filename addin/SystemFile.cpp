@@ -148,7 +148,7 @@ bool IAddIn::QueryCloseSystem(Answer& iResponse) {
   iResponse = forms::Application::current().messageBox(
       "Do you wish to save the changes you made to the system?", Buttons::yesNoCancel,
       Icon::question, "Orlena");
-  // Whatever a save answers: the user has been told of a failure, and wants to leave.
+  // What the save answers is not looked at: Yes lets the wizard close even when it failed.
   if (iResponse == Answer::yes) SaveSystemAs();
   return iResponse != Answer::cancel;
 }

@@ -9,6 +9,17 @@ if(ORLENA_SANITIZE)
   target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Parsing the standard library is most of the work of a build. The headless preset does without, so that a file which
+# misses an include of its own is found there.
+option(ORLENA_PRECOMPILE "Precompile the headers of the standard library" ON)
+
+function(house_precompile name)
+  if(ORLENA_PRECOMPILE)
+    target_precompile_headers(${name} PRIVATE <algorithm> <any> <cstdint> <filesystem> <functional> <map> <memory>
+                              <optional> <string> <string_view> <variant> <vector> ${ARGN})
+  endif()
+endfunction()
+
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
@@ -16,7 +27,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
 function(house_library name)
-  cmake_parse_arguments(HOUSE "SHARED" "" "DEPENDS;PACKAGES" ${ARGN})
+  cmake_parse_arguments(HOUSE "SHARED" "" "DEPENDS;PACKAGES;PRECOMPILE" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS
        "${PROJECT_SOURCE_DIR}/${name}/*.cpp" "${PROJECT_SOURCE_DIR}/${name}/*.h")
   if(HOUSE_SHARED)
@@ -31,4 +42,5 @@ function(house_library name)
   target_include_directories(${name} PUBLIC "${include_folder}")
   target_link_libraries(${name} PUBLIC ${HOUSE_DEPENDS} PRIVATE house_flags)
   target_link_libraries(${name} PRIVATE ${HOUSE_PACKAGES})
+  house_precompile(${name} ${HOUSE_PRECOMPILE})
 endfunction()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 namespace forms {
 
 /// Holds a flag True for as long as it lives, and puts back what it was before:
@@ -15,6 +17,19 @@ class Guard {
  private:
   bool& flag_;
   bool before_;
+};
+
+/// Runs an action at the end of a block, however it is left. The action raises nothing.
+template <typename Action>
+class AtEnd {
+ public:
+  explicit AtEnd(Action action) : action_(std::move(action)) {}
+  ~AtEnd() { action_(); }
+  AtEnd(const AtEnd&) = delete;
+  AtEnd& operator=(const AtEnd&) = delete;
+
+ private:
+  Action action_;
 };
 
 }  // namespace forms

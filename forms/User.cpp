@@ -44,6 +44,16 @@ Control* findButton(Form& form, bool (CommandButton::*has)() const) {
   return nullptr;
 }
 
+/// A window may place a strip so high that only its pages are seen.
+bool hasHeadersInSight(const TabStrip& strip) {
+  Twips bottom = strip.tabHeight();
+  for (const Control* control = &strip; control;
+       control = const_cast<Container&>(control->container()).asControl()) {
+    bottom += control->bounds().top;
+  }
+  return bottom > 0;
+}
+
 }  // namespace
 
 void User::check(const Control& control) const {
@@ -56,8 +66,9 @@ void User::check(const Control& control) const {
   }
 }
 
-void User::settle() {
-  if (Form* form = application_.activeForm()) form->focus().settle();
+/// A dialog that the act closed leaves the form below it to the act that opened the dialog.
+void User::settle(Form* form) {
+  if (form && form == application_.activeForm()) form->focus().settle();
 }
 
 /// False when a validation kept the focus. A wrong value keeps nobody from a cancel button.
@@ -86,20 +97,20 @@ void User::click(Control& control) {
     }
     deliverClick(control);
   }
-  settle();
+  settle(control.form());
 }
 
 void User::press(CommandButton& button, MouseButton mouseButton) {
   if (mouseButton == MouseButton::left) return click(button);
   check(button);
   button.mouseDown.raise(mouseButton);
-  settle();
+  settle(button.form());
 }
 
 bool User::moveFocus(Control& control) {
   check(control);
   const bool moved = control.form()->focus().moveByUser(control);
-  settle();
+  settle(control.form());
   return moved;
 }
 
@@ -112,19 +123,19 @@ void User::type(TextBox& box, const std::string& text) {
   for (const char32_t character : toCodePoints(text)) {
     if (box.hasFocus()) box.userType(character);
   }
-  settle();
+  settle(box.form());
 }
 
 void User::replaceText(TextBox& box, const std::string& text) {
   if (!reach(box)) return;
   box.selectAll();
   box.userInsert(text);
-  settle();
+  settle(box.form());
 }
 
 void User::edit(TextBox& box, const std::string& text, std::int32_t caret) {
   if (reach(box)) box.userEdit(text, caret);
-  settle();
+  settle(box.form());
 }
 
 void User::press(std::int16_t code, std::int16_t shift) {
@@ -136,7 +147,7 @@ void User::press(std::int16_t code, std::int16_t shift) {
   if (key.code != 0 && control) control->keyDown.raise(key);
   const bool goesOn = key.code != 0 && form == application_.activeForm();
   if (goesOn && !(control && control->isUsable() && control->userKey(key))) pressOnForm(*form, key);
-  settle();
+  settle(form);
 }
 
 void User::pressOnForm(Form& form, const KeyDown& key) {
@@ -174,33 +185,33 @@ bool User::pressAccelerator(char32_t letter) {
     const auto next = std::find_if(bearer, controls.end(), [](Control* c) { return c->isStop(); });
     if (next != controls.end()) form->focus().moveByUser(**next);
   }
-  settle();
+  settle(form);
   return true;
 }
 
 void User::select(ListBox& list, std::int32_t place) {
   if (reach(list)) list.userSelect(place);
-  settle();
+  settle(list.form());
 }
 
 void User::doubleClick(ListBox& list, std::int32_t place) {
   if (reach(list)) list.userDoubleClick(place);
-  settle();
+  settle(list.form());
 }
 
 void User::select(DropDownList& list, std::int32_t place) {
   if (reach(list)) list.userSelect(place);
-  settle();
+  settle(list.form());
 }
 
 void User::select(ListView& list, std::int32_t row) {
   if (reach(list)) list.userSelect(row);
-  settle();
+  settle(list.form());
 }
 
 void User::doubleClick(ListView& list, std::int32_t row) {
   if (reach(list)) list.userDoubleClick(row);
-  settle();
+  settle(list.form());
 }
 
 void User::editLabel(ListView& list, std::int32_t row, const std::string& text) {
@@ -211,22 +222,25 @@ void User::editLabel(ListView& list, std::int32_t row, const std::string& text) 
   list.startLabelEdit();
   list.userEditLabel(text);
   list.userEndLabelEdit(true);
-  settle();
+  settle(list.form());
 }
 
 void User::labelText(ListView& list, const std::string& text) { list.userEditLabel(text); }
 
 void User::endLabelEdit(ListView& list, bool accept) {
   list.userEndLabelEdit(accept);
-  settle();
+  settle(list.form());
 }
 
 void User::select(TabStrip& strip, std::int16_t page) {
+  if (!hasHeadersInSight(strip)) {
+    throw Refused("The headers of \"" + strip.name() + "\" are out of sight.");
+  }
   if (!strip.isPageVisible(page)) {
     throw Refused("\"" + strip.name() + "\" shows no page " + std::to_string(page) + ".");
   }
   if (reach(strip)) strip.setCurrentPage(page);
-  settle();
+  settle(strip.form());
 }
 
 void User::choose(ToolBar& toolBar, const std::string& tag) {
@@ -238,7 +252,7 @@ void User::choose(ToolBar& toolBar, const std::string& tag) {
     throw Refused("\"" + toolBar.name() + "\" has no entry \"" + tag + "\".");
   }
   if (reach(toolBar)) toolBar.userChoose(tag);
-  settle();
+  settle(toolBar.form());
 }
 
 bool User::close(Form& form) {

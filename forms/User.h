@@ -90,7 +90,7 @@ class User {
   bool moveTo(Control& control);
   void deliverClick(Control& control);
   void pressOnForm(Form& form, const KeyDown& key);
-  void settle();
+  void settle(Form* form);
 
   Application& application_;
 };

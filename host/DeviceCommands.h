@@ -9,7 +9,7 @@
 
 namespace host {
 
-/// The third argument of LoadCommands and its named argument 3.
+/// The third argument of LoadCommands, and the one that its callers give by name.
 struct LoadCommandsFlags {
   bool bOfferEmpty;  // the first choice is "nothing assigned"
   bool bArgument3;   // this control has no use for it
@@ -43,6 +43,7 @@ class DeviceCommands : public forms::UserControl {
   /// Empty: nothing is assigned.
   std::string get_SelectedCommand() const;
 
+  /// A member of a control array is told from the others where it is listened to.
   forms::Event<> CommandChanged;
 
  private:

@@ -22,7 +22,7 @@ class ErrorLog : public forms::UserControl {
   /// This control has no use for the two options.
   void SetLogOptions(bool bOption1, bool bOption2);
 
-  /// Messages of severityProgress are kept, and shown only with "showinformationitems".
+  /// Messages of severityProgress are left out unless it has "showinformationitems".
   void Add(const std::shared_ptr<clsErrorItem>& oItem);
   void Clear();
 

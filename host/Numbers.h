@@ -60,6 +60,9 @@ enum enumConditionType : std::int32_t {
   conditionDigitalValue = 5,  // the value of a digital signal
 };
 
+/// The command of a driver that turns the power on and off in turn.
+inline constexpr const char* commandPowerToggle = "POWER";
+
 inline constexpr std::int32_t compareEqual = 0;
 
 inline constexpr const char* stateIsOpen = "Is Open";      // pairs with the value 0

@@ -66,8 +66,10 @@ class OwnerForm {
   virtual forms::Form* get_Form() const = 0;
 
   /// Opens a file, or asks for one when strFile is empty; bCancelled tells that the user chose
-  /// none. Nothing on failure, which the user has been told. The open document is replaced only
-  /// when the new one could be opened. bUseRecovery allows a recovery file in its place.
+  /// none. Nothing on failure, which the user has been told, but for a file that is named and is
+  /// not there: the caller says so. The open document is replaced only when the new one could be
+  /// opened. bUseRecovery allows a recovery file in its place; False also opens the file as a
+  /// template, which no save replaces without a question.
   virtual std::shared_ptr<Document> FileOpen(const std::string& strFile, bool bUseRecovery,
                                              bool& bCancelled) = 0;
   std::shared_ptr<Document> FileOpen(const std::string& strFile, bool bUseRecovery) {

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "forms/UserControl.h"
+
 namespace host {
 
 /// The typed contract of a wizard step. A step also has members that are called by name, any of
@@ -24,5 +26,8 @@ class iTab {
   /// The step was entered.
   virtual void iTab_TabClicked() = 0;
 };
+
+/// The typed contract of a step. Raises Error 13 for a control that is no step.
+iTab& AsTab(forms::UserControl& oStep);
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <QtWidgets/QStyle>
 
 #include "qt/Conversions.h"
+#include "qt/Painting.h"
 
 namespace qt {
 namespace {
@@ -32,8 +33,7 @@ class Box : public QGroupBox {
     if (!bordered_) return;
     QPainter painter(this);
     const int titleHeight = title().isEmpty() ? 0 : fontMetrics().height();
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, titleHeight / 2, -1, -1));
+    drawBorder(painter, rect().adjusted(0, titleHeight / 2, 0, 0), palette().color(QPalette::Mid));
     if (title().isEmpty()) return;
     const int width = fontMetrics().size(Qt::TextShowMnemonic, title()).width();
     const QRect text(titleLeft, 0, width + 1, titleHeight);

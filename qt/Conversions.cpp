@@ -14,7 +14,6 @@ namespace qt {
 namespace {
 
 constexpr forms::Color systemBit = 0x80000000;
-constexpr int roomInRow = 4;
 constexpr int darkest = 128;
 
 QPalette::ColorRole roleOf(forms::Color color) {
@@ -121,8 +120,6 @@ QFont toQt(const forms::Font& font) {
   used.setUnderline(font.underline);
   return used;
 }
-
-QSize rowSize(const QWidget& list) { return {1, list.fontMetrics().height() + roomInRow}; }
 
 bool isSystemColor(forms::Color color) { return (color & systemBit) != 0; }
 

@@ -10,10 +10,6 @@
 
 #include "forms/Geometry.h"
 
-QT_BEGIN_NAMESPACE
-class QWidget;
-QT_END_NAMESPACE
-
 namespace forms {
 class Control;
 }
@@ -43,9 +39,6 @@ std::int32_t codePointsBefore(const QString& text, int unit);
 /// The font that is really used: that of the name where it is installed, else the application's at
 /// the same size.
 QFont toQt(const forms::Font& font);
-
-/// The least size of a row in a list, with room above and below its text.
-QSize rowSize(const QWidget& list);
 
 QColor toQt(forms::Color color);
 

@@ -3,9 +3,9 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleOptionFocusRect>
 
 #include "qt/Conversions.h"
+#include "qt/Painting.h"
 
 namespace qt {
 /// Draws its text itself, since a QLabel shows the mark of an accelerator as it is written where it
@@ -31,12 +31,10 @@ class LabelWidget : public QLabel {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    if (bordered_) {
-      painter.setPen(palette().color(QPalette::Mid));
-      painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    if (bordered_) drawBorder(painter, rect(), palette().color(QPalette::Mid));
     drawText(painter);
-    if (hasFocus()) drawFocus(painter);
+    const QRect text = painter.boundingRect(rect(), flags, caption_);
+    if (hasFocus()) drawFocus(painter, *this, text.adjusted(-1, 0, 1, 0));
   }
 
  private:
@@ -49,14 +47,6 @@ class LabelWidget : public QLabel {
     painter.setFont(font);
     style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), caption_,
                           link_ && isEnabled() ? QPalette::Link : QPalette::WindowText);
-  }
-
-  void drawFocus(QPainter& painter) {
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    const QRect text = painter.boundingRect(rect(), flags, caption_);
-    option.rect = text.adjusted(-1, 0, 1, 0).intersected(rect());
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
   }
 
   QString caption_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "qt/Conversions.h"
+#include "qt/RowDelegate.h"
 
 namespace qt {
 
@@ -12,6 +13,7 @@ ListBoxAdapter::ListBoxAdapter(forms::ListBox& list, const Place& place)
       list_(list),
       widget_(static_cast<QListWidget*>(widget())) {
   widget_->setUniformItemSizes(true);
+  widget_->setItemDelegate(new RowDelegate(widget_));
   widget_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   watch(widget_->viewport());
 }
@@ -29,7 +31,6 @@ void ListBoxAdapter::showItems() {
     const QString text = toQt(list_.text(i));
     if (i == widget_->count()) {
       widget_->addItem(text);
-      widget_->item(i)->setSizeHint(rowSize(*widget_));
     } else if (widget_->item(i)->text() != text) {
       widget_->item(i)->setText(text);
     }

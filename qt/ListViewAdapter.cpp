@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "qt/Conversions.h"
+#include "qt/RowDelegate.h"
 
 namespace qt {
 namespace {
@@ -20,6 +21,7 @@ ListViewAdapter::ListViewAdapter(forms::ListView& list, const Place& place)
       tree_(static_cast<QTreeWidget*>(widget())) {
   tree_->setRootIsDecorated(false);
   tree_->setUniformRowHeights(true);
+  tree_->setItemDelegate(new RowDelegate(tree_));
   tree_->setAllColumnsShowFocus(true);
   tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   tree_->header()->setSectionsMovable(false);
@@ -75,7 +77,6 @@ void ListViewAdapter::showRows() {
 
 bool ListViewAdapter::showRow(QTreeWidgetItem& item, std::int32_t row) {
   bool different = false;
-  item.setSizeHint(0, {item.sizeHint(0).width(), rowSize(*tree_).height()});
   for (int column = 0; column < tree_->columnCount(); ++column) {
     const bool filled = column < static_cast<int>(list_.columns().size()) || column == 0;
     const QString text = filled ? toQt(list_.text(row, column)) : QString();

@@ -4,11 +4,11 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionButton>
-#include <QtWidgets/QStyleOptionFocusRect>
 #include <QtWidgets/QStylePainter>
 #include <algorithm>
 
 #include "qt/Conversions.h"
+#include "qt/Painting.h"
 
 namespace qt {
 namespace {
@@ -53,16 +53,8 @@ class Marked : public Button {
                           option);
     painter.drawItemText(area, textFlags, this->palette(), this->isEnabled(), this->text(),
                          QPalette::WindowText);
-    if (this->hasFocus()) drawFocus(painter, text);
-  }
-
- private:
-  void drawFocus(QStylePainter& painter, const QRect& text) {
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    const QRect around = this->text().isEmpty() ? this->rect() : text.adjusted(-2, -1, 2, 1);
-    option.rect = around.intersected(this->rect());
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    if (!this->hasFocus()) return;
+    drawFocus(painter, *this, this->text().isEmpty() ? this->rect() : text.adjusted(-2, -1, 2, 1));
   }
 };
 

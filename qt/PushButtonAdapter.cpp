@@ -3,9 +3,9 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleOptionFocusRect>
 
 #include "qt/Conversions.h"
+#include "qt/Painting.h"
 #include "qt/Pictures.h"
 
 namespace qt {
@@ -13,6 +13,8 @@ namespace {
 
 constexpr int pictureMargin = 4;
 constexpr int flatMargin = 6;
+constexpr int focusInset = 3;
+constexpr int entryFocusInset = 1;
 constexpr int hoverStrength = 40;
 
 }  // namespace
@@ -24,8 +26,16 @@ class PushButton : public QPushButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    if (!isFlat() || !icon().isNull()) return QPushButton::paintEvent(event);
+    const bool entry = isFlat() && icon().isNull();
+    if (!entry) QPushButton::paintEvent(event);
     QPainter painter(this);
+    if (entry) drawEntry(painter);
+    const int inset = entry ? entryFocusInset : focusInset;
+    if (hasFocus()) drawFocus(painter, *this, rect().adjusted(inset, inset, -inset, -inset));
+  }
+
+ private:
+  void drawEntry(QPainter& painter) {
     if (underMouse() && isEnabled()) {
       QColor hover = palette().color(QPalette::Highlight);
       hover.setAlpha(hoverStrength);
@@ -35,15 +45,6 @@ class PushButton : public QPushButton {
         &painter, rect().adjusted(flatMargin, 0, -flatMargin, 0),
         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, palette(),
         isEnabled(), text(), QPalette::WindowText);
-    if (hasFocus()) drawFocus(painter);
-  }
-
- private:
-  void drawFocus(QPainter& painter) {
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.rect = rect().adjusted(1, 1, -1, -1);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
   }
 };
 

@@ -66,6 +66,7 @@ bool QtDesktop::saveScreenshot(const forms::Form& form, const std::filesystem::p
                                   [&](const ShownForm* one) { return one->shows(form); });
   if (found == shown.end()) return false;
   (*found)->refresh();
+  QApplication::setActiveWindow(&(*found)->window());  // so that the focus is seen
   return (*found)->window().grab().save(QString::fromStdString(machineFile.string()), "PNG");
 }
 

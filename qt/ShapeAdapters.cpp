@@ -17,12 +17,9 @@ class LineWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    if (width() >= height()) {
-      painter.drawLine(0, height() / 2, width(), height() / 2);
-    } else {
-      painter.drawLine(width() / 2, 0, width() / 2, height());
-    }
+    const QRect line = width() >= height() ? QRect(0, height() / 2, width(), 1)
+                                           : QRect(width() / 2, 0, 1, height());
+    painter.fillRect(line, palette().color(QPalette::Mid));
   }
 };
 

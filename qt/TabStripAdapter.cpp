@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "qt/Conversions.h"
+#include "qt/Painting.h"
 #include "qt/Pictures.h"
 #include "qt/ShownForm.h"
 
@@ -36,8 +37,8 @@ class Pages : public QWidget {
   void paintEvent(QPaintEvent*) override {
     if (pos().y() < 0) return;
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, headerHeight_ - 1, -1, -1));
+    drawBorder(painter, rect().adjusted(0, headerHeight_ - 1, 0, 0),
+               palette().color(QPalette::Mid));
   }
 
  private:

@@ -10,24 +10,18 @@
 namespace shell {
 namespace {
 
+using host::AsTab;
+
 constexpr forms::Color colorButtonFace = forms::colors::buttonFace;
 constexpr std::int16_t iStoredTabsPerRow = 6;
 constexpr forms::Twips lHeaderRow = 350;
-
-host::iTab& AsTab(forms::UserControl& oStep) {
-  auto* oTab = dynamic_cast<host::iTab*>(&oStep);
-  if (!oTab) {
-    throw forms::Error(forms::errors::typeMismatch,
-                       "Type mismatch: \"" + oStep.name() + "\" is no step of a wizard.");
-  }
-  return *oTab;
-}
 
 }  // namespace
 
 TabWizard::TabWizard(forms::Container& container, std::string strName)
     : UserControl(container, std::move(strName)) {
   tabControl.setTabsPerRow(iStoredTabsPerRow);
+  ImageList.setImageSize(20, 16);  // empty: no step of this wizard has a picture on its header
   frameBackNext.setBorder(false);
   frameBackNext.setBounds({0, 0, 2500, 500});
   cmdBack.setBounds({0, 60, 1200, 375});
@@ -99,22 +93,22 @@ forms::UserControl* TabWizard::AddTab(const std::string& strProgID, const std::s
 
 forms::UserControl* TabWizard::AddTab(const std::string& strProgID, const std::string& strName,
                                       std::int16_t& iTotalTabs) {
+  forms::UserControl* extStep = nullptr;
   try {
-    forms::UserControl& extStep = PlaceTab(strProgID, strName, iTotalTabs);
-    FinishTab(extStep);
-    return &extStep;
+    extStep = &addControl(strProgID, strName);
+    PlaceTab(*extStep, iTotalTabs);
   } catch (const forms::Error& error) {
-    forms::ignoringErrors([&] { removeControl(strName); });
+    if (extStep) removeControl(strName);
     forms::Application::current().messageBox(error.description(), forms::Buttons::ok,
                                              forms::Icon::critical);
     return nullptr;
   }
+  FinishTab(*extStep);
+  return extStep;
 }
 
-/// Creates the step and puts it on its page. An error leaves the page without one.
-forms::UserControl& TabWizard::PlaceTab(const std::string& strProgID, const std::string& strName,
-                                        std::int16_t& iTotalTabs) {
-  forms::UserControl& extStep = addControl(strProgID, strName);
+/// Puts the step on its page. An error leaves the page without one.
+void TabWizard::PlaceTab(forms::UserControl& extStep, std::int16_t& iTotalTabs) {
   ListenTo(&extStep);
   tabControl.setPageVisible(m_iTabCount, true);
   {
@@ -128,16 +122,16 @@ forms::UserControl& TabWizard::PlaceTab(const std::string& strProgID, const std:
   extStep.setContainer(tabControl);
   extStep.setVisible(true);
   tabControl.setPageCaption(m_iTabCount, AsTab(extStep).iTab_GetTabName());
-  return extStep;
 }
 
+/// From here on nothing keeps a step out.
 void TabWizard::FinishTab(forms::UserControl& extStep) {
   forms::ignoringErrors([&] {
     tabControl.setPagePicture(m_iTabCount, ImageList.item(AsTab(extStep).iTab_GetTabIcon()));
   });
   ++m_iTabCount;
   tabControl.setTabsPerRow(std::min(m_iTabCount, m_iTabsPerRow));
-  tabControl.setCurrentPage(0);
+  forms::ignoringErrors([&] { tabControl.setCurrentPage(0); });
   extStep.setTabStop(false);
   m_colTabs.push_back(&extStep);
   forms::ignoringErrors([&] { extStep.call<forms::UserControl&>("SetContainer", *this); });
@@ -217,12 +211,16 @@ void TabWizard::ListenTo(forms::UserControl* extStep) {
       [this](const forms::ObjectEvent& info) { m_extObj_ObjectEvent(info); });
 }
 
+/// An event with other parameters is none of the two that are heard.
 void TabWizard::m_extObj_ObjectEvent(const forms::ObjectEvent& info) {
-  if (info.name == "SetTabVisible") {
-    SetTabVisible(std::get<std::string>(info.parameters.at(0)),
-                  std::get<bool>(info.parameters.at(1)));
-  } else if (info.name == "JumpToTab") {
-    SetCurrentTabText(std::get<std::string>(info.parameters.at(0)));
+  const auto* strCaption =
+      info.parameters.empty() ? nullptr : std::get_if<std::string>(&info.parameters[0]);
+  if (!strCaption) return;
+  if (info.name == "JumpToTab") SetCurrentTabText(*strCaption);
+  if (info.name == "SetTabVisible" && info.parameters.size() > 1) {
+    if (const auto* bVisible = std::get_if<bool>(&info.parameters[1])) {
+      SetTabVisible(*strCaption, *bVisible);
+    }
   }
 }
 

@@ -70,8 +70,7 @@ class TabWizard : public forms::UserControl {
 
  private:
   void Create();
-  forms::UserControl& PlaceTab(const std::string& strProgID, const std::string& strName,
-                               std::int16_t& iTotalTabs);
+  void PlaceTab(forms::UserControl& extStep, std::int16_t& iTotalTabs);
   void FinishTab(forms::UserControl& extStep);
   bool RemoveTabs();
   void ListenTo(forms::UserControl* extStep);
@@ -87,8 +86,8 @@ class TabWizard : public forms::UserControl {
 
   forms::TabStrip tabControl{*this, "tabControl"};
   forms::Frame frameBackNext{*this, "frameBackNext"};
-  forms::CommandButton cmdBack{frameBackNext, "cmdBack"};
-  forms::CommandButton cmdNext{frameBackNext, "cmdNext"};
+  forms::CommandButton cmdBack{frameBackNext, "cmdBack", "< &Back"};
+  forms::CommandButton cmdNext{frameBackNext, "cmdNext", "&Next >"};
   forms::ImageList ImageList;
 
   std::vector<forms::UserControl*> m_colTabs;

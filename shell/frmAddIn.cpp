@@ -23,14 +23,17 @@ constexpr forms::Rect placeOfSteps{0, -120, 2415, 6315};
 /// own controls alone.
 constexpr forms::Rect placeOfTabs{2460, -660, 8355, 6795};
 
-forms::Application& App() { return forms::Application::current(); }
+forms::Font fontOfSteps(bool bSelected) {
+  return {.name = "Tahoma", .points = 8.25, .bold = bSelected};
+}
 
-host::iTab& AsTab(forms::UserControl* oStep) { return dynamic_cast<host::iTab&>(*oStep); }
+forms::Application& App() { return forms::Application::current(); }
 
 }  // namespace
 
 frmAddIn::frmAddIn() : Form("frmAddIn"), m_strOldHelpFile(App().helpFile()) {
   ctlTabs.initProperties();
+  ShowSteps(false);
   setKeyPreview(true);
 
   loading.connect([this] { Form_Load(); });
@@ -58,7 +61,7 @@ void frmAddIn::Form_Load() {
   m_iCurrentTab = 0;
   setCaption(gAddIn().IAddInContract_Title());
   setSize(sizeOfWindow);
-  LoadButtons();
+  LayOut();
   App().setHelpFile(gAddIn().IAddInContract_GetHelpFile());
   common::CloseAllHelp();
   forms::ignoringErrors([this] { LoadSteps(); });
@@ -76,13 +79,21 @@ void frmAddIn::LoadSteps() {
 
   ctlSteps.put_StepCount(static_cast<std::int16_t>(m_colSteps.size() - 2));
   for (std::size_t i = 0; i < m_colSteps.size(); ++i) {
-    ctlSteps.SetStepText(AsTab(m_colSteps[i]).iTab_GetTabName(), static_cast<std::int16_t>(i));
+    ctlSteps.SetStepText(Tab(static_cast<std::int16_t>(i)).iTab_GetTabName(), static_cast<std::int16_t>(i));
   }
   ctlSteps.setVisible(true);
-  setHelpContext(AsTab(m_colSteps.at(0)).iTab_GetHelpContextID());
+  setHelpContext(Tab(0).iTab_GetHelpContextID());
 }
 
-void frmAddIn::LoadButtons() {
+host::iTab& frmAddIn::Tab(std::int16_t iStep) const {
+  if (iStep < 0 || iStep > LastTab()) {
+    throw forms::Error(forms::errors::indexOutOfRange,
+                       "The wizard has no step " + std::to_string(iStep) + ".");
+  }
+  return host::AsTab(*m_colSteps[static_cast<std::size_t>(iStep)]);
+}
+
+void frmAddIn::LayOut() {
   ctlSteps.setBounds(placeOfSteps);
   ctlTabs.setBounds(placeOfTabs);
   Line1.setBounds({0, 6240, innerSize().width, 30});
@@ -116,16 +127,15 @@ void frmAddIn::LoadButtons() {
 
 void frmAddIn::Form_Activate() {
   if (!m_bActivated && !StartWizard()) return;
+  const auto SetSelectedFont = [this] { ctlSteps.SetSelectedFont(fontOfSteps(true)); };
+  const auto SetNormalFont = [this] { ctlSteps.SetNormalFont(fontOfSteps(false)); };
   if (gAddIn().IAddInContract_StartupMode() != 0) {
-    forms::ignoringErrors([this] { SetStepFonts(); });
+    forms::ignoringErrors(SetSelectedFont);
+    forms::ignoringErrors(SetNormalFont);
   } else {
-    SetStepFonts();
+    SetSelectedFont();
+    SetNormalFont();
   }
-}
-
-void frmAddIn::SetStepFonts() {
-  ctlSteps.SetSelectedFont({.name = "Tahoma", .points = 8.25, .bold = true});
-  ctlSteps.SetNormalFont({.name = "Tahoma", .points = 8.25, .bold = false});
 }
 
 /// False: no system could be started, and the window is gone.
@@ -159,7 +169,7 @@ void frmAddIn::ShowSteps(bool bShow) {
 }
 
 bool frmAddIn::SaveData() {
-  for (forms::UserControl* extStep : m_colSteps) AsTab(extStep).iTab_SaveData();
+  for (forms::UserControl* extStep : m_colSteps) host::AsTab(*extStep).iTab_SaveData();
   return true;
 }
 
@@ -172,8 +182,7 @@ void frmAddIn::ctlTabs_OnTabChanged(std::int16_t iCurrentTab) {
   m_iCurrentTab = iCurrentTab;
   ctlSteps.SetCurrentStep(m_iCurrentTab);
   SetBackNextState();
-  setHelpContext(
-      AsTab(m_colSteps.at(static_cast<std::size_t>(m_iCurrentTab))).iTab_GetHelpContextID());
+  setHelpContext(Tab(m_iCurrentTab).iTab_GetHelpContextID());
   ctlTabs.SetHelpContextID(helpContext());
 }
 

@@ -10,6 +10,7 @@
 #include "forms/Frame.h"
 #include "forms/Line.h"
 #include "host/ctlSteps.h"
+#include "host/iTab.h"
 #include "shell/TabWizard.h"
 
 namespace shell {
@@ -46,13 +47,14 @@ class frmAddIn : public forms::Form, public addin::WizardWindow {
   void ctlTabs_OnTabChanged(std::int16_t iCurrentTab);
 
   void LoadSteps();
-  void LoadButtons();
+  void LayOut();
   bool StartWizard();
   void FailToStart();
   void SetStepsData();
   void ShowSteps(bool bShow);
-  void SetStepFonts();
   void SetBackNextState();
+  /// Raises Error 9 for a step that there is not.
+  host::iTab& Tab(std::int16_t iStep) const;
   std::int16_t LastTab() const { return static_cast<std::int16_t>(m_colSteps.size() - 1); }
 
   host::ctlSteps ctlSteps{*this, "ctlSteps"};

@@ -24,10 +24,6 @@ constexpr std::int32_t lDelayLength = 3;
 constexpr std::int32_t lLongestDelay = 999;
 constexpr forms::Size sizeOfPicture{480, 480};
 
-std::shared_ptr<host::Device> FindDisplay() {
-  return gDocument().get_Devices()->ItemByID(gAddIn().get_DisplayDeviceID());
-}
-
 /// The standard command that a selector stands for, as a number.
 std::int16_t StandardID(const host::DeviceCommands& ctlSelector) {
   return forms::toInt16(forms::leadingNumber(ctlSelector.tag()));
@@ -39,11 +35,6 @@ TabDisplay::TabDisplay(forms::Container& container, std::string strName)
     : WizardStep(container, std::move(strName), "Display Device", host::helpDisplayDeviceTab) {
   MakeBanner(lblBanner);
   SetTabStops(false);
-  frameInfo.setBorder(false);
-  ctlImage.put_Picture(addin::frmImages().get_ImageListLarge().item(host::pictureInformation));
-  ctlImage.put_BackColor(lblInfo.backColor());
-  lblInfo.setCaption("Click \"Choose...\" to select the Display Device for your system.");
-  lblBorder.setBorder(true);
   lblDisplayHelp.setLink(true);
   ctlCommands(0).setTag(forms::decimal(host::scRGB1));
   ctlCommands(1).setTag(forms::decimal(host::scVideo1));
@@ -120,7 +111,7 @@ void TabDisplay::RefreshDeviceInfo() {
 
 void TabDisplay::ShowInfoFrame(bool bShow) {
   ShowDescription(!bShow);
-  frameInfo.setVisible(bShow);
+  frameInfo.Show(bShow);
 }
 
 void TabDisplay::ShowDescription(bool bShow) {
@@ -174,6 +165,7 @@ void TabDisplay::ctlCommands_CommandChanged(std::int16_t Index) {
 
 void TabDisplay::cmdChoose_Click() {
   cmdChoose.setEnabled(false);
+  const forms::AtEnd closed([this] { cmdChoose.setEnabled(true); });
   host::DeviceDialogArguments arguments;
   arguments.iParentID = gDocument().get_ControlSystem()->get_ID();
   arguments.lDialogContext = gDocument().get_Reports()->get_DialogContext();
@@ -191,7 +183,6 @@ void TabDisplay::cmdChoose_Click() {
     gAddIn().put_DisplayDeviceID(iResult);
     RefreshDeviceInfo();
   }
-  cmdChoose.setEnabled(true);
 }
 
 void TabDisplay::cmdProperties_Click() { ShowDeviceProperties(gAddIn().get_DisplayDeviceID()); }
@@ -281,10 +272,7 @@ void TabDisplay::LayOut() {
                                  {item(lblDescriptionTag), rest(lblDescription, 390)},
                                  {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
                              }),
-                             box(frameInfo,
-                                 {
-                                     row({item(ctlImage, sizeOfPicture), rest(lblInfo)}),
-                                 }),
+                             frameInfo.Place(),
                          }),
                          column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
                      }),
@@ -305,8 +293,7 @@ void TabDisplay::LayOut() {
                  }),
              }),
          });
-  const Rect info = frameInfo.bounds();
-  lblBorder.setBounds({0, 0, info.width, info.height});
+  frameInfo.PlaceBorder();
 }
 
 }  // namespace steps

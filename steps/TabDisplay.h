@@ -12,6 +12,7 @@
 #include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
 #include "host/ctlImage.h"
+#include "steps/HintFrame.h"
 #include "steps/WizardStep.h"
 
 namespace steps {
@@ -64,10 +65,7 @@ class TabDisplay : public WizardStep {
   forms::Label lblDescription{Frame3, "lblDescription"};
   forms::Label lblIOAssignmentTag{Frame3, "lblIOAssignmentTag", "IO Assignment: "};
   forms::Label lblIOAssignment{Frame3, "lblIOAssignment"};
-  forms::Frame frameInfo{Frame3, "frameInfo"};
-  host::ctlImage ctlImage{frameInfo, "ctlImage"};
-  forms::Label lblInfo{frameInfo, "lblInfo"};
-  forms::Label lblBorder{frameInfo, "lblBorder"};
+  HintFrame frameInfo{Frame3, "Click \"Choose...\" to select the Display Device for your system."};
   forms::Frame frameCommand{*this, "frameCommand", "Switching Commands"};
   forms::Label lblSwitch{frameCommand, "lblSwitch",
                          "Select discrete switching commands for each video input."};

@@ -57,6 +57,7 @@ bool TabLocation::SetData() {
     txtSystemName.setMaxLength(clsInfo->get_MaxNameLength());
     txtSystemName.setText(clsInfo->get_SystemName());
     txtLocation.setText(gDocument().get_Path());
+    txtLocation.setToolTip(ParentFolder(txtLocation.text()));
   }
   m_strLastName = txtSystemName.text();
   MoveRegistrationIfFolderChanged();
@@ -98,6 +99,7 @@ void TabLocation::txtSystemName_KeyPress(forms::KeyPress& key) {
   if (key.character == U'\\') key.character = 0;
 }
 
+/// A name that is loaded is judged like one that is typed.
 void TabLocation::txtSystemName_Change() {
   if (m_bRestoring) return;
   std::string strMessage;
@@ -149,7 +151,9 @@ void TabLocation::txtSystemName_LostFocus() {
 void TabLocation::cmdBrowse_Click() {
   const std::string strFolder = common::BrowseForFolder(
       gAddIn().GetActiveWindowHandle(), "Save your system in this folder:", gDocument().get_Path());
-  if (!strFolder.empty()) txtLocation.setText(SystemFolder(strFolder));
+  if (strFolder.empty()) return;
+  txtLocation.setText(SystemFolder(strFolder));
+  txtLocation.setToolTip(AddBackslash(strFolder));
 }
 
 void TabLocation::SetTabStops(bool bValue) {

@@ -22,7 +22,6 @@ constexpr std::int16_t iOnCommand = addin::pdOn;  // the indexes of the selector
 constexpr std::int16_t iOffCommand = addin::pdOff;
 constexpr std::int16_t iSecondOffCommand = 3;
 constexpr std::int32_t lDelayLength = 3;
-constexpr const char* strToggleCommand = "POWER";
 
 constexpr const char* strDiscreteText =
     "This device provides discrete commands for \"Power On\" and \"Power Off\".";
@@ -36,12 +35,6 @@ constexpr const char* strNoSensingText =
     "power on and off.";
 constexpr const char* strNoneText =
     "This device is turned on and off manually by the user.  Or this device is assumed always on.";
-constexpr const char* strNoDeviceText =
-    "Before configuring Power Control add a Display Device on the \"Display Device\" step.";
-
-std::shared_ptr<host::Device> FindDisplay() {
-  return gDocument().get_Devices()->ItemByID(gAddIn().get_DisplayDeviceID());
-}
 
 void Inform(const std::string& strText) {
   forms::Application::current().messageBox(strText, forms::Buttons::ok, forms::Icon::information);
@@ -53,14 +46,9 @@ TabPower::TabPower(forms::Container& container, std::string strName)
     : WizardStep(container, std::move(strName), "Power Control", host::helpPowerControlTab) {
   MakeBanner(lblBanner);
   SetTabStops(false);
-  ctlImage.put_Picture(addin::frmImages().get_ImageListLarge().item(host::pictureInformation));
-  ctlImage.put_BackColor(frameInfo.backColor());
-  lblInfo.setCaption(strNoDeviceText);
   lblPower(powerNone).setCaption(strNoneText);
   lblPower(powerDiscrete).setCaption(strDiscreteText);
   lblPower(powerSensing).setCaption(strNoSensingText);
-  lblBorder.setBorder(true);
-  frameInfo.setBorder(false);
   fraAll.setBorder(false);
   lblDiagram.setLink(true);
   txtSecondOff.setMaxLength(lDelayLength);
@@ -96,6 +84,7 @@ bool TabPower::SetData() {
   return false;
 }
 
+/// The box is read whatever the page shows, so that an emptied one stores 0.
 void TabPower::OtherTabClicked() {
   SetTabStops(false);
   txtSecondOff_Validate();
@@ -112,7 +101,7 @@ void TabPower::iTab_TabClicked() {
   SetTabStops(true);
   const auto oDevice = FindDisplay();
   fraAll.setVisible(oDevice != nullptr);
-  frameInfo.setVisible(oDevice == nullptr);
+  frameInfo.Show(oDevice == nullptr);
   m_bSecondOff = oDevice && oDevice->get_SecondOffCapable();
   // The tab stops were set by the flag of the last device.
   if (!m_bSecondOff) ctlCommands(iSecondOffCommand).setTabStop(false);
@@ -131,8 +120,8 @@ void TabPower::iTab_TabClicked() {
 void TabPower::UpdatePowerSensing() {
   const auto oDevice = FindDisplay();
   if (!oDevice || oDevice->get_ID() < 1) return;
-  const bool bToggles =
-      oDevice->GetCommandList(host::directionInput, host::signalDigital)->Exists(strToggleCommand);
+  const bool bToggles = oDevice->GetCommandList(host::directionInput, host::signalDigital)
+                            ->Exists(host::commandPowerToggle);
   lblPower(powerSensing).setCaption(bToggles ? strSensingText : strNoSensingText);
   optPower(powerSensing).setEnabled(bToggles);
   if (!bToggles && optPower(powerSensing).isChosen()) optPower(powerNone).setChosen(true);
@@ -208,7 +197,8 @@ void TabPower::ctlCommands_CommandChanged(std::int16_t Index) {
 
 /// The warnings inform and refuse nothing. Two selectors without a command count as identical.
 void TabPower::WarnOfCommands(std::int16_t Index) const {
-  if (forms::equalsIgnoringCase(ctlCommands(Index).get_SelectedCommand(), strToggleCommand)) {
+  if (forms::equalsIgnoringCase(ctlCommands(Index).get_SelectedCommand(),
+                                host::commandPowerToggle)) {
     Inform(
         "Generally the command \"Power\" toggles the power on and off.\r\n\r\n"
         "Since this normally is not a discrete command verify it is discrete before assigning it "
@@ -308,14 +298,10 @@ void TabPower::LayOut() {
                          gap(60),
                          Mode(powerNone, item(lblNotRecommended)),
                      }),
-                 box(frameInfo,
-                     {
-                         row({item(ctlImage, {480, 480}), rest(lblInfo)}),
-                     }),
+                 frameInfo.Place(),
              }),
          });
-  const Rect info = frameInfo.bounds();
-  lblBorder.setBounds({0, 0, info.width, info.height});
+  frameInfo.PlaceBorder();
 }
 
 }  // namespace steps

@@ -10,7 +10,7 @@
 #include "forms/OptionButton.h"
 #include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
-#include "host/ctlImage.h"
+#include "steps/HintFrame.h"
 #include "steps/WizardStep.h"
 
 namespace steps {
@@ -70,10 +70,9 @@ class TabPower : public WizardStep {
                                                  {{0, fraAll, "after"}, {1, fraAll, "seconds"}}};
   forms::TextBox txtSecondOff{fraAll, "txtSecondOff"};
   forms::Label lblDiagram{fraAll, "lblDiagram", "Show Diagram..."};
-  forms::Frame frameInfo{*this, "frameInfo"};
-  host::ctlImage ctlImage{frameInfo, "ctlImage"};
-  forms::Label lblInfo{frameInfo, "lblInfo"};
-  forms::Label lblBorder{frameInfo, "lblBorder"};
+  HintFrame frameInfo{
+      *this,
+      "Before configuring Power Control add a Display Device on the \"Display Device\" step."};
 
   bool m_bLoading = false;
   bool m_bSecondOff = false;

@@ -1,5 +1,7 @@
 #include "steps/WizardStep.h"
 
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
 #include "forms/Rows.h"
 
 namespace steps {
@@ -16,6 +18,10 @@ void WizardStep::MakeBanner(forms::Label& lblBanner) {
   lblBanner.setFont({.points = 12, .bold = true});
   lblBanner.setForeColor(forms::colors::highlightText);
   lblBanner.setBackColor(forms::colors::highlight);
+}
+
+std::shared_ptr<host::Device> WizardStep::FindDisplay() {
+  return addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
 }
 
 TabEmpty::TabEmpty(forms::Container& container, std::string strName, std::string strTabName,

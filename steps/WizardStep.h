@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "forms/Geometry.h"
 #include "forms/Label.h"
 #include "forms/UserControl.h"
+#include "host/Device.h"
 #include "host/iTab.h"
 
 namespace steps {
@@ -30,6 +32,9 @@ class WizardStep : public forms::UserControl, public host::iTab {
  protected:
   /// The heading at the top of a page.
   static void MakeBanner(forms::Label& lblBanner);
+
+  /// The display; nothing while none is chosen.
+  static std::shared_ptr<host::Device> FindDisplay();
 
  private:
   std::string m_strTabName;

@@ -48,9 +48,8 @@ class Parts : public host::BillOfMaterialsParts {
   using Iterator = std::vector<BillLine>::iterator;
   Iterator end() const { return entry_->parts.end(); }
   Iterator find(const std::string& key) const {
-    return std::find_if(entry_->parts.begin(), end(), [&key](const BillLine& line) {
-      return forms::decimal(line.part) == key;
-    });
+    return std::find_if(entry_->parts.begin(), end(),
+                        [&key](const BillLine& line) { return forms::decimal(line.part) == key; });
   }
 
   EntryPtr entry_;

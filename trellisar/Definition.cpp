@@ -30,9 +30,12 @@ SignalRow commandRow(const std::string& name) { return {"", name, host::signalDi
 
 bool PropertyDefinition::takes(std::string_view newValue) const {
   switch (type) {
-    case Type::text: return forms::length(newValue) <= maxLength;
-    case Type::integer: return isIntegerIn(newValue, minimum, maximum);
-    case Type::constant: return std::find(choices.begin(), choices.end(), newValue) != choices.end();
+    case Type::text:
+      return forms::length(newValue) <= maxLength;
+    case Type::integer:
+      return isIntegerIn(newValue, minimum, maximum);
+    case Type::constant:
+      return std::find(choices.begin(), choices.end(), newValue) != choices.end();
   }
   return false;
 }
@@ -78,6 +81,7 @@ bool Definition::findRow(std::string_view output, std::string_view input, std::i
 
 bool Definition::hasSignal(std::string_view signalName, std::int16_t direction,
                            std::int16_t signalType) const {
+  if (signalName.empty()) return false;
   const bool isInput = direction == host::directionInput;
   if (isInput && signalType == host::signalDigital && findCommand(signalName)) return true;
   for (const auto* rows : {&outputs, &pairs, &furtherInputs}) {

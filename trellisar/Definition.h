@@ -47,8 +47,8 @@ struct PropertyDefinition {
   bool operator==(const PropertyDefinition&) const = default;
 };
 
-/// What the library says about a device, a module, a user interface or a receiver. A document keeps the definitions of
-/// its devices, so that it lives without the library.
+/// What the library says about a device, a module, a user interface or a receiver. A document keeps
+/// the definitions of its devices, so that it lives without the library.
 struct Definition {
   enum class Form { device, module, interface, receiver };
   enum class Connection { none, serial, infrared, relay, contact, sensor, network, link };

@@ -15,14 +15,14 @@ template <typename T>
 using Choices = std::initializer_list<std::pair<const char*, T>>;
 
 constexpr Choices<Form> definitionForms = {{"device", Form::device},
-                                  {"module", Form::module},
-                                  {"interface", Form::interface},
-                                  {"receiver", Form::receiver}};
+                                           {"module", Form::module},
+                                           {"interface", Form::interface},
+                                           {"receiver", Form::receiver}};
 
 constexpr Choices<Connection> connections = {
-    {"serial", Connection::serial},   {"infrared", Connection::infrared},
-    {"relay", Connection::relay},     {"contact", Connection::contact},
-    {"sensor", Connection::sensor},   {"network", Connection::network},
+    {"serial", Connection::serial}, {"infrared", Connection::infrared},
+    {"relay", Connection::relay},   {"contact", Connection::contact},
+    {"sensor", Connection::sensor}, {"network", Connection::network},
     {"link", Connection::link}};
 
 constexpr Choices<std::int16_t> commandKinds = {{"momentary", host::commandMomentary},
@@ -71,16 +71,14 @@ PropertyDefinition readProperty(JsonReader reader, Names& names) {
   property.value = reader.at("value").text();
   property.type = reader.at("type").choice(propertyTypes);
   if (property.type == PropertyType::text) {
-    property.hasMaxLength = reader.ifPresent("max_length", [&](const JsonReader& value) {
-      property.maxLength = value.int32(0);
-    });
+    property.hasMaxLength = reader.ifPresent(
+        "max_length", [&](const JsonReader& value) { property.maxLength = value.int32(0); });
   } else if (property.type == PropertyType::integer) {
     property.minimum = reader.at("minimum").int32(INT32_MIN);
     property.maximum = reader.at("maximum").int32(property.minimum);
   } else {
-    reader.at("choices").each([&](const JsonReader& value) {
-      property.choices.push_back(value.text());
-    });
+    reader.at("choices").each(
+        [&](const JsonReader& value) { property.choices.push_back(value.text()); });
   }
   reader.ifPresent("advanced",
                    [&](const JsonReader& value) { property.advanced = value.boolean(); });
@@ -106,20 +104,19 @@ void readCommands(const JsonReader& list, Definition& definition, SignalNames& n
 }
 
 void readSignals(JsonReader& reader, Definition& definition, SignalNames& names) {
-  reader.ifPresent("commands", [&](const JsonReader& list) {
-    readCommands(list, definition, names);
-  });
+  reader.ifPresent("commands",
+                   [&](const JsonReader& list) { readCommands(list, definition, names); });
   reader.ifPresent("inputs", [&](const JsonReader& list) {
     list.each([&](JsonReader row) {
-      definition.furtherInputs.push_back({"", names.inputs.take(row.at("name")),
-                                          row.at("signal").choice(signalTypes), false});
+      definition.furtherInputs.push_back(
+          {"", names.inputs.take(row.at("name")), row.at("signal").choice(signalTypes), false});
       row.finish();
     });
   });
   reader.ifPresent("outputs", [&](const JsonReader& list) {
     list.each([&](JsonReader row) {
-      SignalRow output{names.outputs.take(row.at("name")), "",
-                       row.at("signal").choice(signalTypes), true};
+      SignalRow output{names.outputs.take(row.at("name")), "", row.at("signal").choice(signalTypes),
+                       true};
       row.ifPresent("options",
                     [&](const JsonReader& value) { output.hasOptions = value.boolean(); });
       row.finish();
@@ -296,17 +293,24 @@ Definition readDefinition(JsonReader reader, Form form, const std::string& maker
   definition.name = nonEmptyText(reader.at("name"));
   definition.description = reader.at("description").text();
   switch (form) {
-    case Form::device: readEntry(reader, definition); break;
-    case Form::receiver: readReceiver(reader, definition); break;
-    case Form::module: readModule(reader, definition); break;
-    case Form::interface: readInterface(reader, definition); break;
+    case Form::device:
+      readEntry(reader, definition);
+      break;
+    case Form::receiver:
+      readReceiver(reader, definition);
+      break;
+    case Form::module:
+      readModule(reader, definition);
+      break;
+    case Form::interface:
+      readInterface(reader, definition);
+      break;
   }
   if (form == Form::device || form == Form::receiver) readDriver(reader, definition);
   SignalNames names;
   readSignals(reader, definition, names);
-  reader.ifPresent("standard_commands", [&](const JsonReader& value) {
-    readStandardCommands(value, definition);
-  });
+  reader.ifPresent("standard_commands",
+                   [&](const JsonReader& value) { readStandardCommands(value, definition); });
   readProperties(reader, definition);
   reader.finish();
   return definition;
@@ -317,10 +321,18 @@ Json definitionJson(const Definition& definition) {
   json["name"] = definition.name;
   json["description"] = definition.description;
   switch (definition.form) {
-    case Form::device: addEntry(json, definition); break;
-    case Form::receiver: addReceiver(json, definition); break;
-    case Form::module: addModule(json, definition); break;
-    case Form::interface: addInterface(json, definition); break;
+    case Form::device:
+      addEntry(json, definition);
+      break;
+    case Form::receiver:
+      addReceiver(json, definition);
+      break;
+    case Form::module:
+      addModule(json, definition);
+      break;
+    case Form::interface:
+      addInterface(json, definition);
+      break;
   }
   addSignals(json, definition);
   for (const auto& [id, command] : definition.standardCommands) {

@@ -11,7 +11,8 @@
 
 namespace trellisar {
 
-/// Lets a user choose a device of the library. The list shows the devices of one maker, or at first of all.
+/// Lets a user choose a device of the library. The list shows the devices of one maker, or at first
+/// of all.
 class DeviceDialog : public Dialog {
  public:
   /// `current` is the device that is in the system, which is selected at first; nothing: none is.

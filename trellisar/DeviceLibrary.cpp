@@ -19,8 +19,8 @@ std::string shownName(const fs::path& folder, const std::string& file) {
   return (folder.filename() / file).string();
 }
 
-/// Parses a file of the folder and reads "format" and "version". `json` and `shown` are kept by the caller, since the
-/// reader refers to them.
+/// Parses a file of the folder and reads "format" and "version". `json` and `shown` are kept by the
+/// caller, since the reader refers to them.
 JsonReader openFile(const Json& json, const std::string& shown, const char* format) {
   JsonReader reader(json, shown);
   const JsonReader kind = reader.at("format");
@@ -57,8 +57,8 @@ class Unique {
   explicit Unique(const char* what) : what_(what) {}
   void take(const std::string& key, const std::string& file) {
     if (keys_.insert(key).second) return;
-    throw host::Error(host::errBadFile, file + ": the " + what_ + " " + key +
-                                            " stands in the library a second time");
+    throw host::Error(host::errBadFile,
+                      file + ": the " + what_ + " " + key + " stands in the library a second time");
   }
 
  private:
@@ -118,21 +118,18 @@ DefinitionPtr DeviceLibrary::findModule(std::int16_t id) const {
 }
 
 DefinitionPtr DeviceLibrary::findInterface(std::int16_t modelId) const {
-  return find([modelId](const Definition& d) {
-    return d.form == Form::interface && d.modelId == modelId;
-  });
+  return find(
+      [modelId](const Definition& d) { return d.form == Form::interface && d.modelId == modelId; });
 }
 
 DefinitionPtr DeviceLibrary::findReceiver(std::int16_t modelId) const {
-  return find([modelId](const Definition& d) {
-    return d.form == Form::receiver && d.modelId == modelId;
-  });
+  return find(
+      [modelId](const Definition& d) { return d.form == Form::receiver && d.modelId == modelId; });
 }
 
 DefinitionPtr DeviceLibrary::findModel(std::int16_t modelId) const {
-  return find([modelId](const Definition& d) {
-    return d.form != Form::module && d.modelId == modelId;
-  });
+  return find(
+      [modelId](const Definition& d) { return d.form != Form::module && d.modelId == modelId; });
 }
 
 std::vector<DefinitionPtr> DeviceLibrary::all(Form form) const {
@@ -169,7 +166,8 @@ void DeviceLibrary::check() const {
   for (const auto& entry : fs::directory_iterator(folder_)) {
     const std::string name = entry.path().filename().string();
     if (entry.path().extension() == ".json" && !known.contains(name)) {
-      throw host::Error(host::errBadFile, shownName(folder_, name) + ": the index does not name it");
+      throw host::Error(host::errBadFile,
+                        shownName(folder_, name) + ": the index does not name it");
     }
   }
 }

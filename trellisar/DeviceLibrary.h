@@ -13,9 +13,9 @@
 
 namespace trellisar {
 
-/// The device library: a folder of JSON files. The index is read when the library is made, a file when something of it
-/// is asked for. Errors of either are host::Error errBadFile with the file and the place; a file that has one is tried
-/// again the next time.
+/// The device library: a folder of JSON files. The index is read when the library is made, a file
+/// when something of it is asked for. Errors of either are host::Error errBadFile with the file and
+/// the place; a file that has one is tried again the next time.
 ///
 /// One library may be shared by several threads.
 class DeviceLibrary {
@@ -36,8 +36,8 @@ class DeviceLibrary {
   /// All of a form, in the library's order.
   std::vector<DefinitionPtr> all(Definition::Form form) const;
 
-  /// Reads every file, and looks for names, entries, models and modules that stand twice and for files of the folder
-  /// that the index does not name. Raises the first error.
+  /// Reads every file, and looks for names, entries, models and modules that stand twice and for
+  /// files of the folder that the index does not name. Raises the first error.
   void check() const;
 
  private:

@@ -40,9 +40,7 @@ DeviceData& DeviceObject::data() const {
                     "The device \"" + data_->name + "\" is no longer in the system.");
 }
 
-std::int16_t DeviceObject::get_ID() const {
-  return data_->isGone ? std::int16_t{0} : data_->id;
-}
+std::int16_t DeviceObject::get_ID() const { return data_->isGone ? std::int16_t{0} : data_->id; }
 
 void DeviceObject::setLabelled(std::string& field, const std::string& value) {
   if (field == value) return;

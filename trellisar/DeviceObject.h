@@ -9,7 +9,8 @@
 
 namespace trellisar {
 
-/// A device or module of a document; without a document a blank device, or a module that is being filled.
+/// A device or module of a document; without a document a blank device, or a module that is being
+/// filled.
 class DeviceObject : public host::Device {
  public:
   DeviceObject(DocumentPtr document, DevicePtr data);
@@ -48,7 +49,9 @@ class DeviceObject : public host::Device {
   void put_PowerControlType(std::int16_t iType) override;
   bool get_SecondOffCapable() const override { return data().definition->secondOff; }
   std::string get_RealTimeProgID() const override { return data().realTimePage; }
-  void put_RealTimeProgID(const std::string& strProgID) override { data().realTimePage = strProgID; }
+  void put_RealTimeProgID(const std::string& strProgID) override {
+    data().realTimePage = strProgID;
+  }
   std::int16_t get_SensorHandle() const override { return data().sensorHandle; }
   void put_SensorHandle(std::int16_t iHandle) override { data().sensorHandle = iHandle; }
   std::string get_SensorFormat() const override { return data().sensorFormat; }

@@ -23,9 +23,8 @@ DefinitionPtr findDefinition(const DeviceLibrary& library,
   }
   const bool isAnyModel = arguments.iModelID == host::modelFromControlEntry;
   if (!isAnyModel && definition->modelId != arguments.iModelID) {
-    error = which + "the device library knows it as model " +
-            std::to_string(definition->modelId) + " and not " + std::to_string(arguments.iModelID) +
-            ".";
+    error = which + "the device library knows it as model " + std::to_string(definition->modelId) +
+            " and not " + std::to_string(arguments.iModelID) + ".";
     return nullptr;
   }
   if (definition->slot == arguments.iSlot) return definition;
@@ -35,8 +34,9 @@ DefinitionPtr findDefinition(const DeviceLibrary& library,
 
 /// The devices of the document by name alone, since a parent is named so.
 DevicePtr findParent(const DocumentData& document, const std::string& name) {
-  const auto found = std::find_if(document.devices.begin(), document.devices.end(),
-                                  [&name](const DevicePtr& device) { return device->name == name; });
+  const auto found =
+      std::find_if(document.devices.begin(), document.devices.end(),
+                   [&name](const DevicePtr& device) { return device->name == name; });
   return found == document.devices.end() ? nullptr : *found;
 }
 
@@ -48,8 +48,7 @@ DevicePtr addFromLibrary(DocumentData& document, host::AddDeviceArguments& argum
                          arguments.strParentName + "\".";
     return nullptr;
   }
-  const DefinitionPtr definition =
-      findDefinition(*document.library, arguments, arguments.strError);
+  const DefinitionPtr definition = findDefinition(*document.library, arguments, arguments.strError);
   if (!definition) return nullptr;
   return addDevice(document, definition, arguments.strName, parent->id, arguments.strError);
 }

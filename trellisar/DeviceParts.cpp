@@ -37,8 +37,8 @@ class PropertyListObject : public host::PropertyList {
 
   std::shared_ptr<host::DeviceProperty> Item(const std::string& strName) const override {
     if (auto property = makeProperty(document_, device_, strName)) return property;
-    throw host::Error(host::errUnknownKey, "The device \"" + device_->name +
-                                               "\" has no property \"" + strName + "\".");
+    throw host::Error(host::errUnknownKey,
+                      "The device \"" + device_->name + "\" has no property \"" + strName + "\".");
   }
 
   std::vector<std::shared_ptr<host::DeviceProperty>> Items() const override {

@@ -34,7 +34,8 @@ std::string whatItTakes(const PropertyDefinition& property) {
     case PropertyDefinition::Type::integer:
       return "A whole number from " + std::to_string(property.minimum) + " to " +
              std::to_string(property.maximum) + ".";
-    case PropertyDefinition::Type::constant: break;
+    case PropertyDefinition::Type::constant:
+      break;
   }
   std::string choices;
   for (const std::string& choice : property.choices) {
@@ -73,7 +74,8 @@ void DevicePropertiesDialog::showPages(const std::vector<std::string>& pages) {
       tabPages.setPageCaption(page, pagesOfDialog[place].caption);
       frames[place]->setBorder(false);
       frames[place]->setContainer(tabPages);
-      isShown = std::find(pages.begin(), pages.end(), pagesOfDialog[place].programId) != pages.end();
+      isShown =
+          std::find(pages.begin(), pages.end(), pagesOfDialog[place].programId) != pages.end();
     }
     tabPages.setPageVisible(page, isShown);
     if (isShown && first < 0) first = page;
@@ -83,20 +85,23 @@ void DevicePropertiesDialog::showPages(const std::vector<std::string>& pages) {
 
 void DevicePropertiesDialog::place() {
   const forms::Rect page{pageMargin, headerHeight, dialogWidth - 2 * pageMargin, pagesHeight};
-  forms::layOut(page, {forms::box(fraBasic, {forms::columns({
-                          {forms::item(lblName), forms::rest(lblNameText)},
-                          {forms::item(lblType), forms::rest(lblTypeText)},
-                          {forms::item(lblDescription), forms::rest(txtDescription)},
-                      })})});
-  forms::layOut(page, {forms::box(fraAssignment, {forms::columns({
-                          {forms::item(lblPort), forms::rest(cboPort)},
-                          {forms::item(lblAddress), forms::rest(txtAddress)},
-                      })})});
-  forms::layOut(page, {forms::box(fraProperties,
-                                  {forms::rest(lvwProperties, listHeight),
-                                   forms::row({forms::item(lblValue), forms::rest(txtValue),
-                                               forms::item(cmdSet)}),
-                                   forms::rest(lblTakes)})});
+  forms::layOut(
+      page, {forms::box(fraBasic, {forms::columns({
+                                      {forms::item(lblName), forms::rest(lblNameText)},
+                                      {forms::item(lblType), forms::rest(lblTypeText)},
+                                      {forms::item(lblDescription), forms::rest(txtDescription)},
+                                  })})});
+  forms::layOut(page,
+                {forms::box(fraAssignment, {forms::columns({
+                                               {forms::item(lblPort), forms::rest(cboPort)},
+                                               {forms::item(lblAddress), forms::rest(txtAddress)},
+                                           })})});
+  forms::layOut(
+      page,
+      {forms::box(fraProperties,
+                  {forms::rest(lvwProperties, listHeight),
+                   forms::row({forms::item(lblValue), forms::rest(txtValue), forms::item(cmdSet)}),
+                   forms::rest(lblTakes)})});
   layOutAbove(dialogWidth, {forms::rest(tabPages, pagesHeight)});
 }
 

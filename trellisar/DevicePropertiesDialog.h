@@ -16,8 +16,8 @@
 
 namespace trellisar {
 
-/// The properties of a device, on up to three pages: Basic shows it and changes its description, IO Assignment its port,
-/// Properties the values of its driver. Nothing is changed before OK.
+/// The properties of a device, on up to three pages: Basic shows it and changes its description, IO
+/// Assignment its port, Properties the values of its driver. Nothing is changed before OK.
 class DevicePropertiesDialog : public Dialog {
  public:
   /// `pages` are program ids of host/Numbers.h; others are passed over.
@@ -62,8 +62,8 @@ class DevicePropertiesDialog : public Dialog {
 
   DocumentPtr document_;
   DevicePtr device_;
-  std::vector<std::int16_t> ports_;                             // as in the list
-  std::vector<const PropertyDefinition*> properties_;           // as in the list
+  std::vector<std::int16_t> ports_;                    // as in the list
+  std::vector<const PropertyDefinition*> properties_;  // as in the list
 };
 
 }  // namespace trellisar

@@ -16,6 +16,7 @@ class Document : public host::Document {
   /// Raises host::Error errDocumentClosed when the document was closed.
   DocumentData& data() const { return *open(); }
   const DocumentPtr& open() const;
+  bool isOpen() const { return !data_->isClosed; }
 
   std::string get_Name() const override { return data().name; }
   void put_Name(const std::string& strName) override { data().name = strName; }

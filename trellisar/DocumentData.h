@@ -16,8 +16,8 @@
 #include "trellisar/DeviceLibrary.h"
 #include "trellisar/Journal.h"
 
-/// The document as plain data. A system file holds exactly this; the objects of the host's interfaces are thin handles
-/// over it.
+/// The document as plain data. A system file holds exactly this; the objects of the host's
+/// interfaces are thin handles over it.
 namespace trellisar {
 
 struct PresetData;
@@ -122,8 +122,8 @@ class DocumentData {
   std::shared_ptr<const DeviceLibrary> library;  // nothing for a document that is only looked at
   std::shared_ptr<Journal> journal;              // nothing: no calls are written down
   std::string name;
-  std::string folder;              // with backslashes
-  std::filesystem::path ownFile;   // what it was opened from or saved to last; empty: none
+  std::string folder;             // with backslashes
+  std::filesystem::path ownFile;  // what it was opened from or saved to last; empty: none
   std::string application;
   bool isModified = false;
   bool programIsCurrent = false;
@@ -144,7 +144,8 @@ class DocumentData {
     if (journal) journal->note(call);
   }
 
-  /// A device or interface was added, removed, replaced or chosen, a module added, or the control system changed.
+  /// A device or interface was added, removed, replaced or chosen, a module added, or the control
+  /// system changed.
   void markStructureChanged();
   /// A preset, step, property, source or event was changed.
   void markProgramChanged() { programIsCurrent = false; }
@@ -185,7 +186,8 @@ class DocumentData {
   /// Every device, module and panel: each device is followed by its modules, the panels come last.
   std::vector<DevicePtr> everyDevice() const;
 
-  /// "Display Device", or "Display Device/PWRSENSE" for a module; empty for an id that is not there.
+  /// "Display Device", or "Display Device/PWRSENSE" for a module; empty for an id that is not
+  /// there.
   std::string shownName(std::int16_t id) const;
 
  private:

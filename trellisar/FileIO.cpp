@@ -41,8 +41,8 @@ class Descriptor {
   int number_;
 };
 
-/// A write beyond the limit on the size of a file is to fail like one on a full disk; as a signal it would end the
-/// program.
+/// A write beyond the limit on the size of a file is to fail like one on a full disk; as a signal
+/// it would end the program.
 class NoSizeSignal {
  public:
   NoSizeSignal() {
@@ -71,8 +71,9 @@ bool isSameFile(int descriptor, const fs::path& file) {
          opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
 }
 
-/// Opens the file that is written beside `file`, for this writer alone. Two programs that save the same system write one
-/// after the other and never into one file: who waited finds that the name has moved on and opens it anew.
+/// Opens the file that is written beside `file`, for this writer alone. Two programs that save the
+/// same system write one after the other and never into one file: who waited finds that the name
+/// has moved on and opens it anew.
 Descriptor openBeside(const fs::path& beside, const fs::path& file) {
   while (true) {
     Descriptor opened(
@@ -119,16 +120,25 @@ void flushFolder(const fs::path& folder) {
 std::string systemReason(int errorNumber) {
   switch (errorNumber) {
     case ENOSPC:
-    case EDQUOT: return "the disk is full. Make room or choose another folder.";
-    case EFBIG: return "the file would be larger than the disk or its limit allows.";
+    case EDQUOT:
+      return "the disk is full. Make room or choose another folder.";
+    case EFBIG:
+      return "the file would be larger than the disk or its limit allows.";
     case EACCES:
-    case EPERM: return "access is denied. Choose a folder that you may write to.";
-    case EROFS: return "the disk can only be read. Choose another folder.";
-    case ENOENT: return "it does not exist.";
-    case ENOTDIR: return "a file stands where a folder should be. Choose another folder.";
-    case EISDIR: return "a folder stands where the file should be. Choose another name.";
-    case ENAMETOOLONG: return "the name is too long.";
-    default: return std::generic_category().message(errorNumber) + ".";
+    case EPERM:
+      return "access is denied. Choose a folder that you may write to.";
+    case EROFS:
+      return "the disk can only be read. Choose another folder.";
+    case ENOENT:
+      return "it does not exist.";
+    case ENOTDIR:
+      return "a file stands where a folder should be. Choose another folder.";
+    case EISDIR:
+      return "a folder stands where the file should be. Choose another name.";
+    case ENAMETOOLONG:
+      return "the name is too long.";
+    default:
+      return std::generic_category().message(errorNumber) + ".";
   }
 }
 

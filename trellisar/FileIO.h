@@ -10,9 +10,9 @@ namespace trellisar {
 /// The whole content of a file. Raises host::Error errFile with the file and the reason.
 std::string readFile(const std::filesystem::path& file);
 
-/// Replaces a file's content: writes a file beside it, flushes it to the disk and renames it, so that at every moment
-/// the file holds the old or the new content, whole. A link stays a link. Raises host::Error errFile with the file and
-/// the reason, and then the old content is untouched.
+/// Replaces a file's content: writes a file beside it, flushes it to the disk and renames it, so
+/// that at every moment the file holds the old or the new content, whole. A link stays a link.
+/// Raises host::Error errFile with the file and the reason, and then the old content is untouched.
 void replaceFile(const std::filesystem::path& file, std::string_view content);
 
 /// "The disk is full." for the number of a failed system call.

@@ -87,8 +87,9 @@ bool MainWindowOperations::mayReplace(const fs::path& file) const {
   }
   // The first button is the default one, so the question is put so that Yes does no harm.
   return forms::Application::current().messageBox(
-             "Another system is in the file " + name + ".\r\n\r\nDo you want to keep that system? "
-             "Yes keeps it and does not save; No replaces it.",
+             "Another system is in the file " + name +
+                 ".\r\n\r\nDo you want to keep that system? "
+                 "Yes keeps it and does not save; No replaces it.",
              forms::Buttons::yesNo, forms::Icon::question) == forms::Answer::no;
 }
 
@@ -145,7 +146,7 @@ bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
     return false;
   }
   const fs::path folder = (forms::toMachinePath(strFolder) / "").parent_path();
-  const fs::path ownFile = session_->document ? session_->data()->ownFile : fs::path();
+  const fs::path ownFile = session_->hasSystem() ? session_->data()->ownFile : fs::path();
   const fs::path foreign = foreignSystemIn(folder, ownFile);
   const bool isReplaced =
       session_->replacing == Replacing::always && foreign.stem() == folder.filename();
@@ -167,8 +168,7 @@ bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
 bool MainWindowOperations::CheckValidSystemName(std::string& strName) {
   const std::string problem = nameProblem(strName);
   if (!problem.empty()) {
-    forms::Application::current().messageBox(problem, forms::Buttons::ok,
-                                             forms::Icon::information);
+    forms::Application::current().messageBox(problem, forms::Buttons::ok, forms::Icon::information);
   }
   return problem.empty();
 }

@@ -15,27 +15,30 @@ namespace trellisar {
 struct HostOptions {
   /// Holds "library", "pictures" and "TemplateSystems".
   std::filesystem::path dataFolder = {};
-  /// A device library that stands in for the shipped one; shared between hosts that run side by side or one after the
-  /// other. Nothing: the one of the data folder.
+  /// A device library that stands in for the shipped one; shared between hosts that run side by
+  /// side or one after the other. Nothing: the one of the data folder.
   std::shared_ptr<const DeviceLibrary> library = {};
   /// Where the user's preferences are kept; empty: nowhere, and there are none.
   std::filesystem::path preferencesFile = {};
   Replacing replacing = Replacing::ask;
 };
 
-/// One host of one thread, from which everything that an add-in is handed comes. Several hosts live side by side, each
-/// with an application of its own.
+/// One host of one thread, from which everything that an add-in is handed comes. Several hosts live
+/// side by side, each with an application of its own.
 ///
 ///     trellisar::Host host({.dataFolder = data});
 ///     addIn->IAddInContract_Load(host.document(), host.libraryManager(), host.communication(),
 ///                                host.smallPictures(), host.largePictures(), host.mainWindow());
 class Host {
  public:
-  /// Registers the classes that add-ins have made, and reads the index of the library. Raises what DeviceLibrary raises.
+  /// Registers the classes that add-ins have made, and reads the index of the library. Raises what
+  /// DeviceLibrary raises.
   explicit Host(const HostOptions& options);
 
   /// The open system; nothing when there is none.
-  std::shared_ptr<Document> document() const { return session_->document; }
+  std::shared_ptr<Document> document() const {
+    return session_->hasSystem() ? session_->document : nullptr;
+  }
   std::shared_ptr<LibraryManager> libraryManager() const { return session_->libraryManager; }
   std::shared_ptr<Communication> communication() const { return communication_; }
   std::shared_ptr<MainWindowOperations> mainWindow() const { return mainWindow_; }

@@ -33,7 +33,8 @@ std::string jsonText(const Json& json);
 /// A value being read, which knows its place in the file. Errors are host::Error errBadFile:
 /// `library/bravonne.json: devices[3].name: is missing`.
 ///
-/// An object is read key by key and then closed with `finish`, which refuses the keys that nobody asked for.
+/// An object is read key by key and then closed with `finish`, which refuses the keys that nobody
+/// asked for.
 class JsonReader {
  public:
   JsonReader(const Json& value, const std::string& file) : value_(value), file_(&file) {}

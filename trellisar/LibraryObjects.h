@@ -26,7 +26,8 @@ class LibraryModuleObject : public host::LibraryModule {
   DefinitionPtr definition_;
 };
 
-/// The device types that are offered; no value offers all. Shared between the library manager and the device dialog.
+/// The device types that are offered; no value offers all. Shared between the library manager and
+/// the device dialog.
 using DeviceFilter = std::optional<std::vector<std::int16_t>>;
 
 class LibraryManager : public host::LibraryManager {

@@ -22,7 +22,8 @@ class Lister {
     json["settings"] = settings();
     json["receiver"] = receiver();
     json["devices"] = Json::array();
-    for (const DevicePtr& device : listedDevices(document_)) json["devices"].push_back(item(*device));
+    for (const DevicePtr& device : listedDevices(document_))
+      json["devices"].push_back(item(*device));
     json["touch_panels"] = panels();
     json["bill_of_materials"] = bill();
     json["presets"] = presets();
@@ -235,8 +236,10 @@ std::string chosenType(const DeviceData& device) {
     case host::entryPowerRelay:
     case host::entryDigitalInput:
     case host::entryMotionDetector:
-    case host::entryKestrum: return {};
-    default: return device.definition->name;
+    case host::entryKestrum:
+      return {};
+    default:
+      return device.definition->name;
   }
 }
 

@@ -9,7 +9,8 @@
 
 namespace trellisar {
 
-/// The operations of the host's main window. Messages and dialogs go to the thread's forms::Application.
+/// The operations of the host's main window. Messages and dialogs go to the thread's
+/// forms::Application.
 class MainWindowOperations : public host::OwnerForm {
  public:
   explicit MainWindowOperations(std::shared_ptr<Session> session) : session_(std::move(session)) {}

@@ -22,6 +22,9 @@ Pictures readPictures(const std::filesystem::path& folder) {
   const std::string shown = (folder.filename() / "index.json").string();
   const Json json = parseJson(readFile(folder / "index.json"), shown, indexLimits);
   JsonReader reader(json, shown);
+  const JsonReader format = reader.at("format");
+  if (format.text() != "trellisar-pictures") format.fail("must be \"trellisar-pictures\"");
+  reader.at("version").integer(1, 1);
   Pictures pictures;
   readList(reader.at("small"), folder, smallSize, pictures.small);
   readList(reader.at("large"), folder, largeSize, pictures.large);

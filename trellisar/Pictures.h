@@ -12,8 +12,9 @@ struct Pictures {
   forms::ImageList large;
 };
 
-/// Reads "index.json" of the folder: `{"small": [...], "large": [...]}`, the names of the files in their order. Raises
-/// host::Error errFile or errBadFile with the file and the place.
+/// Reads "index.json" of the folder: `{"format": "trellisar-pictures", "version": 1, "small":
+/// [...], "large": [...]}`, the lists being names of files in their order. Raises host::Error
+/// errFile or errBadFile with the file and the place.
 Pictures readPictures(const std::filesystem::path& folder);
 
 }  // namespace trellisar

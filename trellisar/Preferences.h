@@ -6,8 +6,8 @@
 
 namespace trellisar {
 
-/// What the host keeps for its user, in a small JSON file. A file that is missing, damaged or of another version counts
-/// as none; the next change writes it anew.
+/// What the host keeps for its user, in a small JSON file. A file that is missing, damaged or of
+/// another version counts as none; the next change writes it anew.
 class Preferences {
  public:
   /// Without a file nothing is kept.
@@ -21,7 +21,8 @@ class Preferences {
   const std::vector<std::string>& recentSystems() const { return recentSystems_; }
   void remember(const std::string& system);
 
-  /// Where the user's preferences lie: below $XDG_CONFIG_HOME, or below ".config" in the home folder.
+  /// Where the user's preferences lie: below $XDG_CONFIG_HOME, or below ".config" in the home
+  /// folder.
   static std::filesystem::path usualFile();
 
  private:

@@ -19,7 +19,8 @@ class StepObject : public host::Step {
   StepObject(DocumentPtr document, std::shared_ptr<StepData> data);
 
   const std::shared_ptr<StepData>& data() const { return data_; }
-  /// Puts the step, which stands in no preset, into one; false when its target is not in the document.
+  /// Puts the step, which stands in no preset, into one; false when its target is not in the
+  /// document.
   bool enter(const DocumentPtr& document, PresetData& preset);
 
   bool Init(std::int16_t iKind, std::int16_t iTargetType, std::int16_t iReserved,

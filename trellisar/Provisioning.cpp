@@ -73,13 +73,11 @@ class Cascade {
   }
 
  private:
-  bool names(std::int32_t id) const {
-    return ids_.contains(static_cast<std::int16_t>(id));
-  }
+  bool names(std::int32_t id) const { return ids_.contains(static_cast<std::int16_t>(id)); }
 
   bool isTarget(const StepData& step) const {
-    const bool hasDevice = step.targetType == host::targetDevice ||
-                           step.targetType == host::targetTouchpanel;
+    const bool hasDevice =
+        step.targetType == host::targetDevice || step.targetType == host::targetTouchpanel;
     return hasDevice && names(step.target);
   }
 
@@ -234,14 +232,21 @@ std::string portText(const DeviceData& device) {
   if (device.port == 0) return {};
   const std::string number = std::to_string(device.port);
   switch (device.definition->connection) {
-    case Connection::none: return {};
-    case Connection::serial: return "Serial Port " + number;
-    case Connection::infrared: return "Infrared Port " + number;
-    case Connection::relay: return "Relay " + number;
+    case Connection::none:
+      return {};
+    case Connection::serial:
+      return "Serial Port " + number;
+    case Connection::infrared:
+      return "Infrared Port " + number;
+    case Connection::relay:
+      return "Relay " + number;
     case Connection::contact:
-    case Connection::sensor: return "Digital Input " + number;
-    case Connection::network: return "IP-ID " + ipId(device);
-    case Connection::link: return "OL" + number;
+    case Connection::sensor:
+      return "Digital Input " + number;
+    case Connection::network:
+      return "IP-ID " + ipId(device);
+    case Connection::link:
+      return "OL" + number;
   }
   return {};
 }

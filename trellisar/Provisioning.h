@@ -7,20 +7,23 @@
 /// Putting devices, modules and panels into a document and taking them out.
 namespace trellisar {
 
-/// Adds a device, or a panel for the definition of a user interface, with handle, port and the definition's properties,
-/// and marks the document. Nothing, with a text in `error`: the name is taken below the parent, or the ids are used up.
+/// Adds a device, or a panel for the definition of a user interface, with handle, port and the
+/// definition's properties, and marks the document. Nothing, with a text in `error`: the name is
+/// taken below the parent, or the ids are used up.
 DevicePtr addDevice(DocumentData& document, const DefinitionPtr& definition,
                     const std::string& name, std::int16_t parent, std::string& error);
 
-/// Adds a module below a device, with the texts that `draft` carries, and marks the document. Nothing when the ids are
-/// used up.
+/// Adds a module below a device, with the texts that `draft` carries, and marks the document.
+/// Nothing when the ids are used up.
 DevicePtr addModule(DocumentData& document, const DevicePtr& device, const DeviceData& draft);
 
-/// Takes a device or panel out, with its modules and every step, source and slot that names one of them. A conditional
-/// step that tests one gives way to the steps of its branch. Marks the document.
+/// Takes a device or panel out, with its modules and every step, source and slot that names one of
+/// them. A conditional step that tests one gives way to the steps of its branch. Marks the
+/// document.
 void removeDevice(DocumentData& document, const DevicePtr& device);
 
-/// Gives the device the properties and slots of a definition; values that the definition takes stay.
+/// Gives the device the properties and slots of a definition; values that the definition takes
+/// stay.
 void takeDefinition(DeviceData& device, const DefinitionPtr& definition);
 
 /// Whether a device could be at a port: the port is its own, or free and one for devices.

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "forms/Numbers.h"
+#include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
 #include "trellisar/Listing.h"
@@ -16,7 +17,8 @@ std::string seconds(const std::string& hundredths) {
 
 std::string inQuotes(const std::string& text) { return "\"" + text + "\""; }
 
-/// The program in words, numbered as a reader would number it: 4.2 is the second step of the branch of step 4.
+/// The program in words, numbered as a reader would number it: 4.2 is the second step of the branch
+/// of step 4.
 class ProgramText {
  public:
   explicit ProgramText(const DocumentData& document) : document_(document) {}
@@ -37,12 +39,18 @@ class ProgramText {
   std::string words(const StepData& step) const {
     const std::string target = document_.shownName(static_cast<std::int16_t>(step.target));
     switch (step.kind) {
-      case host::stepCallPreset: return "run " + inQuotes(document_.findPreset(step.target)->name);
-      case host::stepConditional: return "if " + condition(step) + ":";
-      case host::stepDelay: return "wait " + seconds(step.value);
-      case host::stepAnalog: return target + ": " + step.signal + " = " + step.value;
-      case host::stepSerial: return target + ": " + step.signal + " = " + inQuotes(step.value);
-      default: return target + ": " + step.signal + digitalValue(step.value);
+      case host::stepCallPreset:
+        return "run " + inQuotes(document_.findPreset(step.target)->name);
+      case host::stepConditional:
+        return "if " + condition(step) + ":";
+      case host::stepDelay:
+        return "wait " + seconds(step.value);
+      case host::stepAnalog:
+        return target + ": " + step.signal + " = " + step.value;
+      case host::stepSerial:
+        return target + ": " + step.signal + " = " + inQuotes(step.value);
+      default:
+        return target + ": " + step.signal + digitalValue(step.value);
     }
   }
 
@@ -76,19 +84,22 @@ class Reader {
 
  private:
   std::string head() const {
-    return inQuotes(document_.name) + " in " + document_.folder + "\n" +
-           "Saved by: " + document_.application + "\n" + "Compiled program: " +
-           (document_.compiledProgram.empty()  ? "none"
-            : document_.programIsCurrent ? "up to date"
-                                         : "older than the system") +
+    return inQuotes(document_.name) + " in " + forms::toMachinePath(document_.folder).string() +
+           "\n" + "Saved by: " + document_.application + "\n" + "Compiled program: " +
+           (document_.compiledProgram.empty() ? "none"
+            : document_.programIsCurrent      ? "up to date"
+                                              : "older than the system") +
            "\n";
   }
 
   static std::string powerControl(const DeviceData& device) {
     switch (device.powerControl) {
-      case host::powerSensing: return ", power control: power sensing";
-      case host::powerDiscrete: return ", power control: discrete commands";
-      default: return "";
+      case host::powerSensing:
+        return ", power control: power sensing";
+      case host::powerDiscrete:
+        return ", power control: discrete commands";
+      default:
+        return "";
     }
   }
 
@@ -103,11 +114,12 @@ class Reader {
   std::string device(const DeviceData& device) const {
     const Definition& definition = *device.definition;
     const std::string type =
-        definition.form == Definition::Form::receiver ? definition.model : definition.name;
+        definition.form == Definition::Form::receiver ? definition.model : chosenType(device);
     std::string text = "    " + device.name;
-    if (type != device.name) text += ": " + type;
+    if (!type.empty()) text += ": " + type;
     if (!device.label.empty()) text += ", labelled " + inQuotes(device.label);
-    if (const std::string port = portText(device); !port.empty()) text += ", " + port;
+    if (const std::string port = portText(device); !port.empty() && port != device.name)
+      text += ", " + port;
     text += powerControl(device) + "\n" + properties(device, "        ");
     for (const DevicePtr& module : device.modules) {
       text += "        module " + module->shortName + " (" + module->name + ")\n" +
@@ -154,7 +166,8 @@ class Reader {
     std::string text = "\nBill of materials\n";
     for (const auto& entry : document_.bill) {
       text += "    " + billDevice(document_, *entry) + ": " + billLine(entry->main, "");
-      for (const BillLine& line : entry->parts) text += "        " + billLine(line, ", further part");
+      for (const BillLine& line : entry->parts)
+        text += "        " + billLine(line, ", further part");
     }
     return text;
   }

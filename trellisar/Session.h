@@ -32,6 +32,7 @@ struct Session {
 
   /// The document's data; raises host::Error errDocumentClosed when no system is open.
   const DocumentPtr& data() const;
+  bool hasSystem() const { return document && document->isOpen(); }
 };
 
 }  // namespace trellisar

@@ -19,8 +19,10 @@ bool isTargetThere(const DocumentData& document, std::int16_t targetType, std::i
       const auto preset = document.findPreset(target);
       return preset && !preset->name.empty();
     }
-    case host::targetNone: return true;
-    default: return false;
+    case host::targetNone:
+      return true;
+    default:
+      return false;
   }
 }
 
@@ -31,9 +33,12 @@ bool isStepForm(std::int16_t kind, std::int16_t targetType) {
     case host::stepSerial:
     case host::stepDelay:
       return targetType == host::targetDevice || targetType == host::targetTouchpanel;
-    case host::stepCallPreset: return targetType == host::targetPreset;
-    case host::stepConditional: return targetType == host::targetNone;
-    default: return false;
+    case host::stepCallPreset:
+      return targetType == host::targetPreset;
+    case host::stepConditional:
+      return targetType == host::targetNone;
+    default:
+      return false;
   }
 }
 

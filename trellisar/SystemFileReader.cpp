@@ -23,7 +23,8 @@ using Form = Definition::Form;
 constexpr std::int16_t least16 = std::numeric_limits<std::int16_t>::min();
 constexpr std::int32_t least32 = std::numeric_limits<std::int32_t>::min();
 
-/// Fills a new document from a file. First everything that can be named is made, then what names it.
+/// Fills a new document from a file. First everything that can be named is made, then what names
+/// it.
 class Loader {
  public:
   Loader(DocumentData& document, const Json& json, const std::string& file)
@@ -32,9 +33,8 @@ class Loader {
   void load() {
     readHead();
     root_.at("definitions").each([&](const JsonReader& item) { readDefinitionOf(item); });
-    root_.at("devices").each([&](const JsonReader& item) {
-      readDevice(item, Kind::device, document_.devices);
-    });
+    root_.at("devices").each(
+        [&](const JsonReader& item) { readDevice(item, Kind::device, document_.devices); });
     root_.at("touch_panels").each([&](const JsonReader& item) { readPanel(item); });
     readControlSystem();
     root_.at("sensor_handles").each([&](const JsonReader& item) { readSensorHandle(item); });
@@ -43,9 +43,8 @@ class Loader {
     readReferences("devices", document_.devices);
     readReferences("touch_panels", document_.panels);
     std::size_t place = 0;
-    root_.at("presets").each([&](JsonReader item) {
-      readSteps(item.at("steps"), *document_.presets[place++]);
-    });
+    root_.at("presets").each(
+        [&](JsonReader item) { readSteps(item.at("steps"), *document_.presets[place++]); });
     root_.finish();
   }
 
@@ -77,8 +76,8 @@ class Loader {
     const Form form = readForm(reader.at("form"));
     std::string maker;
     if (form != Form::module) maker = reader.at("maker").text();
-    definitions_.push_back(std::make_shared<const Definition>(
-        readDefinition(reader.at("definition"), form, maker)));
+    definitions_.push_back(
+        std::make_shared<const Definition>(readDefinition(reader.at("definition"), form, maker)));
     reader.finish();
   }
 
@@ -132,9 +131,8 @@ class Loader {
     list.push_back(device);
     document_.enter(device);
     if (kind == Kind::device) {
-      reader.at("modules").each([&](const JsonReader& item) {
-        readDevice(item, Kind::module, device->modules);
-      });
+      reader.at("modules").each(
+          [&](const JsonReader& item) { readDevice(item, Kind::module, device->modules); });
     }
     reader.finish();
   }
@@ -209,9 +207,8 @@ class Loader {
     entry->key = key.int32(least32);
     if (document_.findBillEntry(entry->key)) key.fail("the key stands twice");
     entry->main = readBillLine(reader.at("main"));
-    reader.at("parts").each([&](const JsonReader& item) {
-      entry->parts.push_back(readBillLine(item));
-    });
+    reader.at("parts").each(
+        [&](const JsonReader& item) { entry->parts.push_back(readBillLine(item)); });
     reader.finish();
     document_.bill.push_back(std::move(entry));
   }
@@ -243,9 +240,8 @@ class Loader {
     readSlots(reader.at("slots"), *device);
     if (device->kind == Kind::module) return;
     std::size_t place = 0;
-    reader.at("modules").each([&](JsonReader item) {
-      readReferences(item, device->modules[place++]);
-    });
+    reader.at("modules").each(
+        [&](JsonReader item) { readReferences(item, device->modules[place++]); });
   }
 
   void readSlots(const JsonReader& list, DeviceData& device) {
@@ -367,7 +363,8 @@ class Loader {
   std::vector<DefinitionPtr> definitions_;
 };
 
-/// The name that a system has: the file's, but spelled as the document has it where that differs in case alone.
+/// The name that a system has: the file's, but spelled as the document has it where that differs in
+/// case alone.
 std::string systemName(const fs::path& file, const std::string& stored) {
   const std::string stem = file.stem().string();
   return forms::equalsIgnoringCase(stem, stored) ? stored : stem;

@@ -170,8 +170,8 @@ class Writer {
     return json;
   }
 
-  /// In the order of the signal table, those first that the driver no longer has: the order in which they were asked for
-  /// is chance.
+  /// In the order of the signal table, those first that the driver no longer has: the order in
+  /// which they were asked for is chance.
   Json signals(const DeviceData& device) const {
     std::vector<SignalRow> table = device.definition->signalTable();
     std::vector<std::pair<std::ptrdiff_t, const SignalData*>> stored;

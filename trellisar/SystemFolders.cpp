@@ -25,7 +25,8 @@ std::string withBackslash(std::string folder) {
   return folder;
 }
 
-/// The desktop keeps the place of the documents folder in a file of lines such as XDG_DOCUMENTS_DIR="$HOME/Documents".
+/// The desktop keeps the place of the documents folder in a file of lines such as
+/// XDG_DOCUMENTS_DIR="$HOME/Documents".
 fs::path documentsFolder() {
   const std::string home = environment("HOME");
   std::string config = environment("XDG_CONFIG_HOME");

@@ -7,8 +7,9 @@
 
 namespace trellisar {
 
-/// The folder for new systems, with backslashes and one at the end: what the environment variable TRELLISAR_SYSTEMS
-/// names, or the preferences, or "Trellisar Systems" in the user's documents folder.
+/// The folder for new systems, with backslashes and one at the end: what the environment variable
+/// TRELLISAR_SYSTEMS names, or the preferences, or "Trellisar Systems" in the user's documents
+/// folder.
 std::string defaultSystemsFolder(const Preferences& preferences);
 
 /// Whether the two machine paths lead to one file.
@@ -18,7 +19,8 @@ bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& o
 std::filesystem::path foreignSystemIn(const std::filesystem::path& folder,
                                       const std::filesystem::path& ownFile);
 
-/// Makes a folder and those above it. Without `keep` they are removed again at the end, as far as they are empty.
+/// Makes a folder and those above it. Without `keep` they are removed again at the end, as far as
+/// they are empty.
 class MadeFolders {
  public:
   /// Raises host::Error errFile with the folder and the reason.

@@ -17,7 +17,9 @@
 #include "steps/TabStart.h"
 #include "steps/WizardStep.h"
 #include "steps/frmImages.h"
-#include "steps/frmPictures.h"
+#include "steps/frmPreview.h"
+#include "steps/frmVideoTestPattern.h"
+#include "vmAOR/LivingObjects.h"
 
 namespace vmAOR {
 namespace {
@@ -35,7 +37,12 @@ struct StepEntry {
 /// The factory of a class that is asked for as the interface it implements.
 template <typename Class, typename Interface>
 ClassEntry objectClass(const char* programId) {
-  return {programId, [] { return std::static_pointer_cast<Interface>(std::make_shared<Class>()); }};
+  return {programId, [] {
+            std::shared_ptr<forms::Object> object =
+                std::static_pointer_cast<Interface>(std::make_shared<Class>());
+            livingObjects().add(object);
+            return object;
+          }};
 }
 
 template <typename Step>

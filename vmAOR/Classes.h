@@ -2,7 +2,7 @@
 
 namespace vmAOR {
 
-/// Registers every class of the add-in under its program id: the steps, the windows, the picture
+/// Registers the classes that the add-in creates by program id: the steps, the windows, the picture
 /// lists, the generator.
 void registerClasses();
 void unregisterClasses();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "forms/Object.h"
 
@@ -19,7 +18,7 @@ bool DllUnregisterServer();
 /// outside. False, with `object` empty, for any other name.
 bool DllGetClassObject(const char* className, std::shared_ptr<forms::Object>& object);
 
-/// Whether none of the component's objects lives.
+/// Whether none of the component's objects lives. A host unregisters the component before it unloads it.
 bool DllCanUnloadNow();
 
 }  // extern "C"

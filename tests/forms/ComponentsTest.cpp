@@ -116,6 +116,26 @@ TEST_F(ComponentsTest, PropertyStore) {
   EXPECT_EQ(bag.read<bool>("Style", true), true) << "stored as another type";
 }
 
+TEST_F(ComponentsTest, ViewsAreTakenOffControlsBeforeTheForm) {
+  struct Watch : forms::FormView {
+    Watch(std::string watched, Journal& events) : name(std::move(watched)), journal(events) {}
+    void update() override {}
+    void detach() override { journal.push_back(name); }
+    void childAdded(forms::Control& control) override { journal.push_back("+" + control.name()); }
+    std::string name;
+    Journal& journal;
+  };
+  Journal journal;
+  Watch stepView("ctl0", journal);
+  Watch formView("window", journal);
+  {
+    forms::Form window("window");
+    window.attach(&formView);
+    window.addControl("tests.Step", "ctl0").attach(&stepView);
+  }
+  EXPECT_EQ(journal, (Journal{"+ctl0", "ctl0", "window"}));
+}
+
 TEST_F(ComponentsTest, SizeAndContainer) {
   Step step(form, "step");
   step.setBounds({100, 350, 4000, 3000});

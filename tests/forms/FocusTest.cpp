@@ -274,6 +274,16 @@ TEST_F(FocusTest, FocusThatCantStaySettlesBehindItsPlace) {
   }
 }
 
+TEST_F(FocusTest, FocusInAHiddenFrameSettlesBehindTheFrame) {
+  Wizard wizard;
+  onForm(wizard, [&](forms::Form&) {
+    user.moveFocus(wizard.page.one);
+    wizard.page.frame.setVisible(false);
+    wizard.focus().settle();
+    EXPECT_EQ(focused(wizard), "list");
+  });
+}
+
 TEST_F(FocusTest, ControlDisabledDuringItsOwnClickKeepsTheFocus) {
   Wizard wizard;
   forms::Form dialog("dialog");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/Application.h"
 #include "forms/Components.h"
 #include "host/iTab.h"
 #include "tests/support/ScriptedDesktop.h"

@@ -174,7 +174,7 @@ TEST_F(TabDisplayTest, PropertyPagesFollowTheDevice) {
     EXPECT_EQ(step.GetTabs(wizard.addIn->get_DisplayDeviceID()).size(), 3U);
     EXPECT_TRUE(isVisible("cmdProperties"));
 
-    wizard.desktop.whenShown("DevicePropertiesDialog", [&](forms::Form& dialog) {
+    wizard.desktop.whenShown("DeviceProperties", [&](forms::Form& dialog) {
       auto& description = dynamic_cast<TextBox&>(dialog.control("txtDescription"));
       wizard.user.replaceText(description, "At the front wall");
       wizard.user.click(dialog.control("cmdOK"));

@@ -47,7 +47,8 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
                      std::optional<forms::Answer> answer = std::nullopt,
                      std::function<void()> during = nullptr);
 
-  /// As above, for a message of the host: with an OK button, told by its icon and by what its text holds.
+  /// As above, for a message of the host: with an OK button, told by its icon and by what its text
+  /// holds.
   void expectMessageWith(forms::Icon icon, const std::string& partOfText);
 
   /// The next modal run of the form with this name.

@@ -68,15 +68,17 @@ TEST_F(DeviceLibraryTest, ErrorsNameTheFileAndThePlace) {
     EXPECT_EQ(errorWith(index, aFile(keys)), "a.json: " + error);
   }
   EXPECT_EQ(errorWith(index, aFile("")), "");
-  EXPECT_EQ(errorWith(index, R"({"format": "x"})"), "a.json: format: must be \"trellisar-devices\"");
-  EXPECT_EQ(errorWith(R"({"format": "trellisar-device-library", "version": 1, "files": ["b.json"]})",
-                      ""),
-            "index.json: files[0]: \"b.json\" is not in the folder");
+  EXPECT_EQ(errorWith(index, R"({"format": "x"})"),
+            "a.json: format: must be \"trellisar-devices\"");
+  EXPECT_EQ(
+      errorWith(R"({"format": "trellisar-device-library", "version": 1, "files": ["b.json"]})", ""),
+      "index.json: files[0]: \"b.json\" is not in the folder");
 }
 
 TEST_F(DeviceLibraryTest, ReadsOnlyTheFilesItIsAskedFor) {
-  writeFile(folder.path() / "index.json",
-            R"({"format": "trellisar-device-library", "version": 1, "files": ["a.json", "b.json"]})");
+  writeFile(
+      folder.path() / "index.json",
+      R"({"format": "trellisar-device-library", "version": 1, "files": ["a.json", "b.json"]})");
   writeFile(folder.path() / "a.json", aFile(""));
   writeFile(folder.path() / "b.json", "broken");
   const DeviceLibrary library(folder.path());
@@ -191,9 +193,8 @@ TEST_F(ShippedLibrary, FilterLeavesTheTypesThatItNames) {
   EXPECT_GT(all, 0u);
   manager.get_DeviceTypes()->put_DeviceFilter(std::vector<std::int16_t>{1});
   EXPECT_EQ(manager.offered("Screen").size(), 0u);
-  manager.get_DeviceTypes()->put_DeviceFilter(
-      std::vector<std::int16_t>{1070, 1992, 1982, 1983, 1071, 1984, 1985, 1986, 1987, 1988, 1989,
-                                1993, 2494});
+  manager.get_DeviceTypes()->put_DeviceFilter(std::vector<std::int16_t>{
+      1070, 1992, 1982, 1983, 1071, 1984, 1985, 1986, 1987, 1988, 1989, 1993, 2494});
   EXPECT_EQ(manager.offered("Screen").size(), all);
   EXPECT_GE(manager.offered("Video/Data Projector").size(), 40u);
   manager.get_DeviceTypes()->put_DeviceFilter(std::nullopt);

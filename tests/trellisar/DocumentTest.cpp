@@ -15,7 +15,8 @@ class DocumentTest : public HostTest {
     return document().get_Signals()->Find(device, name, "", host::signalDigital);
   }
 
-  /// "modified, current" and so on, after both marks were set to "unmodified, current" and `act` has run.
+  /// "modified, current" and so on, after both marks were set to "unmodified, current" and `act`
+  /// has run.
   template <typename Act>
   std::string marksAfter(Act&& act) {
     data().isModified = false;
@@ -68,8 +69,7 @@ TEST_F(DocumentTest, MarksWhatWasChanged) {
   EXPECT_EQ(marksAfter([&] { append(*on, host::stepDigital, 0, display, "Power_On"); }),
             "unmodified, not current");
   EXPECT_EQ(marksAfter([&] { on->ClearSteps(); }), "unmodified, not current");
-  const auto knob =
-      document().get_ControlSystem()->get_Properties()->Item("Volume Knob Control");
+  const auto knob = document().get_ControlSystem()->get_Properties()->Item("Volume Knob Control");
   EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("0d")); }), "unmodified, current");
   EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("1d")); }), "unmodified, not current");
   EXPECT_EQ(marksAfter([&] { EXPECT_FALSE(knob->SetValue("2d")); }), "unmodified, current");
@@ -81,10 +81,9 @@ TEST_F(DocumentTest, MarksWhatWasChanged) {
             "modified, not current");
   EXPECT_EQ(marksAfter([&] { document().ChangeControlSystem(841, "", 0, message); }),
             "unmodified, current");
-  EXPECT_EQ(marksAfter([&] {
-              EXPECT_TRUE(document().RemoveDevice(display, host::removalOfDevice));
-            }),
-            "modified, not current");
+  EXPECT_EQ(
+      marksAfter([&] { EXPECT_TRUE(document().RemoveDevice(display, host::removalOfDevice)); }),
+      "modified, not current");
   EXPECT_EQ(marksAfter([&] { document().SetModified(true, false, true); }), "modified, current");
   EXPECT_EQ(marksAfter([&] { document().MarkChanged(); }), "modified, not current");
   EXPECT_EQ(marksAfter([&] {

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "forms/Form.h"
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
 #include "forms/TextBox.h"
@@ -93,7 +94,7 @@ TEST_F(MainWindowTest, OpenReplacesTheSystemOnlyWhenItSucceeded) {
   desktop.expectOpenDialog("Open System", folder.inside("Room.tsy"));
   EXPECT_NE(window().FileOpen(cancelled), nullptr);
   EXPECT_FALSE(cancelled);
-  EXPECT_EQ(host.document()->get_Path(), folder.inside("") );
+  EXPECT_EQ(host.document()->get_Path(), folder.inside(""));
   EXPECT_THROW(static_cast<void>(first->get_Name()), host::Error);
   EXPECT_FALSE(host.document()->get_Modified());
 }
@@ -122,8 +123,7 @@ TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {
   EXPECT_TRUE(window().CreateProjectFolder(place + "\\"));
   EXPECT_TRUE(fs::is_directory(folder.path() / "New"));
   EXPECT_TRUE(window().CreateProjectFolder(place));
-  expectRefusal(
-      "The system has no name, so its folder can't be made. Give the system a name.");
+  expectRefusal("The system has no name, so its folder can't be made. Give the system a name.");
   EXPECT_FALSE(window().CreateProjectFolder(folder.inside("") + "\\"));
 
   ASSERT_TRUE(save("New\\New"));
@@ -152,11 +152,23 @@ TEST_F(MainWindowTest, DestroyDocForgetsAndToleratesThatThereIsNone) {
 }
 
 TEST_F(MainWindowTest, TimeTextsAreReadToHundredths) {
-  const std::pair<const char*, std::int32_t> cases[] = {
-      {"0.1s", 10},    {" 120s", 12000}, {"3", 300},      {"2.675s", 268}, {"0.005s", 0},
-      {"0.015s", 2},   {"0.0151s", 2},   {"0.0051s", 1},  {".5s", 50},     {"-1s", -100},
-      {"", 0},         {"s", 0},         {"abc", 0},      {"1e3s", 0},     {"1.2.3s", 0},
-      {"655.36s", 65536}, {"99999999999s", INT32_MAX}};
+  const std::pair<const char*, std::int32_t> cases[] = {{"0.1s", 10},
+                                                        {" 120s", 12000},
+                                                        {"3", 300},
+                                                        {"2.675s", 268},
+                                                        {"0.005s", 0},
+                                                        {"0.015s", 2},
+                                                        {"0.0151s", 2},
+                                                        {"0.0051s", 1},
+                                                        {".5s", 50},
+                                                        {"-1s", -100},
+                                                        {"", 0},
+                                                        {"s", 0},
+                                                        {"abc", 0},
+                                                        {"1e3s", 0},
+                                                        {"1.2.3s", 0},
+                                                        {"655.36s", 65536},
+                                                        {"99999999999s", INT32_MAX}};
   for (const auto& [text, hundredths] : cases) {
     EXPECT_EQ(window().GetHSeconds(text, 0), hundredths) << "\"" << text << "\"";
   }
@@ -190,8 +202,8 @@ TEST_F(MainWindowTest, PortsFollowTheNameOrTheFirstFreeOne) {
   openTemplate();
   const auto input = host.document()->get_Devices()->FindByName("Digital Input 1", "Receiver");
   ASSERT_TRUE(host.document()->RemoveDevice(input->get_ID(), host::removalOfDevice));
-  const auto sensor = host.document()->get_Devices()->Item(
-      add("Motion Detector", host::entryMotionDetector));
+  const auto sensor =
+      host.document()->get_Devices()->Item(add("Motion Detector", host::entryMotionDetector));
   EXPECT_EQ(window().GetDevicePort(sensor->get_DeviceHandle()), "Digital Input 1");
   EXPECT_EQ(window().GetDeviceIPID(sensor->get_DeviceHandle()), "");
   const auto kestrum =
@@ -224,7 +236,10 @@ TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
     user.select(dynamic_cast<forms::ListBox&>(form.control("lstDevices")), place);
     user.click(form.control("cmdOK"));
   };
-  const auto cancel = [&](forms::Form& form) { user.press(forms::keys::escape); static_cast<void>(form); };
+  const auto cancel = [&](forms::Form& form) {
+    user.press(forms::keys::escape);
+    static_cast<void>(form);
+  };
 
   desktop.whenShown("DeviceDialog", cancel);
   EXPECT_EQ(window().ShowAddReplaceDeviceDialog(arguments), host::deviceDialogNone);
@@ -263,8 +278,7 @@ TEST_F(MainWindowTest, DevicePropertiesChangeNothingBeforeOk) {
 
   desktop.whenShown("DeviceProperties", [&](forms::Form& form) {
     user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtValue")), "loud");
-    expectRefusal(
-        "\"loud\" is no value for \"Volume Knob Control\". One of \"0d\", \"1d\".");
+    expectRefusal("\"loud\" is no value for \"Volume Knob Control\". One of \"0d\", \"1d\".");
     user.click(form.control("cmdOK"));
     EXPECT_TRUE(form.isVisible());
     user.click(form.control("cmdCancel"));

@@ -4,8 +4,9 @@
 #include "trellisar/FileIO.h"
 #include "trellisar/Provisioning.h"
 
-/// The template and the example system are made here. After a change of the system file's form or of the library's
-/// receiver, run this test once with TRELLISAR_RENEW=1 in the environment and look at the difference.
+/// The template and the example system are made here. After a change of the system file's form or
+/// of the library's receiver, run this test once with TRELLISAR_RENEW=1 in the environment and look
+/// at the difference.
 namespace tests {
 namespace {
 
@@ -20,7 +21,8 @@ trellisar::DevicePtr added(DocumentData& system, const trellisar::DefinitionPtr&
   return device;
 }
 
-/// What every room begins with: the receiver, its four digital inputs, the six presets and the receiver's bill entry.
+/// What every room begins with: the receiver, its four digital inputs, the six presets and the
+/// receiver's bill entry.
 trellisar::DocumentPtr emptyRoom(const std::string& name) {
   const auto library = shippedLibrary();
   auto system = std::make_shared<DocumentData>(library);

@@ -32,7 +32,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 std::string TemporaryFolder::inside(const std::string& name) const {
-  return forms::fromMachinePath(path_ / name);
+  return forms::fromMachinePath(path_) + "\\" + name;
 }
 
 void writeFile(const fs::path& file, const std::string& content) {

@@ -21,24 +21,10 @@ class PictureForm : public forms::Form, public addin::PictureWindow {
   /// is.
   void AddPicture(const std::string& strFile);
   void ShowPicture(const std::string& strCaption, std::int16_t iImage);
-  /// The size in pixels, the window's edges included.
-  void SetSizeInPixels(std::int16_t iWidth, std::int16_t iHeight);
+  /// The window's size around a picture of this size in pixels.
+  void SetSizeAround(std::int16_t iWidth, std::int16_t iHeight);
 
   forms::ImageList imgList;
-};
-
-/// What the wizard makes (picture 1), and how a room is wired (picture 2).
-class frmPreview : public PictureForm {
- public:
-  frmPreview();
-  void Setup(const std::string& strCaption, std::int16_t iImage) override;
-};
-
-/// The picture with which a user adjusts a display.
-class frmVideoTestPattern : public PictureForm {
- public:
-  frmVideoTestPattern();
-  void Setup(const std::string& strCaption, std::int16_t iImage) override;
 };
 
 }  // namespace steps

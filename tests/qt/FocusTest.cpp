@@ -1,0 +1,197 @@
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QMessageBox>
+
+#include "forms/CheckBox.h"
+#include "forms/CommandButton.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+#include "forms/OptionButton.h"
+#include "forms/TextBox.h"
+#include "tests/qt/Screen.h"
+
+namespace tests {
+namespace {
+
+struct Form : forms::Form {
+  Form() : forms::Form("form") {
+    setCaption("Focus");
+    forms::Twips top = 0;
+    for (forms::Control* control : std::initializer_list<forms::Control*>{
+             &label, &box, &hidden, &grey, &check, &frame, &button}) {
+      control->setBounds({0, top, 3000, 400});
+      top += 500;
+    }
+    frame.setBounds({3500, 0, 1000, 3000});
+    one.setBounds({100, 300, 800, 300});
+    two.setBounds({100, 700, 800, 300});
+    three.setBounds({100, 1100, 800, 300});
+    hidden.setVisible(false);
+    grey.setEnabled(false);
+    two.setEnabled(false);
+    one.setChosen(true);
+    button.click.connect([this] { ++clicks; });
+    check.click.connect([this] { ++clicks; });
+  }
+  forms::Label label{*this, "label", "&Name:"};
+  forms::TextBox box{*this, "box"};
+  forms::TextBox hidden{*this, "hidden"};
+  forms::TextBox grey{*this, "grey"};
+  forms::CheckBox check{*this, "check", "&Check"};
+  forms::Frame frame{*this, "frame", "Group"};
+  forms::OptionButton one{frame, "one", "One"};
+  forms::OptionButton two{frame, "two", "Two"};
+  forms::OptionButton three{frame, "three", "&Three"};
+  forms::CommandButton button{*this, "button", "&Go"};
+  int clicks = 0;
+};
+
+class FocusTest : public Screen {
+ protected:
+  /// The box refuses to be left, with or without a word.
+  void refuse(bool withMessage) {
+    form.box.validate.connect([this, withMessage](bool& cancel) {
+      if (withMessage) application.messageBox("Not so.");
+      cancel = refusing;
+    });
+  }
+  Form form;
+  bool refusing = true;
+};
+
+TEST_F(FocusTest, TabGoesRoundByWhatCanBeReached) {
+  show(form, [&] {
+    std::string walk = focus(form);
+    for (int i = 0; i < 4; ++i) {
+      key(Qt::Key_Tab);
+      walk += " " + focus(form);
+    }
+    EXPECT_EQ(walk, "box check one button box");
+    key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(focus(form), "button");
+  });
+}
+
+TEST_F(FocusTest, ARefusalKeepsTheFocusAndDropsTheClick) {
+  refuse(false);
+  show(form, [&] {
+    click(form.check);
+    EXPECT_EQ(focus(form), "box");
+    EXPECT_FALSE(form.check.isChecked());
+    EXPECT_FALSE(widgetAs<QAbstractButton>(form.check).isChecked());
+    key(Qt::Key_Tab);
+    EXPECT_EQ(focus(form), "box");
+    EXPECT_EQ(form.clicks, 0);
+  });
+}
+
+TEST_F(FocusTest, AMessageOnTheWayDeliversTheClickOnceAllTheSame) {
+  refuse(true);
+  refusing = false;
+  show(form, [&] {
+    whenBoxOpens([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    click(form.button);
+    EXPECT_EQ(focus(form), "button");
+    EXPECT_EQ(form.clicks, 1);
+    EXPECT_FALSE(widgetAs<QAbstractButton>(form.button).isDown());
+  });
+}
+
+TEST_F(FocusTest, ADisabledOrCoveredControlTakesNoClick) {
+  form.button.setEnabled(false);
+  form.frame.setEnabled(false);
+  show(form, [&] {
+    click(form.button);
+    click(form.three);
+    click(form.grey);
+    EXPECT_EQ(form.clicks, 0);
+    EXPECT_FALSE(form.three.isChosen());
+    EXPECT_EQ(focus(form), "box");
+  });
+}
+
+TEST_F(FocusTest, AcceleratorsAreTheForms) {
+  show(form, [&] {
+    key(Qt::Key_C, Qt::AltModifier);
+    EXPECT_TRUE(form.check.isChecked());
+    EXPECT_EQ(focus(form), "check");
+    key(Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(focus(form), "box");
+    key(Qt::Key_G, Qt::AltModifier);
+    EXPECT_EQ(form.clicks, 2);
+    key(Qt::Key_G, Qt::ControlModifier);
+    EXPECT_EQ(form.clicks, 2);
+  });
+}
+
+TEST_F(FocusTest, ArrowsChooseWithinAGroupAndPassWhatIsDisabled) {
+  show(form, [&] {
+    click(form.one);
+    key(Qt::Key_Down);
+    EXPECT_TRUE(form.three.isChosen());
+    EXPECT_EQ(focus(form), "three");
+    EXPECT_TRUE(widgetAs<QAbstractButton>(form.three).isChecked());
+    EXPECT_FALSE(widgetAs<QAbstractButton>(form.one).isChecked());
+    key(Qt::Key_Right);
+    EXPECT_TRUE(form.one.isChosen());
+  });
+}
+
+TEST_F(FocusTest, EnterAndEscapeAreTheDefaultAndTheCancelButton) {
+  std::string pressed;
+  form.button.setDefault(true);
+  forms::CommandButton cancel(form, "cancel", "Cancel");
+  cancel.setCancel(true);
+  form.button.click.connect([&] { pressed += "default "; });
+  cancel.click.connect([&] { pressed += "cancel "; });
+  refuse(false);
+  refusing = true;
+  show(form, [&] {
+    key(Qt::Key_Escape);
+    EXPECT_EQ(pressed, "cancel ");
+    EXPECT_TRUE(form.isVisible());
+    refusing = false;
+    form.box.setFocus();
+    settle();
+    key(Qt::Key_Return);
+    EXPECT_EQ(pressed, "cancel default ");
+  });
+}
+
+TEST_F(FocusTest, AControlThatIsDisabledForAMomentKeepsTheFocus) {
+  form.button.click.connect([&] {
+    form.button.setEnabled(false);
+    application.processEvents();
+    form.button.setEnabled(true);
+  });
+  show(form, [&] {
+    click(form.button);
+    EXPECT_EQ(focus(form), "button");
+  });
+}
+
+TEST_F(FocusTest, WhatTheProgramHidesLaterGivesTheFocusOn) {
+  show(form, [&] {
+    form.box.setVisible(false);
+    settle();
+    EXPECT_EQ(focus(form), "check");
+    EXPECT_FALSE(widget(form.box).isVisible());
+  });
+}
+
+TEST_F(FocusTest, TheButtonsOfTheMouseAreToldApart) {
+  std::string journal;
+  form.button.mouseDown.connect([&](forms::MouseButton button) {
+    journal += button == forms::MouseButton::left ? "left " : "right ";
+  });
+  form.button.click.connect([&] { journal += "click "; });
+  show(form, [&] {
+    QTest::mouseClick(&widget(form.button), Qt::RightButton);
+    EXPECT_EQ(focus(form), "box");
+    click(form.button);
+    EXPECT_EQ(journal, "right left click ");
+  });
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,141 @@
+#include <QtGui/QClipboard>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+
+#include "forms/TextBox.h"
+#include "tests/qt/Screen.h"
+
+namespace tests {
+namespace {
+
+struct Form : forms::Form {
+  Form() : forms::Form("form") {
+    setCaption("Typing");
+    box.setBounds({0, 0, 3000, 315});
+    other.setBounds({0, 500, 3000, 315});
+    box.change.connect([this] { ++changes; });
+  }
+  forms::TextBox box{*this, "box"};
+  forms::TextBox other{*this, "other"};
+  int changes = 0;
+};
+
+class TypingTest : public Screen {
+ protected:
+  QLineEdit& edit() { return widgetAs<QLineEdit>(form.box); }
+  Form form;
+};
+
+TEST_F(TypingTest, CharactersGoThroughTheFilterOneByOne) {
+  form.box.keyPress.connect([](forms::KeyPress& press) {
+    if (press.character == U'\\') press.character = 0;
+  });
+  show(form, [&] {
+    type("a\\b");
+    EXPECT_EQ(form.box.text(), "ab");
+    EXPECT_EQ(edit().text(), "ab");
+    EXPECT_EQ(edit().cursorPosition(), 2);
+    EXPECT_EQ(form.changes, 2);
+  });
+}
+
+TEST_F(TypingTest, MaximumLengthCountsCodePointsAndHoldsForPastingToo) {
+  form.box.setMaxLength(4);
+  show(form, [&] {
+    QApplication::clipboard()->setText(QStringLiteral("\U0001D11E\U0001D11E56789"));
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.box.text(), "\U0001D11E\U0001D11E56");
+    EXPECT_EQ(edit().text().toStdString(), form.box.text());
+    EXPECT_EQ(edit().cursorPosition(), 6);
+    type("x");
+    EXPECT_EQ(form.box.text(), "\U0001D11E\U0001D11E56");
+  });
+}
+
+TEST_F(TypingTest, CaretAndSelectionAreTheSameOnBothSides) {
+  form.box.setText("\U0001D11Eabc");
+  show(form, [&] {
+    key(Qt::Key_End);
+    EXPECT_EQ(form.box.selectionStart(), 4);
+    key(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(form.box.selectionStart(), 3);
+    EXPECT_EQ(form.box.selectionLength(), 1);
+    type("X");
+    EXPECT_EQ(form.box.text(), "\U0001D11EabX");
+    form.box.select(1, 2);
+    settle();
+    EXPECT_EQ(edit().selectedText(), QStringLiteral("ab"));
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(form.box.text(), "\U0001D11EX");
+    EXPECT_EQ(edit().cursorPosition(), 2);
+  });
+}
+
+TEST_F(TypingTest, AChangeHandlerThatPutsTheOldTextBackWins) {
+  form.box.setText("ab");
+  form.box.change.connect([&] {
+    const std::int32_t caret = form.box.selectionStart();
+    if (form.box.text().find('1') == std::string::npos) return;
+    form.box.setText("ab");
+    form.box.select(caret - 1, 0);
+  });
+  show(form, [&] {
+    key(Qt::Key_Right);
+    type("1");
+    EXPECT_EQ(edit().text(), "ab");
+    EXPECT_EQ(edit().cursorPosition(), 1);
+  });
+}
+
+TEST_F(TypingTest, UndoReachesTheFormAndAWordIsErasedAtOnce) {
+  show(form, [&] {
+    type("one two");
+    key(Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_EQ(form.box.text(), "one ");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(form.box.text(), "one two");
+    EXPECT_EQ(edit().text(), "one two");
+  });
+}
+
+TEST_F(TypingTest, WhatAnInputMethodComposesIsTyped) {
+  form.box.setMaxLength(3);
+  show(form, [&] {
+    QInputMethodEvent composing(QStringLiteral("´"), {});
+    QCoreApplication::sendEvent(&edit(), &composing);
+    EXPECT_EQ(form.box.text(), "");
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("éàôü"));
+    QCoreApplication::sendEvent(&edit(), &composed);
+    EXPECT_EQ(form.box.text(), "éàô");
+    EXPECT_EQ(edit().text(), QStringLiteral("éàô"));
+  });
+}
+
+TEST_F(TypingTest, AReadOnlyBoxTakesNothingButLetsCopy) {
+  form.box.setText("fixed");
+  form.box.setReadOnly(true);
+  show(form, [&] {
+    type("x");
+    key(Qt::Key_Delete);
+    key(Qt::Key_A, Qt::ControlModifier);
+    key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(form.box.text(), "fixed");
+    EXPECT_EQ(QApplication::clipboard()->text(), "fixed");
+  });
+}
+
+TEST_F(TypingTest, ATextOfTheProgramIsShownWholeOverTheMaximum) {
+  form.box.setMaxLength(2);
+  show(form, [&] {
+    form.box.setText("longer");
+    settle();
+    EXPECT_EQ(edit().text(), "longer");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(form.box.text(), "longer");
+  });
+}
+
+}  // namespace
+}  // namespace tests

@@ -14,7 +14,6 @@ constexpr forms::Twips lStepHeight = 390;
 ctlSteps::ctlSteps(forms::Container& container, std::string strName)
     : UserControl(container, std::move(strName)) {
   setAccessibleName("Steps");
-  setBackColor(forms::colors::windowBackground);
   m_fntSelected.bold = true;
   resized.connect([this] { LayOut(); });
 }
@@ -30,7 +29,6 @@ void ctlSteps::EnsureStep(std::int16_t iStep) {
         std::make_unique<forms::CommandButton>(*this, "cmdStep(" + std::to_string(i) + ")"));
     forms::CommandButton& cmdNew = *cmdStep.back();
     cmdNew.setFlat(true);
-    cmdNew.setBackColor(backColor());
     cmdNew.click.connect([this, i] {
       std::int16_t iClicked = i;
       OnStepClicked.raise(iClicked);

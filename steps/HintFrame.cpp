@@ -15,9 +15,15 @@ HintFrame::HintFrame(forms::Container& container, const std::string& strText)
 }
 
 forms::Piece HintFrame::Place() {
-  constexpr forms::Size sizeOfSign{480, 480};
-  return forms::box(frameInfo,
-                    {forms::row({forms::item(ctlImage, sizeOfSign), forms::rest(lblInfo)})});
+  using namespace forms;
+  constexpr Size sizeOfSign{480, 480};
+  constexpr Twips lMargin = 30;
+  return box(frameInfo,
+             {
+                 gap(lMargin),
+                 row({gap(lMargin), item(ctlImage, sizeOfSign), rest(lblInfo), gap(lMargin)}),
+                 gap(lMargin),
+             });
 }
 
 void HintFrame::PlaceBorder() {

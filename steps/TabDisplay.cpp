@@ -269,7 +269,7 @@ void TabDisplay::LayOut() {
                          item(ctlImageDisplay, sizeOfPicture),
                          either({
                              columns({
-                                 {item(lblDescriptionTag), rest(lblDescription, 390)},
+                                 {item(lblDescriptionTag), rest(lblDescription, 780)},
                                  {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
                              }),
                              frameInfo.Place(),

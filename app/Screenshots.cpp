@@ -74,7 +74,7 @@ class Walk {
       : user_(application), desktop_(desktop) {
     desktop_.act("frmAddIn", [this](forms::Form& wizard) { go(wizard); });
     desktop_.act("DeviceDialog", [this](forms::Form& dialog) { choose(dialog); });
-    desktop_.act("DevicePropertiesDialog",
+    desktop_.act("DeviceProperties",
                  [this](forms::Form& dialog) { desktop_.draw(dialog, "device-properties"); });
     desktop_.act("frmPreview", [this](forms::Form& form) { desktop_.draw(form, preview_); });
   }

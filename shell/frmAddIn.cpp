@@ -79,7 +79,8 @@ void frmAddIn::LoadSteps() {
 
   ctlSteps.put_StepCount(static_cast<std::int16_t>(m_colSteps.size() - 2));
   for (std::size_t i = 0; i < m_colSteps.size(); ++i) {
-    ctlSteps.SetStepText(Tab(static_cast<std::int16_t>(i)).iTab_GetTabName(), static_cast<std::int16_t>(i));
+    ctlSteps.SetStepText(Tab(static_cast<std::int16_t>(i)).iTab_GetTabName(),
+                         static_cast<std::int16_t>(i));
   }
   ctlSteps.setVisible(true);
   setHelpContext(Tab(0).iTab_GetHelpContextID());

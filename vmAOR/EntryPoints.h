@@ -18,7 +18,8 @@ bool DllUnregisterServer();
 /// outside. False, with `object` empty, for any other name.
 bool DllGetClassObject(const char* className, std::shared_ptr<forms::Object>& object);
 
-/// Whether none of the component's objects lives. A host unregisters the component before it unloads it.
+/// Whether none of the component's objects lives. A host unregisters the component before it
+/// unloads it.
 bool DllCanUnloadNow();
 
 }  // extern "C"

@@ -8,10 +8,14 @@ namespace {
 using tests::Wizard;
 
 constexpr const char* freshBlock =
-    "Volume Knob Control=0d;Mic Mode Control=0d;Mute on Digital Input 3 contact=False;Always use the 3 OL "
-    "receiver=False;Second Power Off command Send=False;Second Power Off command Name=;Second Power Off command "
-    "Time=0;Power Relay Power On Delay=0;Power Relay Power Off Delay=120;Power On Lockout Time=30;Power Off Lockout "
-    "Time=120;Contact Closure Option=-1;Power On Pulse Time 0=0;Power On Pulse Time 1=0;Power Off Pulse Time "
+    "Volume Knob Control=0d;Mic Mode Control=0d;Mute on Digital Input 3 contact=False;Always use "
+    "the 3 OL "
+    "receiver=False;Second Power Off command Send=False;Second Power Off command Name=;Second "
+    "Power Off command "
+    "Time=0;Power Relay Power On Delay=0;Power Relay Power Off Delay=120;Power On Lockout "
+    "Time=30;Power Off Lockout "
+    "Time=120;Contact Closure Option=-1;Power On Pulse Time 0=0;Power On Pulse Time 1=0;Power Off "
+    "Pulse Time "
     "0=0;Power Off Pulse Time 1=0;Fenlet Password=mossgate;Motion Sensor Timeout=0;";
 
 void givenBlock(Wizard& wizard, const std::string& block) {

@@ -15,7 +15,8 @@ std::vector<std::string>* journal = nullptr;
 
 void note(const std::string& call) { journal->push_back(call); }
 
-/// A step that notes what is called on it. "refusing" refuses to be left; "plain" has no members by name.
+/// A step that notes what is called on it. "refusing" refuses to be left; "plain" has no members by
+/// name.
 class ProbeStep : public forms::UserControl, public host::iTab {
  public:
   ProbeStep(forms::Container& container, const std::string& name, std::string sort)
@@ -120,7 +121,8 @@ TEST_F(TabWizardTest, AddingLaterStepsTellsTheParent) {
 }
 
 TEST_F(TabWizardTest, StepThatCannotBeAddedIsToldAndLeftOut) {
-  desktop.expectMessage("", "Can't create \"test.unknown\": no component is registered under this id.",
+  desktop.expectMessage("",
+                        "Can't create \"test.unknown\": no component is registered under this id.",
                         forms::Buttons::ok, forms::Icon::critical);
   EXPECT_EQ(tabs.AddTab("test.unknown", "ctl0"), nullptr);
 

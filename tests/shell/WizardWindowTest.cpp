@@ -19,7 +19,8 @@ constexpr const char* saveQuestion = "Do you wish to save the changes you made t
 constexpr const char* exitQuestion = "Are you sure you want to exit the Orlena wizard?";
 
 void expectSaveQuestion(Wizard& wizard, Answer answer) {
-  wizard.desktop.expectMessage("Orlena", saveQuestion, Buttons::yesNoCancel, Icon::question, answer);
+  wizard.desktop.expectMessage("Orlena", saveQuestion, Buttons::yesNoCancel, Icon::question,
+                               answer);
 }
 
 void replaceInFile(const std::filesystem::path& file, const std::string& what,
@@ -72,10 +73,12 @@ TEST(WizardWindow, FinishGoesToTheLastStepFirstAndThenAsks) {
   wizard.run([&] {
     wizard.clickInWindow("cmdFinish");
     EXPECT_EQ(wizard.currentStep(), "Finish");
-    wizard.desktop.expectMessage("Orlena", exitQuestion, Buttons::yesNo, Icon::question, Answer::no);
+    wizard.desktop.expectMessage("Orlena", exitQuestion, Buttons::yesNo, Icon::question,
+                                 Answer::no);
     wizard.clickInWindow("cmdFinish");
     EXPECT_TRUE(wizard.window().isVisible());
-    wizard.desktop.expectMessage("Orlena", exitQuestion, Buttons::yesNo, Icon::question, Answer::yes);
+    wizard.desktop.expectMessage("Orlena", exitQuestion, Buttons::yesNo, Icon::question,
+                                 Answer::yes);
     wizard.clickInWindow("cmdFinish");
     EXPECT_FALSE(wizard.window().isVisible());
   });
@@ -165,12 +168,13 @@ TEST(WizardWindow, ForeignSystemGivesItsMessageAndANewSystem) {
     const std::string before = tests::fileText(folder.path() / "Foreign.tsy");
     Wizard wizard;
     wizard.givenOpenSystem(folder.path() / "Foreign.tsy");
-    wizard.desktop.expectMessage(
-        "Orlena",
-        "This file was last saved by the following application: \r\n" + word +
-            "\r\n\r\nTherefore it can not be opened in the Orlena.\r\n\r\nClick OK to continue with "
-            "a new Orlena System.",
-        Buttons::ok, Icon::critical);
+    wizard.desktop.expectMessage("Orlena",
+                                 "This file was last saved by the following application: \r\n" +
+                                     word +
+                                     "\r\n\r\nTherefore it can not be opened in the "
+                                     "Orlena.\r\n\r\nClick OK to continue with "
+                                     "a new Orlena System.",
+                                 Buttons::ok, Icon::critical);
     wizard.run([&] { EXPECT_EQ(wizard.document().get_Name(), "My Orlena System"); });
     EXPECT_EQ(tests::fileText(folder.path() / "Foreign.tsy"), before);
   }

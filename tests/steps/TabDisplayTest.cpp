@@ -68,7 +68,8 @@ TEST_F(TabDisplayTest, ChosenDeviceShowsItsCommands) {
 TEST_F(TabDisplayTest, CancelledDialogLeavesAllAsItWas) {
   run([&] {
     const auto cancel = [&] {
-      wizard.desktop.whenShown("DeviceDialog", [&](forms::Form& dialog) { wizard.user.close(dialog); });
+      wizard.desktop.whenShown("DeviceDialog",
+                               [&](forms::Form& dialog) { wizard.user.close(dialog); });
       wizard.click("cmdChoose");
     };
     cancel();

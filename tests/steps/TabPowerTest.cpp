@@ -20,7 +20,8 @@ constexpr const char* toggleWarning =
     "Since this normally is not a discrete command verify it is discrete before assigning it here.";
 constexpr const char* identicalWarning =
     "You have selected identical commands for power on and power off.\r\n\r\n"
-    "Since these are not discrete commands this device will get out of sync with the other devices.\r\n\r\n"
+    "Since these are not discrete commands this device will get out of sync with the other "
+    "devices.\r\n\r\n"
     "Please choose discrete power commands to continue or select another power control method.";
 
 class TabPowerTest : public testing::Test {

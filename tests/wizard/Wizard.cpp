@@ -126,8 +126,8 @@ void Wizard::chooseDisplay(const std::string& device) {
 }
 
 void Wizard::selectCommand(const std::string& selector, const std::string& command) {
-  auto& list =
-      dynamic_cast<forms::DropDownList&>(control<forms::UserControl>(selector).control("cboCommands"));
+  auto& list = dynamic_cast<forms::DropDownList&>(
+      control<forms::UserControl>(selector).control("cboCommands"));
   user.select(list, command.empty() ? 0 : list.find(command));
 }
 

@@ -26,8 +26,8 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-/// The whole wizard over a host of its own, as it is before the host runs it: the add-in is created and loaded. Systems
-/// go to an empty folder.
+/// The whole wizard over a host of its own, as it is before the host runs it: the add-in is created
+/// and loaded. Systems go to an empty folder.
 ///
 ///     Wizard wizard;
 ///     wizard.run([&] {
@@ -42,8 +42,8 @@ class Wizard {
   /// Opens a system in the host and has the wizard work on it.
   void givenOpenSystem(const std::filesystem::path& file);
 
-  /// Runs the wizard; the script runs when its window is shown. A window that the script leaves open is closed without
-  /// saving.
+  /// Runs the wizard; the script runs when its window is shown. A window that the script leaves
+  /// open is closed without saving.
   void run(const std::function<void()>& script);
 
   forms::Form& window() const { return *window_; }

@@ -31,9 +31,7 @@ class ArrowMeanwhile {
 }  // namespace
 
 struct QtDesktop::Parts {
-  Parts(int count, char** values) : arguments(values, values + count), argc(count) {
-    arguments.push_back(nullptr);
-  }
+  Parts(int count, char** values) : arguments(values, values + count + 1), argc(count) {}
 
   /// Runs what stands over everything else for a while.
   template <typename Question>
@@ -44,7 +42,7 @@ struct QtDesktop::Parts {
     return question(session.top());
   }
 
-  std::vector<char*> arguments;
+  std::vector<char*> arguments;  // Qt reads them as long as it runs; the last one is null
   int argc;
   QApplication application{argc, arguments.data()};
   Session session;

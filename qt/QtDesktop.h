@@ -46,6 +46,7 @@ class QtDesktop : public forms::Desktop {
   std::unique_ptr<Parts> parts_;
 };
 
+/// The arguments are those of `main`, with a null behind the last one.
 std::unique_ptr<QtDesktop> makeDesktop(int argc, char** argv);
 
 }  // namespace qt

@@ -192,6 +192,7 @@ void ShownForm::forget(const forms::Control& control) {
   for (const auto& [other, adapter] : adapters_) {
     if (adapter->widget()->parentWidget() == gone_.back()->contents()) {
       adapter->widget()->setParent(&window_);
+      note(*adapter);
     }
   }
   widget->hide();

@@ -35,7 +35,7 @@ class Pages : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    if (pos().y() < 0) return;
+    if (mapTo(window(), QPoint()).y() < 0) return;
     QPainter painter(this);
     drawBorder(painter, rect().adjusted(0, headerHeight_ - 1, 0, 0),
                palette().color(QPalette::Mid));

@@ -21,15 +21,18 @@ TEST(AnswersForm, takesEveryKeyAtItsLimits) {
   EXPECT_EQ(refusalOf("{}"), "taken");
   EXPECT_EQ(refusalOf(R"({
     "name": "12345678901234567890123456789012345678901234567890", "folder": "rooms",
-    "display": {"device": "D", "rgb": "", "composite": "V", "relay": {"on_delay": 0, "off_delay": 999}},
+    "display": {"device": "D", "rgb": "", "composite": "V",
+                "relay": {"on_delay": 0, "off_delay": 999}},
     "audio": {"volume_knob": "master", "microphone": "when on", "mute_on_input_3": true},
-    "power": {"control": "discrete", "on": "", "off": "Off", "second_off": {"command": "Off", "delay": 999}},
+    "power": {"control": "discrete", "on": "", "off": "Off",
+              "second_off": {"command": "Off", "delay": 999}},
     "lockout": {"on": 0, "off": 999, "contact": "power off"},
     "screen": {"device": "S", "on": "Down", "off": "Up", "on_pulse": 655, "off_pulse": 0},
     "lift": {"device": "L"},
     "transmitters": [{"type": "A"}, {"type": "B", "label": "äöüß5678"}, {"type": "C"}],
     "three_input_receiver": false,
-    "room": {"kestrum": true, "fenlet": true, "occupancy": true, "fenlet_password": " p ", "power_off_after": 546}
+    "room": {"kestrum": true, "fenlet": true, "occupancy": true, "fenlet_password": " p ",
+             "power_off_after": 546}
   })"),
             "taken");
   EXPECT_EQ(refusalOf(R"({"display": {"relay": {}}, "power": {"second_off": {}}})"), "taken");

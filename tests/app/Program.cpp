@@ -66,6 +66,9 @@ void Program::start(const std::vector<std::string>& arguments) {
   redirect(streams_ / "output", STDOUT_FILENO);
   redirect(streams_ / "errors", STDERR_FILENO);
   setenv("TRELLISAR_SYSTEMS", (folder_ / "systems").c_str(), 1);
+  setenv("XDG_CONFIG_HOME", streams_.path().c_str(), 1);
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) unsetenv(name);
+  if (!platform_.empty()) setenv("QT_QPA_PLATFORM", platform_.c_str(), 1);
   if (chdir(folder_.path().c_str()) == 0) execv(pointers[0], pointers.data());
   _exit(127);
 }

@@ -47,6 +47,9 @@ class Program {
  public:
   explicit Program(const TemporaryFolder& folder) : folder_(folder) {}
 
+  /// The platform that windows are drawn on; without one there is no display.
+  void setPlatform(const std::string& platform) { platform_ = platform; }
+
   Outcome run(const std::vector<std::string>& arguments);
 
   /// Starts it; `wait` then answers what it left. `wait` also where it was killed.
@@ -57,6 +60,7 @@ class Program {
  private:
   const TemporaryFolder& folder_;
   TemporaryFolder streams_;
+  std::string platform_;
   pid_t processId_ = 0;
 };
 

@@ -185,15 +185,37 @@ TEST_F(WindowTest, ControlsComeGoAndMoveWhileTheFormIsShown) {
   forms::unregister("test.Selector");
 }
 
-TEST_F(WindowTest, AButtonMayEndItselfInItsOwnClick) {
-  auto button = std::make_unique<forms::CommandButton>(form, "short", "Short");
-  button->setBounds({2000, 2200, 1500, 375});
-  button->click.connect([&] { button.reset(); });
+TEST_F(WindowTest, AClickMayEndWhatHadTheFocus) {
+  auto frame = std::make_unique<forms::Frame>(form, "short", "Short");
+  auto box = std::make_unique<forms::TextBox>(*frame, "inner");
+  frame->setBounds({2000, 2200, 2000, 900});
+  box->setBounds({100, 300, 1000, 315});
+  form.button.click.connect([&] {
+    box.reset();
+    frame.reset();
+  });
   show(form, [&] {
-    click(*button);
+    box->setFocus();
     settle();
-    EXPECT_FALSE(button);
+    type("x");
+    click(form.button);
     EXPECT_FALSE(isSeen("short"));
+    EXPECT_EQ(focus(form), "button");
+  });
+}
+
+TEST_F(WindowTest, WhatAFrameHeldStaysWhenTheFrameGoes) {
+  auto frame = std::make_unique<forms::Frame>(form, "short", "Short");
+  forms::TextBox box(*frame, "inner");
+  box.setBounds({2000, 2200, 1000, 315});
+  show(form, [&] {
+    frame.reset();
+    settle();
+    EXPECT_TRUE(isSeen("inner"));
+    EXPECT_EQ(widget(box).parentWidget(), &window(form));
+    click(box);
+    type("x");
+    EXPECT_EQ(box.text(), "x");
   });
 }
 
@@ -256,6 +278,10 @@ TEST_F(WindowTest, F1ShowsTheTopicOfWhatHasTheFocus) {
     desktop().closeAllHelp();
   });
   std::filesystem::remove_all(folder);
+}
+
+TEST_F(WindowTest, TheProgramsArgumentsOutliveTheCall) {
+  EXPECT_EQ(QCoreApplication::arguments(), QStringList{"test"});
 }
 
 TEST_F(WindowTest, TasksForLaterRunAfterWhatRunsNow) {

@@ -1,0 +1,47 @@
+#include <gtest/gtest.h>
+
+#include "tests/app/Program.h"
+
+namespace app {
+namespace {
+
+TEST(OrlenaWindow, withoutADisplayIsRefusedWithTheWayAround) {
+  const TemporaryFolder folder;
+  Program program(folder);
+  for (const auto& arguments : {std::vector<std::string>{}, {"wizard"}, {"wizard", "Hall.tsy"}}) {
+    const Outcome outcome = program.run(arguments);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_NE(outcome.errors.find("\"orlena build\" works without one"), std::string::npos)
+        << outcome.errors;
+  }
+}
+
+#ifdef ORLENA_QT
+
+TEST(OrlenaWindow, onASystemThatIsNotThereDoesNotOpen) {
+  const TemporaryFolder folder;
+  Program program(folder);
+  program.setPlatform("offscreen");
+  const Outcome outcome = program.run({"wizard", "Hall.tsy"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_NE(outcome.errors.find("\"Hall.tsy\""), std::string::npos) << outcome.errors;
+}
+
+TEST(OrlenaWindow, isDrawnOnEveryStep) {
+  const TemporaryFolder folder;
+  Program program(folder);
+  const Outcome outcome = program.run({"screenshots", "--out", "pictures"});
+  EXPECT_EQ(outcome.status, 0) << outcome.errors;
+  int drawn = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder / "pictures")) {
+    EXPECT_EQ(readWhole(entry.path()).substr(1, 3), "PNG") << entry.path();
+    ++drawn;
+  }
+  EXPECT_GE(drawn, 10);
+  EXPECT_FALSE(std::filesystem::exists(folder / "systems"));
+}
+
+#endif
+
+}  // namespace
+}  // namespace app

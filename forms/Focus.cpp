@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/Form.h"
+#include "forms/TextBox.h"
 #include "forms/UserControl.h"
 
 namespace forms {
@@ -29,6 +30,13 @@ void collectStops(const Container& container, Control* kept, std::vector<Control
       stops.push_back(kept);
     }
   }
+}
+
+/// A box that Tab comes to is selected, so that it is typed over.
+bool moveByTab(Focus& focus, Control* target) {
+  if (!target || !focus.moveByUser(*target)) return false;
+  if (auto* box = dynamic_cast<TextBox*>(target)) box->selectAll();
+  return true;
 }
 
 }  // namespace
@@ -69,15 +77,9 @@ void Focus::moveByProgram(Control& target) {
   enter(*innermost, left);
 }
 
-bool Focus::moveToNext() {
-  Control* next = stopFrom(control(), true);
-  return next && moveByUser(*next);
-}
+bool Focus::moveToNext() { return moveByTab(*this, stopFrom(control(), true)); }
 
-bool Focus::moveToPrevious() {
-  Control* previous = stopFrom(control(), false);
-  return previous && moveByUser(*previous);
-}
+bool Focus::moveToPrevious() { return moveByTab(*this, stopFrom(control(), false)); }
 
 void Focus::endEditing() {
   if (Control* current = control()) current->endEditing();

@@ -66,7 +66,8 @@ void User::check(const Control& control) const {
   }
 }
 
-/// A dialog that the act closed leaves the form below it to the act that opened the dialog.
+/// An act may end the control that it was on, so that its form is looked up before. A dialog that
+/// the act closed leaves the form below it to the act that opened the dialog.
 void User::settle(Form* form) {
   if (form && form == application_.activeForm()) form->focus().settle();
 }
@@ -91,26 +92,29 @@ void User::deliverClick(Control& control) {
 }
 
 void User::click(Control& control) {
+  Form* form = control.form();
   if (reach(control)) {
     if (auto* button = dynamic_cast<CommandButton*>(&control)) {
       button->mouseDown.raise(MouseButton::left);
     }
     deliverClick(control);
   }
-  settle(control.form());
+  settle(form);
 }
 
 void User::press(CommandButton& button, MouseButton mouseButton) {
+  Form* form = button.form();
   if (mouseButton == MouseButton::left) return click(button);
   check(button);
   button.mouseDown.raise(mouseButton);
-  settle(button.form());
+  settle(form);
 }
 
 bool User::moveFocus(Control& control) {
+  Form* form = control.form();
   check(control);
   const bool moved = control.form()->focus().moveByUser(control);
-  settle(control.form());
+  settle(form);
   return moved;
 }
 
@@ -119,23 +123,26 @@ void User::tab() { press(keys::tab); }
 void User::shiftTab() { press(keys::tab, shiftKey); }
 
 void User::type(TextBox& box, const std::string& text) {
+  Form* form = box.form();
   if (!reach(box)) return;
   for (const char32_t character : toCodePoints(text)) {
     if (box.hasFocus()) box.userType(character);
   }
-  settle(box.form());
+  settle(form);
 }
 
 void User::replaceText(TextBox& box, const std::string& text) {
+  Form* form = box.form();
   if (!reach(box)) return;
   box.selectAll();
   box.userInsert(text);
-  settle(box.form());
+  settle(form);
 }
 
 void User::edit(TextBox& box, const std::string& text, std::int32_t caret) {
+  Form* form = box.form();
   if (reach(box)) box.userEdit(text, caret);
-  settle(box.form());
+  settle(form);
 }
 
 void User::press(std::int16_t code, std::int16_t shift) {
@@ -190,31 +197,37 @@ bool User::pressAccelerator(char32_t letter) {
 }
 
 void User::select(ListBox& list, std::int32_t place) {
+  Form* form = list.form();
   if (reach(list)) list.userSelect(place);
-  settle(list.form());
+  settle(form);
 }
 
 void User::doubleClick(ListBox& list, std::int32_t place) {
+  Form* form = list.form();
   if (reach(list)) list.userDoubleClick(place);
-  settle(list.form());
+  settle(form);
 }
 
 void User::select(DropDownList& list, std::int32_t place) {
+  Form* form = list.form();
   if (reach(list)) list.userSelect(place);
-  settle(list.form());
+  settle(form);
 }
 
 void User::select(ListView& list, std::int32_t row) {
+  Form* form = list.form();
   if (reach(list)) list.userSelect(row);
-  settle(list.form());
+  settle(form);
 }
 
 void User::doubleClick(ListView& list, std::int32_t row) {
+  Form* form = list.form();
   if (reach(list)) list.userDoubleClick(row);
-  settle(list.form());
+  settle(form);
 }
 
 void User::editLabel(ListView& list, std::int32_t row, const std::string& text) {
+  Form* form = list.form();
   if (!list.isLabelEditable())
     throw Refused("The labels of \"" + list.name() + "\" can't be edited.");
   if (!reach(list)) return;
@@ -222,17 +235,19 @@ void User::editLabel(ListView& list, std::int32_t row, const std::string& text) 
   list.startLabelEdit();
   list.userEditLabel(text);
   list.userEndLabelEdit(true);
-  settle(list.form());
+  settle(form);
 }
 
 void User::labelText(ListView& list, const std::string& text) { list.userEditLabel(text); }
 
 void User::endLabelEdit(ListView& list, bool accept) {
+  Form* form = list.form();
   list.userEndLabelEdit(accept);
-  settle(list.form());
+  settle(form);
 }
 
 void User::select(TabStrip& strip, std::int16_t page) {
+  Form* form = strip.form();
   if (!hasHeadersInSight(strip)) {
     throw Refused("The headers of \"" + strip.name() + "\" are out of sight.");
   }
@@ -240,10 +255,11 @@ void User::select(TabStrip& strip, std::int16_t page) {
     throw Refused("\"" + strip.name() + "\" shows no page " + std::to_string(page) + ".");
   }
   if (reach(strip)) strip.setCurrentPage(page);
-  settle(strip.form());
+  settle(form);
 }
 
 void User::choose(ToolBar& toolBar, const std::string& tag) {
+  Form* form = toolBar.form();
   const auto& menu = toolBar.menu();
   const auto entry = std::find_if(menu.begin(), menu.end(), [&](const MenuEntry& candidate) {
     return candidate.tag == tag && candidate.enabled;
@@ -252,7 +268,7 @@ void User::choose(ToolBar& toolBar, const std::string& tag) {
     throw Refused("\"" + toolBar.name() + "\" has no entry \"" + tag + "\".");
   }
   if (reach(toolBar)) toolBar.userChoose(tag);
-  settle(toolBar.form());
+  settle(form);
 }
 
 bool User::close(Form& form) {

@@ -92,7 +92,8 @@ void IAddIn::AddKestrum() {
   HideDevice(m_iKestrumID);
 }
 
-/// The motion detector never outlives the monitoring interface.
+/// The motion detector never outlives the monitoring interface. The id is not tested and a failure,
+/// which is shown, does not end the operation: the interface counts as gone in every case.
 void IAddIn::RemoveKestrum() {
   RemoveDevice(m_iKestrumID);
   RemoveOccupancySensor();
@@ -109,7 +110,7 @@ void IAddIn::AddOccupancySensor() {
 
 void IAddIn::RemoveOccupancySensor() {
   if (m_iOccupancySensorID == 0 || !RemoveDevice(m_iOccupancySensorID)) return;
-  AddDigitalInput(iOccupancyInput);
+  AddDigitalInput(iOccupancyInput);  // a failure is shown there; the detector is gone all the same
   m_iOccupancySensorID = 0;
 }
 

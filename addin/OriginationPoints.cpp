@@ -18,7 +18,7 @@ std::int16_t PortOf(const std::string& strName) {
 }  // namespace
 
 std::vector<std::shared_ptr<host::LibraryDevice>> IAddIn::GetLibraryOriginationPoints() const {
-  std::string strError;
+  std::string strError;  // not looked at: a definition that can't be had offers nothing
   auto colTypes = gDocument().GetSlotDefinition(GetDeviceSlot(), strError)->get_LibraryDevices();
   std::erase_if(colTypes, [](const auto& oType) { return oType->get_Kind() != host::kindUsable; });
   return colTypes;

@@ -17,7 +17,7 @@ namespace generator {
 ///
 /// One object for each run. An operation answers whether it succeeded; a failure may leave its text
 /// in GetLastError, where it stays for the rest of the run. Steps of a preset count from 1. Power
-/// operations take one of addin::enumPowerDiscrete; whatever is not pdOff counts as pdOn.
+/// operations take one of addin::enumPowerDiscrete.
 class Generate : public addin::ProgramBuilder {
  public:
   /// Runs the sub-builders in their order; the first that fails ends the run.

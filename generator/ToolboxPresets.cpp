@@ -60,6 +60,7 @@ std::shared_ptr<host::Step> Generate::MakeConditionStep(const host::StepConditio
   const auto conditions = std::make_shared<host::StepConditionGroup>();
   conditions->Add(std::make_shared<host::StepCondition>(test));
   auto step = CreateStep();
+  // A step without a target is never refused.
   step->Init(host::stepConditional, host::targetNone, iReserved, 0, "");
   step->put_Conditions(conditions);
   return step;

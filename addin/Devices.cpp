@@ -6,15 +6,6 @@
 
 namespace addin {
 
-/// A device of the fixed cast, as the host adds it.
-struct IAddIn::FixedDevice {
-  std::int16_t iModelID;
-  std::int16_t iControlEntryID;
-  const char* strMaker;
-  const char* strModel;
-  bool bFlag5;
-};
-
 namespace {
 
 constexpr std::int16_t iOccupancyInput = 1;  // the motion detector takes over this digital input
@@ -48,17 +39,17 @@ void SetStandardCommand(host::Device& oDevice, std::int16_t iStandardID) {
 
 }  // namespace
 
-bool IAddIn::AddFixedDevice(const FixedDevice& device, const std::string& strName,
-                            std::int16_t& iDeviceID) {
+bool IAddIn::AddDevice(const LibraryEntry& entry, const std::string& strName,
+                       std::int16_t& iDeviceID) {
   host::AddDeviceArguments arguments;
   arguments.strName = strName;
   arguments.strParentName = ReceiverName();
-  arguments.iModelID = device.iModelID;
+  arguments.iModelID = entry.iModelID;
   arguments.iSlot = GetDeviceSlot();
-  arguments.bFlag5 = device.bFlag5;
-  arguments.strMaker = device.strMaker;
-  arguments.strModel = device.strModel;
-  arguments.iControlEntryID = device.iControlEntryID;
+  arguments.bFlag5 = entry.bFlag5;
+  arguments.strMaker = entry.strMaker;
+  arguments.strModel = entry.strModel;
+  arguments.iControlEntryID = entry.iControlEntryID;
   if (!gOwnerForm().AddDevice(arguments)) {
     ShowHostError(arguments.strError);
     return false;
@@ -74,8 +65,8 @@ bool IAddIn::RemoveDevice(std::int16_t iDeviceID) {
 }
 
 void IAddIn::AddPowerRelay() {
-  const FixedDevice relay{host::modelPowerRelay, host::entryPowerRelay, "", "", false};
-  if (AddFixedDevice(relay, "Power Relay", m_iPowerRelayID)) HideDevice(m_iPowerRelayID);
+  const LibraryEntry relay{host::modelPowerRelay, host::entryPowerRelay, "", "", false};
+  if (AddDevice(relay, "Power Relay", m_iPowerRelayID)) HideDevice(m_iPowerRelayID);
 }
 
 void IAddIn::RemovePowerRelay() {
@@ -83,8 +74,8 @@ void IAddIn::RemovePowerRelay() {
 }
 
 void IAddIn::AddKestrum() {
-  const FixedDevice kestrum{host::modelKestrum, host::entryKestrum, "Velmondo", "Kestrum", true};
-  if (!AddFixedDevice(kestrum, "Kestrum Interface", m_iKestrumID)) return;
+  const LibraryEntry kestrum{host::modelKestrum, host::entryKestrum, "Velmondo", "Kestrum", true};
+  if (!AddDevice(kestrum, "Kestrum Interface", m_iKestrumID)) return;
   const auto oDevice = gDocument().get_Devices()->Item(m_iKestrumID);
   if (oDevice->get_ID() > 0) {
     gOwnerForm().SetDeviceIPAddress(oDevice->get_DeviceHandle(), "127.0.0.1");
@@ -102,8 +93,8 @@ void IAddIn::RemoveKestrum() {
 
 void IAddIn::AddOccupancySensor() {
   if (!RemoveDigitalInput(iOccupancyInput)) return;
-  const FixedDevice detector{host::modelMotionDetector, host::entryMotionDetector, "", "", false};
-  if (AddFixedDevice(detector, "Motion Detector", m_iOccupancySensorID)) {
+  const LibraryEntry detector{host::modelMotionDetector, host::entryMotionDetector, "", "", false};
+  if (AddDevice(detector, "Motion Detector", m_iOccupancySensorID)) {
     HideDevice(m_iOccupancySensorID);
   }
 }
@@ -115,9 +106,9 @@ void IAddIn::RemoveOccupancySensor() {
 }
 
 bool IAddIn::AddDigitalInput(std::int16_t iInput) {
-  const FixedDevice input{host::modelDigitalInput, host::entryDigitalInput, "", "", false};
+  const LibraryEntry input{host::modelDigitalInput, host::entryDigitalInput, "", "", false};
   std::int16_t iDeviceID = 0;
-  if (!AddFixedDevice(input, InputName(iInput), iDeviceID)) return false;
+  if (!AddDevice(input, InputName(iInput), iDeviceID)) return false;
   HideDevice(iDeviceID);
   return true;
 }

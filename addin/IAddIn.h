@@ -176,11 +176,28 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   /// The host's device dialog; the answer is one of host::enumDeviceDialogResult or a device id.
   std::int16_t ShowAddReplaceDeviceDialog(host::DeviceDialogArguments& arguments);
 
+  // The transmitters at the receiver's ports, 1 to 3: OriginationPoints.cpp. Each is a device and
+  // a row of the bill of materials; what fails is shown and stops nothing.
   /// The usable transmitter types of the library, in its order.
   std::vector<std::shared_ptr<host::LibraryDevice>> GetLibraryOriginationPoints() const;
+  /// Puts a transmitter at a port, in the place of one of another type. One of the same type stays
+  /// and takes the label. `strName` is the type's name, a blank and the port ("OL1"), `iModelID` 0
+  /// lets the library choose the model by `iControlEntryID`. Only a device that the host refuses
+  /// leaves the port free.
+  void AddOriginationPoint(std::int16_t intIndex, const std::string& strName, std::int16_t iModelID,
+                           std::int16_t iControlEntryID, const std::string& strLabel);
+  /// The port is free afterwards, whatever fails.
+  void RemoveOriginationPoint(std::int16_t intIndex);
 
  private:
-  struct FixedDevice;
+  /// What the host adds: a device of the library under its fixed ids.
+  struct LibraryEntry {
+    std::int16_t iModelID;
+    std::int16_t iControlEntryID;
+    const char* strMaker;
+    const char* strModel;
+    bool bFlag5;
+  };
 
   void LoadImages(const forms::ImageList& clsListImagesSmall,
                   const forms::ImageList& clsListImagesLarge);
@@ -189,13 +206,16 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   /// What a new object and a document without a settings block have in common.
   void SetStoredDefaults();
   void FindOriginationPoints();
+  std::int16_t& OriginationPoint(std::int16_t intIndex);
+  void RelabelOriginationPoint(host::Device& oDevice, const std::string& strLabel);
+  void AddToBillOfMaterials(std::int16_t intIndex, const std::string& strName,
+                            const host::Device& oDevice);
   void ChooseNewSystemName();
   void ShowWarnings(const ErrorItems& colErrorItems) const;
 
   /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is
   /// what it was.
-  bool AddFixedDevice(const FixedDevice& device, const std::string& strName,
-                      std::int16_t& iDeviceID);
+  bool AddDevice(const LibraryEntry& entry, const std::string& strName, std::int16_t& iDeviceID);
   bool RemoveDevice(std::int16_t iDeviceID);
   void SetUpDisplay(std::int16_t iDeviceID);
   void SetUpPower(std::int16_t iDeviceID);

@@ -2,6 +2,8 @@
 
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "forms/Application.h"
+#include "forms/Numbers.h"
 #include "forms/Text.h"
 
 namespace addin {
@@ -15,6 +17,19 @@ std::int16_t PortOf(const std::string& strName) {
   return static_cast<std::int16_t>(strPort.front() - '0');
 }
 
+constexpr std::int32_t lPortLength = 4;  // " OL1", at the end of a transmitter's name
+
+void Warn(const std::string& strText) {
+  forms::Application::current().messageBox(strText, forms::Buttons::ok, forms::Icon::exclamation);
+}
+
+void WarnOfPort(const std::string& strWhat, std::int16_t intIndex, const std::string& strWhere) {
+  Warn("Error " + strWhat + " Orlena transmitter on port OL" + forms::decimal(intIndex) + " " +
+       strWhere + " Bill of Materials.");
+}
+
+host::BillOfMaterials& Bill() { return *gDocument().get_Reports()->get_BillOfMaterials(); }
+
 }  // namespace
 
 std::vector<std::shared_ptr<host::LibraryDevice>> IAddIn::GetLibraryOriginationPoints() const {
@@ -24,6 +39,64 @@ std::vector<std::shared_ptr<host::LibraryDevice>> IAddIn::GetLibraryOriginationP
   return colTypes;
 }
 
+void IAddIn::AddOriginationPoint(std::int16_t intIndex, const std::string& strName,
+                                 std::int16_t iModelID, std::int16_t iControlEntryID,
+                                 const std::string& strLabel) {
+  std::int16_t& iPortID = OriginationPoint(intIndex);
+  if (iPortID != 0) {
+    const auto oPresent = gDocument().get_Devices()->Item(iPortID);
+    if (oPresent->get_ID() > 0) {
+      if (oPresent->get_ControlEntryID() == iControlEntryID) {
+        return RelabelOriginationPoint(*oPresent, strLabel);
+      }
+      RemoveOriginationPoint(intIndex);
+    }
+  }
+  std::int16_t iDeviceID = 0;
+  const LibraryEntry transmitter{iModelID, iControlEntryID, "Velmondo", "", false};
+  if (!AddDevice(transmitter, strName, iDeviceID)) return;
+  const auto oDevice = gDocument().get_Devices()->Item(iDeviceID);
+  oDevice->put_Label(strLabel);
+  AddToBillOfMaterials(intIndex, strName, *oDevice);
+  iPortID = iDeviceID;  // also without a row in the bill
+  HideDevice(iDeviceID);
+}
+
+void IAddIn::RelabelOriginationPoint(host::Device& oDevice, const std::string& strLabel) {
+  if (oDevice.get_Label() == strLabel) return;
+  oDevice.put_Label(strLabel);
+  // The panel shows the labels.
+  if (const auto oFenlet = gDocument().get_Touchpanels()->ItemByID(m_iFenletID)) {
+    oFenlet->put_ProjectBuilt(false);
+  }
+}
+
+void IAddIn::AddToBillOfMaterials(std::int16_t intIndex, const std::string& strName,
+                                  const host::Device& oDevice) {
+  const auto colTypes = GetLibraryOriginationPoints();
+  const auto itType = std::find_if(colTypes.begin(), colTypes.end(), [&](const auto& oType) {
+    return oType->get_ControlEntryID() == oDevice.get_ControlEntryID();
+  });
+  const std::int32_t lPartID = itType == colTypes.end() ? 0 : (*itType)->get_PartID();
+  if (lPartID == 0) {
+    Warn("Unknown Orlena transmitter (" + forms::withoutLast(strName, lPortLength) +
+         ") will not be added to the Bill of Materials.");
+  } else if (!Bill().AddItem(oDevice.get_ModelID(), 0, lPartID, oDevice.get_ID())) {
+    WarnOfPort("adding", intIndex, "to");
+  }
+}
+
+void IAddIn::RemoveOriginationPoint(std::int16_t intIndex) {
+  std::int16_t& iPortID = OriginationPoint(intIndex);
+  RemoveDevice(iPortID);  // a failure is shown there
+  if (!Bill().RemoveItem(-std::int32_t{iPortID})) WarnOfPort("removing", intIndex, "from");
+  iPortID = 0;
+}
+
+std::int16_t& IAddIn::OriginationPoint(std::int16_t intIndex) {
+  return m_iOriginationPointID.at(static_cast<std::size_t>(intIndex - 1));
+}
+
 void IAddIn::FindOriginationPoints() {
   const auto colDevices = gDocument().get_Devices()->Items();
   for (const auto& oType : GetLibraryOriginationPoints()) {
@@ -31,7 +104,7 @@ void IAddIn::FindOriginationPoints() {
       const std::string strName = oDevice->get_Name();
       if (forms::withoutLast(strName, 1) != oType->get_Name() + " OL") continue;
       if (const std::int16_t iPort = PortOf(strName); iPort > 0) {
-        m_iOriginationPointID.at(static_cast<std::size_t>(iPort - 1)) = oDevice->get_ID();
+        OriginationPoint(iPort) = oDevice->get_ID();
       }
     }
   }

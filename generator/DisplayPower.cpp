@@ -8,9 +8,6 @@
 namespace generator {
 namespace {
 
-/// The digital input that a power sensor is wired to.
-constexpr std::int16_t iPowerSensorInput = 4;
-
 /// The receiver's entry in the bill of materials; nothing when there is none, and no part is listed
 /// then.
 std::shared_ptr<host::BillOfMaterialsEntry> FindReceiverBill() {
@@ -56,22 +53,10 @@ bool Generate::BuildDisplayPowerControl(std::int16_t ePowerOnOrOff) {
 
   // The sources are written also when the power steps failed.
   if (ePowerOnOrOff == addin::pdOn && settings.get_PowerOnLockoutTime() == 0 &&
-      !BuildPowerOnSwitching()) {
+      !BuildPowerOnSwitching(FindPreset(GetDisplayPowerPreset(addin::pdOn).sName))) {
     return false;
   }
   return bOK && BuildLinkSystemToDisplayPower(ePowerOnOrOff);
-}
-
-//  Display Power On, at its end: the display shows again what was selected.
-//    if (RGB_Selected)               RGB command      display   0.1 s
-//    if (Composite_Video_Selected)   video command    display   0.1 s
-bool Generate::BuildPowerOnSwitching() {
-  const auto preset = FindPreset(GetDisplayPowerPreset(addin::pdOn).sName);
-  const auto build = [&preset](std::int16_t iStandardCommand) {
-    return BuildPowerOnSwitchingCommand(preset, GetSourceCommandName(iStandardCommand),
-                                        GetSourceFeedbackSignal(iStandardCommand));
-  };
-  return build(host::scRGB1) && build(host::scVideo1);
 }
 
 //  Display Power On                       Display Power Off

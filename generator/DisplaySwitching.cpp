@@ -1,6 +1,7 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "generator/Generate.h"
+#include "generator/Names.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -35,6 +36,45 @@ std::shared_ptr<host::Preset> FindEarlierBranch(const host::Preset& preset,
 
 }  // namespace
 
+bool Generate::BuildDisplayDeviceSwitching() {
+  // A source that can't be written is left without its steps; the run goes on.
+  static_cast<void>(BuildDisplayDeviceSwitchingCommand(host::scVideo1));
+  static_cast<void>(BuildDisplayDeviceSwitchingCommand(host::scRGB1));
+  return true;
+}
+
+//  The receiver's feedback signal goes high
+//    Send_Log_Item            Kestrum
+//    source command           display   0.1 s
+bool Generate::BuildDisplayDeviceSwitchingCommand(std::int16_t iStandardCommand) {
+  const addin::IAddIn& settings = addin::gAddIn();
+  const auto signal =
+      FindOutput(settings.get_ReceiverID(), GetSourceFeedbackSignal(iStandardCommand));
+  if (!signal) return false;
+  const std::string sCommand = GetSourceCommandName(iStandardCommand);
+  const auto preset = EventPreset(*signal, host::eventHigh);
+  preset->ClearSteps();
+  if (!sCommand.empty() &&
+      !AddCommandToEvent(*signal, host::eventHigh,
+                         Pulse(settings.get_DisplayDeviceID(), sCommand, sDisplayPulse))) {
+    return false;
+  }
+  const std::int16_t iKestrumID = settings.get_KestrumID();
+  if (iKestrumID == 0) return true;
+  return AddStep(*preset, 1,
+                 Serial(iKestrumID, "Send_Log_Item", GetSourceLogText(iStandardCommand)));
+}
+
+//    if (RGB_Selected)               RGB command      display   0.1 s
+//    if (Composite_Video_Selected)   video command    display   0.1 s
+bool Generate::BuildPowerOnSwitching(const PresetPtr& preset) {
+  const auto build = [&preset](std::int16_t iStandardCommand) {
+    return BuildPowerOnSwitchingCommand(preset, GetSourceCommandName(iStandardCommand),
+                                        GetSourceFeedbackSignal(iStandardCommand));
+  };
+  return build(host::scRGB1) && build(host::scVideo1);
+}
+
 //  if (receiver's feedback signal is 1)
 //    source command           display   0.1 s
 bool Generate::BuildPowerOnSwitchingCommand(const PresetPtr& preset, const std::string& sCommand,
@@ -43,14 +83,14 @@ bool Generate::BuildPowerOnSwitchingCommand(const PresetPtr& preset, const std::
   if (!preset) return false;
   const std::int16_t iDisplayID = addin::gAddIn().get_DisplayDeviceID();
   const auto isSelected = SignalIs(addin::gAddIn().get_ReceiverID(), sFeedbackSignal, 1);
-  const auto writeBranch = [&](host::Preset& branch) {
-    return AddStep(branch, 1, Pulse(iDisplayID, sCommand, sDisplayPulse));
+  const auto writeBranch = [&](const PresetPtr& branch) {
+    return AddStep(*branch, 1, Pulse(iDisplayID, sCommand, sDisplayPulse));
   };
   // Where nothing empties the preset between two runs, the second writes over the branch of the
   // first.
   if (const auto branch = FindEarlierBranch(*preset, isSelected, iDisplayID)) {
     branch->ClearSteps();
-    return writeBranch(*branch);
+    return writeBranch(branch);
   }
   return AppendBranch(*preset, isSelected, writeBranch);
 }

@@ -9,8 +9,19 @@ namespace generator {
 bool Generate::Build() {
   ClearErrorItems();
   using SubBuilder = bool (Generate::*)();
-  static constexpr std::array<SubBuilder, 1> order{
-      &Generate::BuildPowerProgramming,
+  // The display state adds the lockout module that the lockout sets up, and the contact closure
+  // appends to a power preset that the power programming empties.
+  static constexpr std::array order{
+      SubBuilder{&Generate::BuildKestrum},
+      SubBuilder{&Generate::BuildMotionSensor},
+      SubBuilder{&Generate::BuildDisplayDeviceSwitching},
+      SubBuilder{&Generate::BuildDisplayStateProgramming},
+      SubBuilder{&Generate::BuildPowerProgramming},
+      SubBuilder{&Generate::BuildPowerOnOffLockout},
+      SubBuilder{&Generate::BuildSystemLockPresets},
+      SubBuilder{&Generate::BuildKestrumInputs},
+      SubBuilder{&Generate::BuildOnOffContactClosureControl},
+      SubBuilder{&Generate::BuildAudioControl},
   };
   return std::all_of(order.begin(), order.end(),
                      [this](SubBuilder subBuilder) { return (this->*subBuilder)(); });
@@ -48,6 +59,13 @@ bool Generate::FailedToFind(const std::string& sProperty) {
 
 bool Generate::FailedToSetProperty(const std::string& sProperty, const std::string& sValue) {
   return Fail("Failed to set property value " + sProperty + " to " + sValue);
+}
+
+bool Generate::SetProperty(const host::Device& device, const std::string& sProperty,
+                           const std::string& sValue) {
+  const auto property = device.GetProperty(sProperty);
+  if (!property) return FailedToFind(sProperty);
+  return property->SetValue(sValue) || FailedToSetProperty(sProperty, sValue);
 }
 
 }  // namespace generator

@@ -31,7 +31,7 @@ class Generate : public addin::ProgramBuilder {
   using SignalPtr = std::shared_ptr<host::Signal>;
 
   /// Writes the steps of a branch; its answer is that of the operation which made the branch.
-  using BranchWriter = std::function<bool(host::Preset& branch)>;
+  using BranchWriter = std::function<bool(const PresetPtr& branch)>;
 
   // Warnings, and the five texts of a failure, each of which answers False: Generate.cpp.
   void ClearErrorItems();
@@ -42,6 +42,9 @@ class Generate : public addin::ProgramBuilder {
   bool CannotFindCommand(const std::string& sCommand, const host::Device& device);
   bool FailedToFind(const std::string& sProperty);
   bool FailedToSetProperty(const std::string& sProperty, const std::string& sValue);
+  /// A property that is not there, or that refuses the value, is a failure with a text.
+  [[nodiscard]] bool SetProperty(const host::Device& device, const std::string& sProperty,
+                                 const std::string& sValue);
 
   // The toolbox, presets: ToolboxPresets.cpp. What is looked up is nothing when absent.
   static PresetPtr FindPreset(const std::string& sName);
@@ -62,6 +65,8 @@ class Generate : public addin::ProgramBuilder {
 
   // The toolbox, events of signals: ToolboxEvents.cpp. Events are those of host::enumSignalEvent.
   static SignalPtr FindOutput(std::int16_t iDeviceID, const std::string& sOutputName);
+  static void FeedFrom(host::Signal& signal, std::int16_t iDeviceID,
+                       const std::string& sSignalName);
   static PresetPtr EventPreset(const host::Signal& signal, std::int16_t iEvent);
   static void EnableEvents(const host::Signal& signal);
   static void ClearEvents(const host::Signal& signal);
@@ -101,7 +106,6 @@ class Generate : public addin::ProgramBuilder {
   // The display's own power: DisplayPower.cpp.
   [[nodiscard]] bool BuildDisplayPowerPresets();
   [[nodiscard]] bool BuildDisplayPowerControl(std::int16_t ePowerOnOrOff);
-  [[nodiscard]] bool BuildPowerOnSwitching();
   [[nodiscard]] bool AddDiscretePowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iDeviceID);
   void WarnOfMissingPowerCommand(std::int16_t ePowerOnOrOff, std::int16_t iDeviceID);
   static void AppendRelayCloseSteps(host::Preset& preset);
@@ -117,10 +121,68 @@ class Generate : public addin::ProgramBuilder {
   std::int16_t GetPowerSensorHandle();
 
   // What the display shows: DisplaySwitching.cpp.
+  [[nodiscard]] bool BuildDisplayDeviceSwitching();
+  [[nodiscard]] bool BuildDisplayDeviceSwitchingCommand(std::int16_t iStandardCommand);
+  /// The display shows again what is selected, of both sources.
+  [[nodiscard]] static bool BuildPowerOnSwitching(const PresetPtr& preset);
   /// Without a command there is nothing to write, which is a success.
   [[nodiscard]] static bool BuildPowerOnSwitchingCommand(const PresetPtr& preset,
                                                          const std::string& sCommand,
                                                          const std::string& sFeedbackSignal);
+
+  // While the display warms up and cools down: DisplayState.cpp.
+  [[nodiscard]] bool BuildDisplayStateProgramming();
+  [[nodiscard]] bool BuildWarmingUp(std::int16_t iModuleID);
+  [[nodiscard]] bool BuildCoolingDown(std::int16_t iModuleID);
+  [[nodiscard]] bool ReportDisplayState(const host::Signal& signal, const char* sHigh,
+                                        const char* sLow);
+  static void AppendUnlockSteps(const PresetPtr& preset);
+
+  // The lockout module: Lockout.cpp.
+  [[nodiscard]] bool BuildPowerOnOffLockout();
+  static bool NeedsLockout(const host::Device& display);
+  /// The module, nothing when it can't be had. Replaces `display` by the device as it is with the
+  /// module.
+  static DevicePtr GetPowerLockoutModule(DevicePtr& display);
+  /// The display has no lockout module, and the library none to give it.
+  bool FailedToAddLockoutModule();
+  [[nodiscard]] bool SetPowerLockoutTimes(const host::Device& module);
+  /// A command of the sensing module, or none: then it is the display's own.
+  [[nodiscard]] static bool SetPowerLockoutCommands(const host::Device& module,
+                                                    const std::string& sOnCommand,
+                                                    const std::string& sOffCommand);
+
+  // The contact on digital input 2: ContactClosure.cpp.
+  [[nodiscard]] bool BuildOnOffContactClosureControl();
+  [[nodiscard]] bool BuildContactOpened(const host::Signal& contact);
+  [[nodiscard]] bool BuildLockAtStart();
+  [[nodiscard]] bool AddSystemLockToPreset(const std::string& sPreset, bool bAtStart);
+  [[nodiscard]] bool InsertSystemLockBranch(host::Preset& preset, std::int16_t iIndex,
+                                            const host::StepCondition& test);
+
+  // Locking and unlocking the room: SystemLock.cpp.
+  [[nodiscard]] bool BuildSystemLockPresets();
+  [[nodiscard]] bool BuildSystemLock();
+  [[nodiscard]] bool BuildSystemUnlock();
+
+  // The motion detector: MotionSensor.cpp.
+  [[nodiscard]] bool BuildMotionSensor();
+  [[nodiscard]] static bool BuildNoMotionTimeout(std::int16_t iSensorID);
+
+  // The receiver's audio: AudioControl.cpp.
+  [[nodiscard]] bool BuildAudioControl();
+  [[nodiscard]] bool BuildMuteOnContact();
+
+  // The monitoring interface: Kestrum.cpp and KestrumInputs.cpp.
+  [[nodiscard]] bool BuildKestrum();
+  [[nodiscard]] bool BuildKestrumOccupancy();
+  bool BuildKestrumErrors();
+  static bool SetKestrumOrlenaError(std::int16_t iDeviceID, const std::string& sOutput,
+                                    const std::string& sDetected, const std::string& sCorrected);
+  bool BuildKestrumLampHours();
+  [[nodiscard]] static bool BuildKestrumPresetTriggers();
+  [[nodiscard]] bool BuildKestrumInputs();
+  [[nodiscard]] static bool BuildKestrumDigitalInputs(std::int16_t iInput);
 
   std::string m_strLastError;
   addin::ErrorItems m_colErrorItems;

@@ -78,7 +78,7 @@ bool Generate::BuildReceiverPowerEvents() {
     return ConnectEventToGlobalPreset(iReceiverID, sOutput, host::eventHigh,
                                       GetSystemPowerPreset(ePowerOnOrOff).sName, /*bClear=*/true);
   };
-  if (connect("Powered_Off", addin::pdOff) && connect("Powered_On", addin::pdOn)) return true;
+  if (connect(sPoweredOff, addin::pdOff) && connect("Powered_On", addin::pdOn)) return true;
   return Fail("Failed to build power event for the OL receiver.");
 }
 

@@ -1,18 +1,13 @@
-#include <algorithm>
-#include <utility>
-
 #include "addin/Enumerations.h"
 #include "addin/modGlobals.h"
-#include "forms/Components.h"
 #include "generator/Generate.h"
+#include "generator/Modules.h"
 #include "generator/Names.h"
 #include "host/Numbers.h"
 
 namespace generator {
 namespace {
 
-constexpr const char* sSensingModule = "PWRSENSE";
-constexpr const char* sPowerToggle = "POWER";
 constexpr const char* sSensorFormat = "i4";
 constexpr std::int16_t iFirstSensor = 1;
 
@@ -22,37 +17,13 @@ void AddPowerSensorPart(host::BillOfMaterialsEntry* bill) {
   if (!parts->Exists(host::partKeyPowerSensor)) parts->Add(host::partPowerSensor, 1);
 }
 
-template <typename Modules>
-auto FindSensingModule(const Modules& modules) {
-  const auto found = std::find_if(modules.begin(), modules.end(), [](const auto& module) {
-    return module->get_ShortName() == sSensingModule;
-  });
-  return found == modules.end() ? nullptr : *found;
-}
-
-/// The module as the library has it; an empty list when it has none.
-host::ModuleList ModulesFromLibrary(std::int16_t iDeviceID) {
-  host::ModuleList colModules;
-  const auto entry = FindSensingModule(addin::gLibraryManager().get_Modules());
-  if (!entry) return colModules;
-  const auto module = forms::createObject<host::Device>(host::progIDDevice);
-  module->put_LibraryID(entry->get_ID());
-  module->put_ShortName(entry->get_ShortName());
-  module->put_Name(entry->get_Name());
-  module->put_Description(entry->get_Description());
-  module->put_Maker(entry->get_Maker());
-  colModules.Add(module, entry->get_ShortName());
-  module->CreateFromLibrary(entry, iDeviceID);
-  return colModules;
-}
-
 /// A display with one command for on and off gets it in both directions; the sensor tells the
 /// module when to send it.
 void FillEmptySlots(const host::Device& device, const host::Device& module) {
   for (const auto& slot : module.get_CommandSlots()) {
     if (!slot->get_CommandName().empty()) continue;
-    if (device.HasSignal(sPowerToggle, host::directionInput, host::signalDigital)) {
-      slot->put_CommandName(sPowerToggle);
+    if (device.HasSignal(host::commandPowerToggle, host::directionInput, host::signalDigital)) {
+      slot->put_CommandName(host::commandPowerToggle);
     }
   }
 }
@@ -84,9 +55,9 @@ bool Generate::AddSensedPowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iMod
 }
 
 std::int16_t Generate::AddPowerSensingModule(DevicePtr& device) {
-  const host::ModuleList colModules = ModulesFromLibrary(device->get_ID());
+  const host::ModuleList colModules = ModulesFromLibrary(sSensingModule, device->get_ID());
   if (addin::gDocument().get_Devices()->AddModules(colModules, device) == 0) return 0;
-  const auto module = FindSensingModule(device->get_Modules());
+  const auto module = FindModule(*device, sSensingModule);
   if (!module) return 0;
   module->put_ShowInTree(false);
   module->put_SensorHandle(GetPowerSensorHandle());

@@ -26,6 +26,14 @@ Generate::PresetPtr Generate::EventPreset(const host::Signal& signal, std::int16
   return signal.GetEvent(iEvent)->get_Preset();
 }
 
+void Generate::FeedFrom(host::Signal& signal, std::int16_t iDeviceID,
+                        const std::string& sSignalName) {
+  signal.ClearSource();
+  signal.put_SourceType(host::sourceSignal);
+  signal.put_SourceDeviceID(iDeviceID);
+  signal.put_SourceSignalName(sSignalName);
+}
+
 void Generate::EnableEvents(const host::Signal& signal) {
   if (const auto options = signal.get_Options()) options->EnableEvents(host::eventsAll, true);
 }

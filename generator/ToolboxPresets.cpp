@@ -71,7 +71,7 @@ bool Generate::InsertBranch(host::Preset& preset, std::int16_t iIndex,
   const auto step = MakeConditionStep(test);
   preset.InsertStep(iIndex, step);  // a step that was refused has no branch
   const auto branch = addin::gDocument().get_Presets()->ItemByID(step->get_SubPresetID());
-  return branch && writeBranch(*branch);
+  return branch && writeBranch(branch);
 }
 
 bool Generate::AppendBranch(host::Preset& preset, const host::StepCondition& test,

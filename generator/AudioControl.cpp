@@ -1,0 +1,38 @@
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
+#include "generator/Generate.h"
+#include "generator/Names.h"
+#include "host/Numbers.h"
+
+namespace generator {
+namespace {
+
+std::string Constant(bool bValue) { return bValue ? "1d" : "0d"; }
+
+}  // namespace
+
+// The receiver does the audio itself; two of its properties say how.
+bool Generate::BuildAudioControl() {
+  const addin::IAddIn& settings = addin::gAddIn();
+  const auto receiver = addin::gDocument().get_Devices()->Item(settings.get_ReceiverID());
+  if (!SetProperty(*receiver, "Volume Knob Control", Constant(settings.get_VolumeKnobControl())) ||
+      !SetProperty(*receiver, "Mic Mode Control", Constant(settings.get_MicModeControl()))) {
+    return false;
+  }
+  return settings.get_bMuteOnDigInp3() == 0 || BuildMuteOnContact();
+}
+
+//  Digital input 3 closes        Digital input 3 opens
+//    Volume_Mute_On  receiver      Volume_Mute_Off  receiver
+bool Generate::BuildMuteOnContact() {
+  const addin::IAddIn& settings = addin::gAddIn();
+  const auto contact = FindOutput(settings.GetDigitalInputID(iMuteInput), sContact);
+  if (!contact) return false;
+  EnableEvents(*contact);
+  ClearEvents(*contact);
+  const std::int16_t iReceiverID = settings.get_ReceiverID();
+  return AddCommandToEvent(*contact, host::eventHigh, Command(iReceiverID, "Volume_Mute_On")) &&
+         AddCommandToEvent(*contact, host::eventLow, Command(iReceiverID, "Volume_Mute_Off"));
+}
+
+}  // namespace generator

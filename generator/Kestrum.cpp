@@ -1,0 +1,136 @@
+#include <algorithm>
+#include <array>
+
+#include "addin/Enumerations.h"
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
+#include "generator/Generate.h"
+#include "generator/Names.h"
+#include "host/Numbers.h"
+
+namespace generator {
+namespace {
+
+struct ErrorTexts {
+  const char* sOutput;
+  const char* sDetected;
+  const char* sCorrected;
+};
+
+constexpr ErrorTexts receiverError{"Input_Error", "Orlena Error Detected",
+                                   "Orlena Error Corrected"};
+/// Of the receiver with three inputs.
+constexpr std::array inputErrors{
+    ErrorTexts{"Input1_Error", "Input1 Error Detected", "Input1 Error Corrected"},
+    ErrorTexts{"Input2_Error", "Input2 Error Detected", "Input2 Error Corrected"},
+    ErrorTexts{"Input3_Error", "Input3 Error Detected", "Input3 Error Corrected"},
+};
+
+/// In the order in which they are looked for.
+constexpr std::array lampHourOutputs{"Lamp_Hours", "LampHours", "Lamp_Hours_Analog"};
+
+struct PresetTrigger {
+  const char* sOutput;
+  const char* sPreset;
+};
+
+constexpr std::array presetTriggers{
+    PresetTrigger{"System_Power_Off", "System Power Off"},
+    PresetTrigger{"Display_Power_On", "Display Power On"},
+    PresetTrigger{"Display_Power_Off", "Display Power Off"},
+    PresetTrigger{"System_Lock", sSystemLockPreset},
+    PresetTrigger{"System_Unlock", sSystemUnlockPreset},
+};
+
+}  // namespace
+
+bool Generate::BuildKestrum() {
+  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
+  if (iKestrumID == 0) return true;
+  if (!BuildKestrumOccupancy()) return false;
+  // A failure leaves its text and stops nothing; nor do errors and lamp hours.
+  const auto interface = addin::gDocument().get_Devices()->Item(iKestrumID);
+  static_cast<void>(SetProperty(*interface, "System_Off_Warning_Time", "0d"));
+  BuildKestrumErrors();
+  BuildKestrumLampHours();
+  return BuildKestrumPresetTriggers();
+}
+
+//  Motion_Detected goes high       Motion_Detected goes low
+//    Room_Occupied high  Kestrum     Room_Occupied low  Kestrum
+bool Generate::BuildKestrumOccupancy() {
+  const addin::IAddIn& settings = addin::gAddIn();
+  if (settings.get_OccupancySensorID() < 1) return true;
+  const auto signal = FindOutput(settings.get_OccupancySensorID(), sMotionDetected);
+  if (!signal) return false;
+  EnableEvents(*signal);
+  const auto occupied = [iKestrumID = settings.get_KestrumID()](const char* sLevel) {
+    return Level(iKestrumID, "Room_Occupied", sLevel);
+  };
+  return AddCommandToEvent(*signal, host::eventHigh, occupied(host::levelHigh)) &&
+         AddCommandToEvent(*signal, host::eventLow, occupied(host::levelLow));
+}
+
+bool Generate::BuildKestrumErrors() {
+  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
+  if (iKestrumID == 0) return true;
+  const auto set = [iKestrumID](const ErrorTexts& texts) {
+    return SetKestrumOrlenaError(iKestrumID, texts.sOutput, texts.sDetected, texts.sCorrected);
+  };
+  if (!set(receiverError)) return false;
+  const auto receiver = addin::gDocument().get_Devices()->Item(addin::gAddIn().get_ReceiverID());
+  if (receiver->get_ModelID() != host::modelReceiverThreeInputs) return true;
+  return std::all_of(inputErrors.begin(), inputErrors.end(), set);
+}
+
+//  The error output goes high               The error output goes low
+//    Set_Error_Message_Severity 3 Kestrum     Set_Error_Message_Severity 0 Kestrum
+//    Send_Error_Message           Kestrum     Send_Error_Message           Kestrum
+bool Generate::SetKestrumOrlenaError(std::int16_t iDeviceID, const std::string& sOutput,
+                                     const std::string& sDetected, const std::string& sCorrected) {
+  const auto signal = FindOutput(addin::gAddIn().get_ReceiverID(), sOutput);
+  if (!signal) return false;
+  const auto write = [&](std::int16_t iEvent, const char* sSeverity, const std::string& sText) {
+    const auto preset = EventPreset(*signal, iEvent);
+    preset->ClearSteps();
+    AppendStep(*preset, Analog(iDeviceID, "Set_Error_Message_Severity", sSeverity));
+    AppendStep(*preset, Serial(iDeviceID, "Send_Error_Message", sText));
+  };
+  write(host::eventHigh, "3", sDetected);
+  write(host::eventLow, "0", sCorrected);
+  return true;
+}
+
+bool Generate::BuildKestrumLampHours() {
+  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
+  const auto display =
+      addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+  if (iKestrumID < 1 || !display) return true;
+  const auto output =
+      std::find_if(lampHourOutputs.begin(), lampHourOutputs.end(), [&](const char* sName) {
+        return display->HasSignal(sName, host::directionOutput, host::signalAnalog);
+      });
+  if (output == lampHourOutputs.end()) {
+    AddErrorItem(
+        "Display device does not have a Lamp_Hours, LampHours, or Lamp_Hours_Analog output.\r\n"
+        "Therefore, this feature will not be available from Kestrum.",
+        host::severityProgress);
+    return true;
+  }
+  const auto usage =
+      addin::gDocument().get_Signals()->Find(iKestrumID, "", "Display_Usage", host::signalAnalog);
+  if (usage) FeedFrom(*usage, display->get_ID(), *output);
+  return true;
+}
+
+bool Generate::BuildKestrumPresetTriggers() {
+  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
+  if (iKestrumID == 0) return true;
+  return std::all_of(
+      presetTriggers.begin(), presetTriggers.end(), [iKestrumID](const PresetTrigger& trigger) {
+        return ConnectEventToGlobalPreset(iKestrumID, trigger.sOutput, host::eventHigh,
+                                          trigger.sPreset, /*bClear=*/true);
+      });
+}
+
+}  // namespace generator

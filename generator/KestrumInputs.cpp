@@ -1,0 +1,47 @@
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
+#include "forms/Numbers.h"
+#include "generator/Generate.h"
+#include "generator/Names.h"
+#include "host/Numbers.h"
+
+namespace generator {
+namespace {
+
+constexpr std::int16_t iOccupancyInput = 1;
+/// Custom signal 7 of the interface is for digital input 1, and so on.
+constexpr std::int16_t iCustomSignalBeforeInputs = 6;
+
+std::string InputName(std::int16_t iInput) { return "Digital Input " + forms::decimal(iInput); }
+
+}  // namespace
+
+bool Generate::BuildKestrumInputs() {
+  const addin::IAddIn& settings = addin::gAddIn();
+  if (settings.get_KestrumID() < 1) return true;
+  if (settings.get_OccupancySensorID() == 0 && !BuildKestrumDigitalInputs(iOccupancyInput)) {
+    return false;
+  }
+  if (!BuildKestrumDigitalInputs(iContactInput)) return false;
+  if (!BuildKestrumDigitalInputs(iMuteInput)) return false;
+  if (settings.GetDigitalInputID(iPowerSensorInput) == 0) return true;
+  return BuildKestrumDigitalInputs(iPowerSensorInput);
+}
+
+bool Generate::BuildKestrumDigitalInputs(std::int16_t iInput) {
+  const addin::IAddIn& settings = addin::gAddIn();
+  const std::int16_t iKestrumID = settings.get_KestrumID();
+  const std::string n =
+      forms::decimal(static_cast<std::int16_t>(iInput + iCustomSignalBeforeInputs));
+  const auto interface = addin::gDocument().get_Devices()->Item(iKestrumID);
+  const auto label = interface->GetProperty("Digital_Attribute_" + n + "_Name");
+  if (!label) return false;
+  static_cast<void>(label->SetValue(InputName(iInput)));
+  const auto signal = addin::gDocument().get_Signals()->Find(
+      iKestrumID, "Custom_Digital_Command_" + n, "Custom_Digital_Notify_" + n, host::signalDigital);
+  if (!signal) return false;
+  FeedFrom(*signal, settings.GetDigitalInputID(iInput), sContact);
+  return true;
+}
+
+}  // namespace generator

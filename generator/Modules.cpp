@@ -1,0 +1,43 @@
+#include "generator/Modules.h"
+
+#include <algorithm>
+
+#include "addin/modGlobals.h"
+#include "forms/Components.h"
+#include "forms/Text.h"
+#include "host/Numbers.h"
+
+namespace generator {
+namespace {
+
+template <typename Modules>
+auto FindByShortName(const Modules& modules, const std::string& sShortName) {
+  const auto found = std::find_if(modules.begin(), modules.end(), [&](const auto& module) {
+    return forms::equalsIgnoringCase(module->get_ShortName(), sShortName);
+  });
+  return found == modules.end() ? nullptr : *found;
+}
+
+}  // namespace
+
+std::shared_ptr<host::Device> FindModule(const host::Device& device,
+                                         const std::string& sShortName) {
+  return FindByShortName(device.get_Modules(), sShortName);
+}
+
+host::ModuleList ModulesFromLibrary(const std::string& sShortName, std::int16_t iDeviceID) {
+  host::ModuleList colModules;
+  const auto entry = FindByShortName(addin::gLibraryManager().get_Modules(), sShortName);
+  if (!entry) return colModules;
+  const auto module = forms::createObject<host::Device>(host::progIDDevice);
+  module->put_LibraryID(entry->get_ID());
+  module->put_ShortName(entry->get_ShortName());
+  module->put_Name(entry->get_Name());
+  module->put_Description(entry->get_Description());
+  module->put_Maker(entry->get_Maker());
+  module->CreateFromLibrary(entry, iDeviceID);
+  colModules.Add(module, entry->get_ShortName());
+  return colModules;
+}
+
+}  // namespace generator

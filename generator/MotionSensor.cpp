@@ -1,0 +1,32 @@
+#include "addin/Enumerations.h"
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
+#include "forms/Numbers.h"
+#include "generator/Generate.h"
+#include "generator/Names.h"
+#include "host/Numbers.h"
+
+namespace generator {
+
+// Without a timeout the sensor keeps its property and what no motion does.
+bool Generate::BuildMotionSensor() {
+  const addin::IAddIn& settings = addin::gAddIn();
+  const std::int16_t iSensorID = settings.get_OccupancySensorID();
+  const std::int16_t iSeconds = settings.get_MotionSensorTimeout();
+  if (iSensorID <= 0 || iSeconds <= 0) return true;
+  const auto sensor = addin::gDocument().get_Devices()->Item(iSensorID);
+  return SetProperty(*sensor, "Timeout", forms::decimal(iSeconds)) &&
+         BuildNoMotionTimeout(iSensorID);
+}
+
+//  Motion_Detected goes low
+//    call System Power Off
+//    Room_Occupied low      Kestrum, written before
+bool Generate::BuildNoMotionTimeout(std::int16_t iSensorID) {
+  const bool bMonitored = addin::gAddIn().get_KestrumID() >= 1;
+  return ConnectEventToGlobalPreset(iSensorID, sMotionDetected, host::eventLow,
+                                    GetSystemPowerPreset(addin::pdOff).sName,
+                                    /*bClear=*/!bMonitored);
+}
+
+}  // namespace generator

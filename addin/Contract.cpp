@@ -48,9 +48,12 @@ void IAddIn::IAddInContract_Load(const std::shared_ptr<host::Document>& clsDocum
 
   m_clsComm = clsCommObject;
   m_onDisplayHelp.end();
+  m_onTransferComplete.end();
   if (m_clsComm) {
     m_onDisplayHelp = m_clsComm->DisplayHelp.listen(
         [this](std::int32_t lTopicID) { m_clsComm_DisplayHelp(lTopicID); });
+    m_onTransferComplete = m_clsComm->OnTransferComplete.listen(
+        [this](std::int16_t iHandles) { m_clsComm_OnTransferComplete(iHandles); });
   }
 
   LoadImages(clsListImagesSmall, clsListImagesLarge);
@@ -73,6 +76,7 @@ void IAddIn::IAddInContract_Run(const std::shared_ptr<host::OwnerForm>& oOwnerFo
     m_frmAddIn.reset();
     SetDocument(nullptr);
     m_onDisplayHelp.end();
+    m_onTransferComplete.end();
     m_clsComm.reset();
   });
   m_frmAddIn = forms::createObject<WizardWindow>(progIDWizardWindow);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "forms/MessageBox.h"
 #include "host/IAddInContract.h"
 #include "host/Numbers.h"
+#include "host/UIManager.h"
 
 namespace addin {
 
@@ -149,6 +151,25 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void SetLibraryFilter();
   bool BuildProgram(bool bShowWarnings, std::string& sError);
 
+  // From the finished room to the receiver: BuildAndUpload.cpp. `hwnd` is the window that asked;
+  // while one of the two chains runs, the Finish button is disabled. What goes wrong has been
+  // shown.
+  /// True: there is a compiled program and it may be sent. A current one is left as it is.
+  bool CreateProgram();
+  void BuildAndUpload(std::int32_t& hwnd);
+  void ExportProgram(std::int32_t& hwnd);
+  /// Starts sending what was compiled last and returns at once.
+  void UploadProgram(std::int32_t& hwnd);
+  void ShowReports();
+
+  // The projects of the touch panels: Touchpanels.cpp.
+  /// Makes those that are missing, in a window of its own. Always True.
+  bool BuildTouchpanels();
+  bool HasPanelsToBuild() const;
+  /// The work of that window. False: a project could not be made, and the ones after it were not
+  /// tried.
+  bool CreateTouchpanelProjects();
+
   // The devices of the room: Devices.cpp. A failure is shown with the host's text.
   void AddPowerRelay();
   void RemovePowerRelay();
@@ -202,6 +223,11 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void LoadImages(const forms::ImageList& clsListImagesSmall,
                   const forms::ImageList& clsListImagesLarge);
   void m_clsComm_DisplayHelp(std::int32_t lTopicID);
+  void m_clsComm_OnTransferComplete(std::int16_t iVnxHandlesSent);
+  /// Saves and writes panels where needed, compiles, and then does `Send`.
+  void BuildAnd(const std::function<void()>& Send);
+  bool SetPagePrefix();
+  void LabelInputButtons(host::TessraApp& oTessraApp) const;
 
   /// What a new object and a document without a settings block have in common.
   void SetStoredDefaults();
@@ -224,6 +250,7 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   std::shared_ptr<WizardWindow> m_frmAddIn;
   std::shared_ptr<host::CommObject> m_clsComm;
   forms::Subscription m_onDisplayHelp;
+  forms::Subscription m_onTransferComplete;
   std::int16_t m_iStartupMode = 0;
   bool m_bUseOpenFile = false;
   bool m_bEditInCorvaner = false;

@@ -28,7 +28,9 @@ void WarnOfPort(const std::string& strWhat, std::int16_t intIndex, const std::st
        strWhere + " Bill of Materials.");
 }
 
-host::BillOfMaterials& Bill() { return *gDocument().get_Reports()->get_BillOfMaterials(); }
+std::shared_ptr<host::BillOfMaterials> Bill() {
+  return gDocument().get_Reports()->get_BillOfMaterials();
+}
 
 }  // namespace
 
@@ -81,7 +83,7 @@ void IAddIn::AddToBillOfMaterials(std::int16_t intIndex, const std::string& strN
   if (lPartID == 0) {
     Warn("Unknown Orlena transmitter (" + forms::withoutLast(strName, lPortLength) +
          ") will not be added to the Bill of Materials.");
-  } else if (!Bill().AddItem(oDevice.get_ModelID(), 0, lPartID, oDevice.get_ID())) {
+  } else if (!Bill()->AddItem(oDevice.get_ModelID(), 0, lPartID, oDevice.get_ID())) {
     WarnOfPort("adding", intIndex, "to");
   }
 }
@@ -89,7 +91,7 @@ void IAddIn::AddToBillOfMaterials(std::int16_t intIndex, const std::string& strN
 void IAddIn::RemoveOriginationPoint(std::int16_t intIndex) {
   std::int16_t& iPortID = OriginationPoint(intIndex);
   RemoveDevice(iPortID);  // a failure is shown there
-  if (!Bill().RemoveItem(-std::int32_t{iPortID})) WarnOfPort("removing", intIndex, "from");
+  if (!Bill()->RemoveItem(-std::int32_t{iPortID})) WarnOfPort("removing", intIndex, "from");
   iPortID = 0;
 }
 

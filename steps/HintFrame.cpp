@@ -2,11 +2,25 @@
 
 #include "addin/modGlobals.h"
 #include "host/Numbers.h"
+#include "steps/WizardStep.h"
 
 namespace steps {
 
-HintFrame::HintFrame(forms::Container& container, const std::string& strText)
-    : frameInfo(container, "frameInfo") {
+std::string HintToAddDisplay(const std::string& strSubject) {
+  return "Before configuring " + strSubject +
+         " add a Display Device on the \"Display Device\" step.";
+}
+
+std::string HintToChoose(const std::string& strDevice) {
+  return "Click \"Choose...\" to select the " + strDevice + " for your system.";
+}
+
+HintFrame::HintFrame(forms::Container& container, const std::string& strText,
+                     const HintNames& names)
+    : frameInfo(container, "frameInfo" + names.strIndex),
+      ctlImage(frameInfo, names.strSign + names.strIndex),
+      lblInfo(frameInfo, "lblInfo" + names.strIndex),
+      lblBorder(frameInfo, "lblBorder" + names.strIndex) {
   frameInfo.setBorder(false);
   lblBorder.setBorder(true);
   ctlImage.put_Picture(addin::frmImages().get_ImageListLarge().item(host::pictureInformation));
@@ -16,12 +30,11 @@ HintFrame::HintFrame(forms::Container& container, const std::string& strText)
 
 forms::Piece HintFrame::Place() {
   using namespace forms;
-  constexpr Size sizeOfSign{480, 480};
   constexpr Twips lMargin = 30;
   return box(frameInfo,
              {
                  gap(lMargin),
-                 row({gap(lMargin), item(ctlImage, sizeOfSign), rest(lblInfo), gap(lMargin)}),
+                 row({gap(lMargin), item(ctlImage, sizeOfPicture), rest(lblInfo), gap(lMargin)}),
                  gap(lMargin),
              });
 }

@@ -9,11 +9,23 @@
 
 namespace steps {
 
+/// What a hint's controls are called where a page has several of them or another sign.
+struct HintNames {
+  std::string strSign = "ctlImage";
+  std::string strIndex{};  // "(0)" for the members of control arrays
+};
+
+/// What a hint says while there is no display to ask about.
+std::string HintToAddDisplay(const std::string& strSubject);
+/// What a hint says while a device isn't chosen yet.
+std::string HintToChoose(const std::string& strDevice);
+
 /// A framed hint with the information sign, which a page shows in the place of what it can't ask
 /// yet. Its controls are named "frameInfo", "ctlImage", "lblInfo" and "lblBorder".
 class HintFrame {
  public:
-  explicit HintFrame(forms::Container& container, const std::string& strText = {});
+  explicit HintFrame(forms::Container& container, const std::string& strText = {},
+                     const HintNames& names = {});
 
   void SetText(const std::string& strText) { lblInfo.setCaption(strText); }
   void Show(bool bShow) { frameInfo.setVisible(bShow); }
@@ -24,9 +36,9 @@ class HintFrame {
 
  private:
   forms::Frame frameInfo;
-  host::ctlImage ctlImage{frameInfo, "ctlImage"};
-  forms::Label lblInfo{frameInfo, "lblInfo"};
-  forms::Label lblBorder{frameInfo, "lblBorder"};
+  host::ctlImage ctlImage;
+  forms::Label lblInfo;
+  forms::Label lblBorder;
 };
 
 }  // namespace steps

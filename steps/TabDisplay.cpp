@@ -1,7 +1,5 @@
 #include "steps/TabDisplay.h"
 
-#include <algorithm>
-
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -10,6 +8,7 @@
 #include "forms/Numbers.h"
 #include "forms/Rows.h"
 #include "host/Numbers.h"
+#include "steps/StandardCommands.h"
 
 namespace steps {
 namespace {
@@ -22,12 +21,6 @@ constexpr std::int16_t iRowOn = 0;  // the rows of the relay's delays
 constexpr std::int16_t iRowOff = 1;
 constexpr std::int32_t lDelayLength = 3;
 constexpr std::int32_t lLongestDelay = 999;
-constexpr forms::Size sizeOfPicture{480, 480};
-
-/// The standard command that a selector stands for, as a number.
-std::int16_t StandardID(const host::DeviceCommands& ctlSelector) {
-  return forms::toInt16(forms::leadingNumber(ctlSelector.tag()));
-}
 
 }  // namespace
 
@@ -36,8 +29,8 @@ TabDisplay::TabDisplay(forms::Container& container, std::string strName)
   MakeBanner(lblBanner);
   SetTabStops(false);
   lblDisplayHelp.setLink(true);
-  ctlCommands(0).setTag(forms::decimal(host::scRGB1));
-  ctlCommands(1).setTag(forms::decimal(host::scVideo1));
+  SetStandardID(ctlCommands(0), host::scRGB1);
+  SetStandardID(ctlCommands(1), host::scVideo1);
   txtDelay.each([](std::int16_t, forms::TextBox& box) { box.setMaxLength(lDelayLength); });
 
   ConnectEvents();
@@ -81,10 +74,10 @@ bool TabDisplay::iTab_SaveData() {
 bool TabDisplay::SetData() {
   m_bSaving = false;
   cmdProperties.setVisible(false);
-  addin::PictureLists& lists = addin::frmImages();
-  ctlImageDisplay.put_Picture(lists.get_ImageListLarge().item(host::pictureDisplay));
-  ctlCommands(0).SetImages(lists.get_ImageList());
-  ctlCommands(1).SetImages(lists.get_ImageList());
+  ctlImageDisplay.put_Picture(LargePicture(host::pictureDisplay));
+  const forms::ImageList& images = addin::frmImages().get_ImageList();
+  ctlCommands(0).SetImages(images);
+  ctlCommands(1).SetImages(images);
   RefreshDeviceInfo();
   const bool bDevice = gAddIn().get_DisplayDeviceID() != 0;
   SetPowerRelayControls(bDevice && gAddIn().get_PowerRelayID() >= 1);
@@ -141,26 +134,14 @@ void TabDisplay::LoadSwitchingCommands() {
   const auto oDevice = FindDisplay();
   if (!oDevice) return;
   ctlCommands.each([&](std::int16_t, host::DeviceCommands& ctlSelector) {
-    ctlSelector.SetEmptyText("[ Unassigned ]");
-    const std::string strID = forms::decimal(StandardID(ctlSelector));
-    ctlSelector.LoadCommands(*oDevice, oDevice->GetCommandName(strID), host::commandsWithEmpty);
+    LoadStandardCommand(ctlSelector, *oDevice);
   });
 }
 
 void TabDisplay::ctlCommands_CommandChanged(std::int16_t Index) {
   const auto oDevice = FindDisplay();
-  if (!oDevice) return;
-  const std::int16_t iStandardID = StandardID(ctlCommands(Index));
-  const auto colCommands = oDevice->get_StandardCommands();
-  const auto it = std::find_if(colCommands.begin(), colCommands.end(), [&](const auto& oCommand) {
-    return oCommand->get_StandardID() == iStandardID ||
-           oCommand->get_Name() == forms::decimal(iStandardID);
-  });
-  if (it == colCommands.end()) return;
-  const std::string strSelected = ctlCommands(Index).get_SelectedCommand();
-  if (strSelected == (*it)->get_CommandName()) return;
-  (*it)->put_CommandName(strSelected);
-  gDocument().MarkChanged();
+  // A selector that the device's map has no entry for changes nothing.
+  if (oDevice) StoreStandardCommand(ctlCommands(Index), *oDevice);
 }
 
 void TabDisplay::cmdChoose_Click() {
@@ -258,41 +239,41 @@ void TabDisplay::lblDisplayHelp_Click() {
 
 void TabDisplay::LayOut() {
   using namespace forms;
-  constexpr Twips lBoxWidth = 570;
-  layOut(pageArea,
-         {
-             rest(lblBanner),
-             row({item(Label1), spring(), item(lblDisplayHelp)}),
-             box(Frame3,
-                 {
-                     row({
-                         item(ctlImageDisplay, sizeOfPicture),
-                         either({
-                             columns({
-                                 {item(lblDescriptionTag), rest(lblDescription, 780)},
-                                 {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
-                             }),
-                             frameInfo.Place(),
-                         }),
-                         column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
-                     }),
-                 }),
-             box(frameCommand,
-                 {
-                     item(lblSwitch),
-                     columns({
-                         {item(lblTransport(0)), rest(ctlCommands(0))},
-                         {item(lblTransport(1)), rest(ctlCommands(1))},
-                     }),
-                 }),
-             item(chkPowerRelay),
-             indented({
-                 columns({
-                     {item(lblDelay(0)), wide(txtDelay(0), lBoxWidth), item(lblDelaySeconds(0))},
-                     {item(lblDelay(1)), wide(txtDelay(1), lBoxWidth), item(lblDelaySeconds(1))},
-                 }),
-             }),
-         });
+  layOut(
+      pageArea,
+      {
+          rest(lblBanner),
+          row({item(Label1), spring(), item(lblDisplayHelp)}),
+          box(Frame3,
+              {
+                  row({
+                      item(ctlImageDisplay, sizeOfPicture),
+                      either({
+                          columns({
+                              {item(lblDescriptionTag), rest(lblDescription, 780)},
+                              {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
+                          }),
+                          frameInfo.Place(),
+                      }),
+                      column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
+                  }),
+              }),
+          box(frameCommand,
+              {
+                  item(lblSwitch),
+                  columns({
+                      {item(lblTransport(0)), rest(ctlCommands(0))},
+                      {item(lblTransport(1)), rest(ctlCommands(1))},
+                  }),
+              }),
+          item(chkPowerRelay),
+          indented({
+              columns({
+                  {item(lblDelay(0)), wide(txtDelay(0), lNumberBoxWidth), item(lblDelaySeconds(0))},
+                  {item(lblDelay(1)), wide(txtDelay(1), lNumberBoxWidth), item(lblDelaySeconds(1))},
+              }),
+          }),
+      });
   frameInfo.PlaceBorder();
 }
 

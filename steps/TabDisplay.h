@@ -65,7 +65,7 @@ class TabDisplay : public WizardStep {
   forms::Label lblDescription{Frame3, "lblDescription"};
   forms::Label lblIOAssignmentTag{Frame3, "lblIOAssignmentTag", "IO Assignment: "};
   forms::Label lblIOAssignment{Frame3, "lblIOAssignment"};
-  HintFrame frameInfo{Frame3, "Click \"Choose...\" to select the Display Device for your system."};
+  HintFrame frameInfo{Frame3, HintToChoose("Display Device")};
   forms::Frame frameCommand{*this, "frameCommand", "Switching Commands"};
   forms::Label lblSwitch{frameCommand, "lblSwitch",
                          "Select discrete switching commands for each video input."};

@@ -2,7 +2,6 @@
 
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
-#include "forms/Application.h"
 #include "forms/Guard.h"
 #include "forms/Numbers.h"
 #include "forms/Rows.h"
@@ -36,10 +35,6 @@ constexpr const char* strNoSensingText =
 constexpr const char* strNoneText =
     "This device is turned on and off manually by the user.  Or this device is assumed always on.";
 
-void Inform(const std::string& strText) {
-  forms::Application::current().messageBox(strText, forms::Buttons::ok, forms::Icon::information);
-}
-
 }  // namespace
 
 TabPower::TabPower(forms::Container& container, std::string strName)
@@ -69,9 +64,7 @@ void TabPower::ConnectEvents() {
   });
   chkSecondOff.click.connect([this] { chkSecondOff_Click(); });
   txtSecondOff.validate.connect([this](bool&) { txtSecondOff_Validate(); });
-  txtSecondOff.keyDown.connect([this](forms::KeyDown& key) {
-    if (key.code == forms::keys::enter) txtSecondOff_Validate();
-  });
+  OnEnter(txtSecondOff, [this] { txtSecondOff_Validate(); });
   lblDiagram.click.connect([this] { lblDiagram_Click(); });
   offer("SetData", [this] { SetData(); });
   offer("OtherTabClicked", [this] { OtherTabClicked(); });
@@ -292,7 +285,7 @@ void TabPower::LayOut() {
                              item(chkSecondOff),
                              indented({
                                  row({rest(ctlCommands(iSecondOffCommand)), item(lblSecondOff(0)),
-                                      wide(txtSecondOff, 570), item(lblSecondOff(1))}),
+                                      wide(txtSecondOff, lNumberBoxWidth), item(lblSecondOff(1))}),
                              }),
                          }),
                          gap(60),

@@ -70,9 +70,7 @@ class TabPower : public WizardStep {
                                                  {{0, fraAll, "after"}, {1, fraAll, "seconds"}}};
   forms::TextBox txtSecondOff{fraAll, "txtSecondOff"};
   forms::Label lblDiagram{fraAll, "lblDiagram", "Show Diagram..."};
-  HintFrame frameInfo{
-      *this,
-      "Before configuring Power Control add a Display Device on the \"Display Device\" step."};
+  HintFrame frameInfo{*this, HintToAddDisplay("Power Control")};
 
   bool m_bLoading = false;
   bool m_bSecondOff = false;

@@ -5,7 +5,6 @@
 #include "common/CommonFunctions.h"
 #include "forms/Application.h"
 #include "forms/Rows.h"
-#include "forms/Text.h"
 #include "host/Numbers.h"
 
 namespace steps {
@@ -13,15 +12,13 @@ namespace {
 
 using addin::gAddIn;
 
-constexpr std::int32_t lLongTitle = 20;  // characters; a longer title takes two lines
 constexpr forms::Size sizeOfBackground{2400, 3360};
 
 }  // namespace
 
 TabStart::TabStart(forms::Container& container, std::string strName)
     : WizardStep(container, std::move(strName), "Start", host::helpStartTab) {
-  lblBanner.setCaption(gAddIn().IAddInContract_Title());
-  lblBanner.setFont({.points = 20, .bold = true});
+  MakeTitle(lblBanner);
   lblVersion.setCaption("v" + gAddIn().GetVersion());
   lblDescription.setCaption(gAddIn().GetDescription());
   lblContinue.setFont({.bold = true});
@@ -60,9 +57,7 @@ void TabStart::LayOut() {
                            item(imgBackground, sizeOfBackground),
                        }),
                    });
-  if (length(lblBanner.caption()) > lLongTitle) {
-    lblBanner.setBounds({lblBanner.bounds().left, 300, lblBanner.bounds().width, 1155});
-  }
+  FitTitle(lblBanner);
 }
 
 }  // namespace steps

@@ -2,7 +2,9 @@
 
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "forms/Application.h"
 #include "forms/Rows.h"
+#include "forms/Text.h"
 
 namespace steps {
 
@@ -20,17 +22,33 @@ void WizardStep::MakeBanner(forms::Label& lblBanner) {
   lblBanner.setBackColor(forms::colors::highlight);
 }
 
-std::shared_ptr<host::Device> WizardStep::FindDisplay() {
-  return addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+void WizardStep::MakeTitle(forms::Label& lblBanner) {
+  lblBanner.setCaption(addin::gAddIn().IAddInContract_Title());
+  lblBanner.setFont({.points = 20, .bold = true});
 }
 
-TabEmpty::TabEmpty(forms::Container& container, std::string strName, std::string strTabName,
-                   std::int16_t iHelpContextID)
-    : WizardStep(container, std::move(strName), std::move(strTabName), iHelpContextID) {
-  lblBanner.setCaption(" " + iTab_GetTabName());
-  MakeBanner(lblBanner);
-  forms::layOut(pageArea, {forms::rest(lblBanner)});
-  offer("SetData", [] {});
+void WizardStep::FitTitle(forms::Label& lblBanner) {
+  constexpr std::int32_t lLongTitle = 20;  // characters
+  if (forms::length(lblBanner.caption()) <= lLongTitle) return;
+  lblBanner.setBounds({lblBanner.bounds().left, 300, lblBanner.bounds().width, 1155});
+}
+
+const forms::Picture& WizardStep::LargePicture(std::int32_t iPicture) {
+  return addin::frmImages().get_ImageListLarge().item(iPicture);
+}
+
+void WizardStep::OnEnter(forms::TextBox& box, const std::function<void()>& action) {
+  box.keyDown.connect([action](forms::KeyDown& key) {
+    if (key.code == forms::keys::enter) action();
+  });
+}
+
+void WizardStep::Inform(const std::string& strText) {
+  forms::Application::current().messageBox(strText, forms::Buttons::ok, forms::Icon::information);
+}
+
+std::shared_ptr<host::Device> WizardStep::FindDisplay() {
+  return addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
 }
 
 }  // namespace steps

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "forms/Geometry.h"
 #include "forms/Label.h"
+#include "forms/Picture.h"
+#include "forms/TextBox.h"
 #include "forms/UserControl.h"
 #include "host/Device.h"
 #include "host/iTab.h"
@@ -15,6 +18,10 @@ namespace steps {
 /// The part of a step that the window shows, in twips from the step's own corner: the strip's
 /// headers hide what is above, the window's edge what is at the right.
 inline constexpr forms::Rect pageArea{60, 340, 6900, 5500};
+
+/// The size at which a page shows a picture of the large list, and a box for a number.
+inline constexpr forms::Size sizeOfPicture{480, 480};
+inline constexpr forms::Twips lNumberBoxWidth = 570;
 
 /// What all steps answer alike. A step shows an icon nowhere and stores no id.
 class WizardStep : public forms::UserControl, public host::iTab {
@@ -32,6 +39,19 @@ class WizardStep : public forms::UserControl, public host::iTab {
  protected:
   /// The heading at the top of a page.
   static void MakeBanner(forms::Label& lblBanner);
+  /// The heading of the first and the last page, which is the add-in's title.
+  static void MakeTitle(forms::Label& lblBanner);
+  /// After the page was laid out: a long title takes two lines.
+  static void FitTitle(forms::Label& lblBanner);
+
+  /// A picture of the large list by its number.
+  static const forms::Picture& LargePicture(std::int32_t iPicture);
+
+  /// What Enter does in a box; the key still does what it does elsewhere.
+  static void OnEnter(forms::TextBox& box, const std::function<void()>& action);
+
+  /// A message that informs and refuses nothing.
+  static void Inform(const std::string& strText);
 
   /// The display; nothing while none is chosen.
   static std::shared_ptr<host::Device> FindDisplay();
@@ -39,20 +59,6 @@ class WizardStep : public forms::UserControl, public host::iTab {
  private:
   std::string m_strTabName;
   std::int16_t m_iHelpContextID;
-};
-
-/// A step that asks nothing.
-class TabEmpty : public WizardStep {
- public:
-  TabEmpty(forms::Container& container, std::string strName, std::string strTabName,
-           std::int16_t iHelpContextID);
-
-  bool iTab_SaveData() override { return false; }
-  bool iTab_VerifyData(bool) override { return true; }
-  void iTab_TabClicked() override {}
-
- private:
-  forms::Label lblBanner{*this, "lblBanner"};
 };
 
 }  // namespace steps

@@ -6,16 +6,22 @@
 
 #include "addin/Pictures.h"
 #include "addin/ProgramBuilder.h"
+#include "addin/TouchpanelWindow.h"
 #include "addin/WizardWindow.h"
 #include "forms/Components.h"
 #include "generator/Generate.h"
-#include "host/Numbers.h"
 #include "shell/frmAddIn.h"
+#include "shell/frmBuildPanels.h"
+#include "steps/TabAudioControl.h"
 #include "steps/TabDisplay.h"
+#include "steps/TabDisplayOptions.h"
+#include "steps/TabFinish.h"
 #include "steps/TabLocation.h"
+#include "steps/TabOrigination.h"
 #include "steps/TabPower.h"
+#include "steps/TabPowerOnOffLockout.h"
+#include "steps/TabRoomOptions.h"
 #include "steps/TabStart.h"
-#include "steps/WizardStep.h"
 #include "steps/frmImages.h"
 #include "steps/frmPreview.h"
 #include "steps/frmVideoTestPattern.h"
@@ -52,15 +58,10 @@ StepEntry step(const char* programId) {
           }};
 }
 
-StepEntry emptyStep(const char* programId, const char* tabName, std::int16_t helpTopic) {
-  return {programId, [=](forms::Container& container, const std::string& name) {
-            return std::make_unique<steps::TabEmpty>(container, name, tabName, helpTopic);
-          }};
-}
-
 std::vector<ClassEntry> objectClasses() {
   return {
       objectClass<shell::frmAddIn, addin::WizardWindow>(addin::progIDWizardWindow),
+      objectClass<shell::frmBuildPanels, addin::TouchpanelWindow>(addin::progIDTouchpanelWindow),
       objectClass<generator::Generate, addin::ProgramBuilder>(addin::progIDProgramBuilder),
       objectClass<steps::frmImages, addin::PictureLists>(addin::progIDPictureLists),
       objectClass<steps::frmPreview, addin::PictureWindow>(addin::progIDPreview),
@@ -73,14 +74,13 @@ std::vector<StepEntry> stepClasses() {
       step<steps::TabStart>("AddInOrlena.TabStart"),
       step<steps::TabLocation>("AddInOrlena.TabLocation"),
       step<steps::TabDisplay>("AddInOrlena.TabDisplay"),
-      emptyStep("AddInOrlena.TabAudioControl", "Audio Control", host::helpAudioControlTab),
+      step<steps::TabAudioControl>("AddInOrlena.TabAudioControl"),
       step<steps::TabPower>("AddInOrlena.TabPower"),
-      emptyStep("AddInOrlena.TabPowerOnOffLockout", "Power On/Off Lockout",
-                host::helpPowerOnOffLockout),
-      emptyStep("AddInOrlena.TabDisplayOptions", "Display Options", host::helpDisplayOptionsTab),
-      emptyStep("AddInOrlena.TabOrigination", "Orlena Transmitters", host::helpOriginationPointTab),
-      emptyStep("AddInOrlena.TabRoomOptions", "Room Options", host::helpRoomOptions),
-      emptyStep("AddInOrlena.TabFinish", "Finish", host::helpFinishTab),
+      step<steps::TabPowerOnOffLockout>("AddInOrlena.TabPowerOnOffLockout"),
+      step<steps::TabDisplayOptions>("AddInOrlena.TabDisplayOptions"),
+      step<steps::TabOrigination>("AddInOrlena.TabOrigination"),
+      step<steps::TabRoomOptions>("AddInOrlena.TabRoomOptions"),
+      step<steps::TabFinish>("AddInOrlena.TabFinish"),
   };
 }
 

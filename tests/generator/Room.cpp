@@ -1,5 +1,9 @@
 #include "tests/generator/Room.h"
 
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 #include "addin/modGlobals.h"
@@ -8,8 +12,6 @@
 
 namespace tests {
 namespace {
-
-constexpr std::int16_t displayEntry = 1105;
 
 const std::filesystem::path& dataFolder() {
   static const std::filesystem::path folder = std::filesystem::path(ORLENA_SOURCE_FOLDER) / "data";
@@ -23,10 +25,33 @@ std::shared_ptr<const trellisar::DeviceLibrary> library() {
   return shared;
 }
 
+class NoModules : public host::LibraryManager {
+ public:
+  std::shared_ptr<host::DeviceTypes> get_DeviceTypes() const override { return nullptr; }
+  std::shared_ptr<host::Models> get_Models() const override { return nullptr; }
+  std::vector<std::shared_ptr<host::LibraryModule>> get_Modules() const override { return {}; }
+  std::string get_PicturesFolder() const override { return {}; }
+};
+
 }  // namespace
 
 std::filesystem::path templateSystem() {
   return dataFolder() / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
+}
+
+/// The template with something in it under another name.
+std::filesystem::path templateWithout(const std::string& name) {
+  std::stringstream text;
+  text << std::ifstream(templateSystem()).rdbuf();
+  std::string system = text.str();
+  const std::string quoted = "\"" + name + "\"";
+  for (auto at = system.find(quoted); at != std::string::npos; at = system.find(quoted, at)) {
+    system.replace(at, quoted.size(), "\"Another " + name + "\"");
+  }
+  const auto file = std::filesystem::path(testing::TempDir()) / "generator" / (name + ".tsy");
+  std::filesystem::create_directories(file.parent_path());
+  std::ofstream(file) << system;
+  return file;
 }
 
 Room::Room(const std::filesystem::path& system)
@@ -58,8 +83,8 @@ std::int16_t Room::addDevice(const std::string& name, std::int16_t controlEntry)
   return arguments.iDeviceID;
 }
 
-void Room::givenDisplay(std::int16_t powerControl) {
-  addIn_->put_DisplayDeviceID(addDevice("Display Device", displayEntry));
+void Room::givenDisplay(std::int16_t powerControl, std::int16_t controlEntry) {
+  addIn_->put_DisplayDeviceID(addDevice("Display Device", controlEntry));
   display()->put_PowerControlType(powerControl);
 }
 
@@ -68,6 +93,8 @@ void Room::givenNoCommand(std::int16_t device, std::int16_t standardCommand) {
   document().get_Devices()->Item(device)->SetCommandName(std::to_string(standardCommand), "",
                                                          changed);
 }
+
+void Room::givenNoModules() { addin::SetLibraryManager(std::make_shared<NoModules>()); }
 
 void Room::givenRelay() {
   addIn_->AddPowerRelay();
@@ -110,57 +137,10 @@ std::shared_ptr<host::Preset> Room::preset(const std::string& name) const {
   return document().get_Presets()->FindByName(name);
 }
 
-std::string Room::steps(const std::string& presetName) const {
-  const auto found = preset(presetName);
-  return found ? steps(*found) : "absent";
-}
-
-std::string Room::steps(const host::Preset& preset) const {
-  std::string text;
-  for (const auto& next : preset.get_Steps()) text += (text.empty() ? "" : "; ") + step(*next);
-  return text;
-}
-
-std::string Room::nameOf(std::int16_t id) const {
-  if (id == addIn_->get_ReceiverID()) return "Receiver";
-  const auto device = document().get_Devices()->ItemByID(id);
-  if (!device) return "?";
-  return device->get_ShortName().empty() ? device->get_Name() : device->get_ShortName();
-}
-
-std::string Room::step(const host::Step& step) const {
-  const auto presets = document().get_Presets();
-  switch (step.get_Kind()) {
-    case host::stepCallPreset:
-      return "call " + presets->ItemByID(step.get_TargetID())->get_Name();
-    case host::stepDelay:
-      return nameOf(static_cast<std::int16_t>(step.get_TargetID())) + " waits " + step.get_Value();
-    case host::stepConditional: {
-      const host::StepCondition test = *step.get_Conditions()->Items().front();
-      return "if " + nameOf(test.get_DeviceID()) + "." + test.get_SignalName() + "=" +
-             std::to_string(test.get_Value()) + " { " +
-             steps(*presets->ItemByID(step.get_SubPresetID())) + " }";
-    }
-    default:
-      return nameOf(static_cast<std::int16_t>(step.get_TargetID())) + "." + step.get_SignalName() +
-             (step.get_Value().empty() ? "" : "~" + step.get_Value());
-  }
-}
-
-std::string Room::receiverEvent(const std::string& output) const {
-  const auto signal =
-      document().get_Signals()->Find(addIn_->get_ReceiverID(), output, "", host::signalDigital);
-  return signal ? steps(*signal->GetEvent(host::eventHigh)->get_Preset()) : "absent";
-}
-
-std::string Room::program() const {
-  std::string text;
-  for (const char* name :
-       {"System Power On", "System Power Off", "Display Power On", "Display Power Off"}) {
-    text += std::string(name) + ": " + steps(name) + "\n";
-  }
-  return text + "Powered_On: " + receiverEvent("Powered_On") +
-         "\nPowered_Off: " + receiverEvent("Powered_Off") + "\n";
+std::string Room::at(const std::string& place) const {
+  const Program all = program();
+  const auto found = all.find(place);
+  return found == all.end() ? "" : found->second;
 }
 
 std::int32_t Room::parts(std::int32_t part) const {

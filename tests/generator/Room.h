@@ -9,32 +9,30 @@
 #include "addin/IAddIn.h"
 #include "generator/Generate.h"
 #include "host/Numbers.h"
+#include "tests/generator/Program.h"
 #include "trellisar/Host.h"
 
 namespace tests {
 
 /// The template that the host ships.
 std::filesystem::path templateSystem();
+/// The template with something in it under another name.
+std::filesystem::path templateWithout(const std::string& name);
 
 /// A room whose program is built: the open system of a host of its own, and the add-in with the
 /// answers. It begins as the template, without a display, and becomes the thread's current one when
 /// it is made.
-///
-/// What a preset holds is read in a short notation, steps separated by "; ":
-///
-///     Display Device.Power_On~10          a command, and its value if it has one
-///     Power Relay waits 500               a delay in hundredths of a second
-///     call Display Power On
-///     if Receiver.RGB_Selected=1 { ... }
 class Room {
  public:
   explicit Room(const std::filesystem::path& system = templateSystem());
   ~Room();
 
   /// A display with discrete power, the command POWER, and both inputs.
-  void givenDisplay(std::int16_t powerControl);
+  void givenDisplay(std::int16_t powerControl, std::int16_t controlEntry = 1105);
   /// Takes a standard command away from a device.
   void givenNoCommand(std::int16_t device, std::int16_t standardCommand);
+  /// The library of the host has no modules.
+  void givenNoModules();
   /// On after 5 s, off after 90 s.
   void givenRelay();
   /// The command RGB_1, of all things, after 3 s.
@@ -48,11 +46,10 @@ class Room {
   std::vector<std::string> warnings() const;
 
   std::shared_ptr<host::Preset> preset(const std::string& name) const;
-  std::string steps(const std::string& presetName) const;
-  std::string steps(const host::Preset& preset) const;
-  std::string receiverEvent(const std::string& output) const;
-  /// All four power presets and the two events, for comparing whole programs.
-  std::string program() const;
+  /// What the program holds at a place, which a Program names; empty: nothing.
+  std::string at(const std::string& place) const;
+  Program program() const { return programOf(data()); }
+  const trellisar::DocumentData& data() const { return host_.document()->data(); }
   /// How many of the part the receiver's bill entry names.
   std::int32_t parts(std::int32_t part) const;
 
@@ -63,8 +60,6 @@ class Room {
 
  private:
   std::int16_t addDevice(const std::string& name, std::int16_t controlEntry);
-  std::string nameOf(std::int16_t id) const;
-  std::string step(const host::Step& step) const;
 
   trellisar::Host host_;
   std::shared_ptr<addin::IAddIn> addIn_ = std::make_shared<addin::IAddIn>();

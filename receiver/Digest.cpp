@@ -1,0 +1,36 @@
+#include "receiver/Digest.h"
+
+#include <sodium.h>
+
+#include <array>
+
+#include "receiver/Error.h"
+
+namespace receiver {
+
+void prepareSodium() {
+  if (sodium_init() < 0) throw Error("This machine gives no random numbers.");
+}
+
+Digest::Digest() { crypto_hash_sha256_init(&state_); }
+
+void Digest::add(std::string_view bytes) {
+  // The library's own type of a byte.
+  crypto_hash_sha256_update(&state_, reinterpret_cast<const unsigned char*>(bytes.data()),
+                            bytes.size());
+}
+
+std::string Digest::finish() {
+  std::array<unsigned char, crypto_hash_sha256_BYTES> hash{};
+  crypto_hash_sha256_final(&state_, hash.data());
+  std::array<char, 2 * crypto_hash_sha256_BYTES + 1> text{};
+  return sodium_bin2hex(text.data(), text.size(), hash.data(), hash.size());
+}
+
+std::string Digest::of(std::string_view bytes) {
+  Digest digest;
+  digest.add(bytes);
+  return digest.finish();
+}
+
+}  // namespace receiver

@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/Application.h"
+#include "forms/Components.h"
+#include "tests/generator/Room.h"
+#include "tests/support/ScriptedDesktop.h"
+
+namespace {
+
+using tests::Room;
+
+class ProgramTest : public testing::Test {
+ protected:
+  tests::ScriptedDesktop desktop;
+  forms::Application application{desktop, "\\program"};
+
+  /// The EXAMPLE system, which has a panel without a project of its own.
+  static std::filesystem::path systemWithPanel() {
+    return std::filesystem::path(ORLENA_SOURCE_FOLDER) /
+           "data/TemplateSystems/Orlena EXAMPLE/Orlena EXAMPLE.tsy";
+  }
+};
+
+TEST_F(ProgramTest, panelsWithoutAProjectAreDisabledWhileTheRoomIsNotReady) {
+  Room room(systemWithPanel());
+  room.givenDisplay(host::powerDiscrete);
+  room.addIn().put_PowerOnLockoutTime(30);
+  room.addIn().put_PowerContactClosureOption(addin::contactContinue);
+  room.addIn().AddFenlet();  // a project panel, which has no such step
+  ASSERT_TRUE(room.build()) << room.builder().GetLastError();
+  const std::string panel = room.document().get_Touchpanels()->Items().front()->get_Name();
+  const std::string off = panel + ".Enabled~-2", on = panel + ".Enabled~-1";
+  EXPECT_EQ(room.at("PWRTIMEOUT.Warming_Up 0"), off);
+  EXPECT_TRUE(room.at("PWRTIMEOUT.Warming_Up 1").ends_with("}; " + on));
+  EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 0"), "Receiver.Lock; " + off);
+  EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 1"),
+            "if Digital Input 2.dig_input_1=1 { Receiver.Unlock; " + on + " }");
+  EXPECT_EQ(room.at("System Lock"), "Receiver.Lock; " + off);
+  EXPECT_EQ(room.at("System Unlock"), "Receiver.Unlock; " + on);
+}
+
+TEST_F(ProgramTest, eachInputReportsItsErrorsOnTheReceiverWithThreeInputs) {
+  for (const std::int16_t model : {host::modelReceiverOneInput, host::modelReceiverThreeInputs}) {
+    Room room;
+    std::string message;
+    room.document().ChangeControlSystem(model, "", 0, message);
+    room.addIn().AddKestrum();
+    ASSERT_TRUE(room.build());
+    for (const std::string input : {"Input1", "Input2", "Input3"}) {
+      const auto text = [&](const std::string& severity, const std::string& what) {
+        return model == host::modelReceiverOneInput
+                   ? ""
+                   : "Kestrum Interface.Set_Error_Message_Severity~" + severity +
+                         "; Kestrum Interface.Send_Error_Message~" + input + " Error " + what;
+      };
+      EXPECT_EQ(room.at("Receiver." + input + "_Error 0"), text("3", "Detected")) << model;
+      EXPECT_EQ(room.at("Receiver." + input + "_Error 1"), text("0", "Corrected")) << model;
+    }
+  }
+}
+
+TEST_F(ProgramTest, lampHoursComeFromTheFirstOutputThatTheDisplayHas) {
+  struct Case {
+    std::int16_t display;
+    std::string source;
+    std::vector<std::string> warnings;
+  };
+  const std::string warning =
+      "1 Display device does not have a Lamp_Hours, LampHours, or Lamp_Hours_Analog output.\r\n"
+      "Therefore, this feature will not be available from Kestrum.";
+  constexpr std::int16_t allNames = 1704, otherName = 1105, noLamp = 1305;
+  for (const Case& c :
+       {Case{allNames, "Display Device.Lamp_Hours", {}},
+        Case{otherName, "Display Device.LampHours", {}}, Case{noLamp, "", {warning}}}) {
+    Room room;
+    room.givenDisplay(host::powerNone, c.display);
+    room.addIn().AddKestrum();
+    ASSERT_TRUE(room.build());
+    EXPECT_EQ(room.at("Kestrum Interface.Display_Usage <-"), c.source) << c.display;
+    EXPECT_EQ(room.warnings(), c.warnings) << c.display;
+  }
+}
+
+TEST_F(ProgramTest, audioAnswersBecomePropertiesAndMutingStaysOnTheInput) {
+  Room room;
+  room.addIn().put_VolumeKnobControl(true);
+  room.addIn().put_bMuteOnDigInp3(1);
+  ASSERT_TRUE(room.build());
+  EXPECT_EQ(room.at("Receiver is Volume Knob Control"), "1d");
+  EXPECT_EQ(room.at("Receiver is Mic Mode Control"), "0d");
+  EXPECT_EQ(room.at("Digital Input 3.dig_input_1 0"), "Receiver.Volume_Mute_On");
+  EXPECT_EQ(room.at("Digital Input 3.dig_input_1 1"), "Receiver.Volume_Mute_Off");
+  room.addIn().put_VolumeKnobControl(false);
+  room.addIn().put_bMuteOnDigInp3(0);
+  ASSERT_TRUE(room.build());
+  EXPECT_EQ(room.at("Receiver is Volume Knob Control"), "0d");
+  EXPECT_EQ(room.at("Digital Input 3.dig_input_1 0"), "Receiver.Volume_Mute_On");
+}
+
+TEST_F(ProgramTest, lockPresetsAreEmptiedAndKeepTheirComments) {
+  Room room;
+  const auto lock = room.preset("System Lock");
+  lock->put_Comment("Mine.");
+  lock->InsertStep(1, forms::createObject<host::Step>(host::progIDStep));
+  ASSERT_TRUE(room.build());
+  EXPECT_EQ(room.at("System Lock"), "Receiver.Lock");
+  EXPECT_EQ(lock->get_Comment(), "Mine.");
+  const std::string comment = room.preset("System Unlock")->get_Comment();
+  EXPECT_TRUE(comment.ends_with("locked in the \"System Lock\" preset get unlocked here."));
+}
+
+TEST_F(ProgramTest, lockoutModuleOfAnEarlierRunIsFoundAndHidden) {
+  Room room;
+  room.givenDisplay(host::powerDiscrete);
+  room.addIn().put_PowerOffLockoutTime(90);
+  ASSERT_TRUE(room.build());
+  room.givenNoModules();
+  room.addIn().put_PowerOffLockoutTime(60);
+  ASSERT_TRUE(room.build()) << "the library is not asked again";
+  ASSERT_EQ(room.display()->get_Modules().size(), 1U);
+  EXPECT_FALSE(room.display()->get_Modules().front()->get_ShowInTree());
+  EXPECT_EQ(room.at("PWRTIMEOUT is Cool Down Time"), "60");
+  EXPECT_EQ(room.at("PWRTIMEOUT is Warm Up Time"), "0");
+}
+
+TEST_F(ProgramTest, lockoutWithoutItsModuleStopsTheRun) {
+  Room room;
+  room.givenDisplay(host::powerDiscrete);
+  room.addIn().put_PowerOnLockoutTime(30);
+  room.givenNoModules();
+  EXPECT_FALSE(room.build());
+  EXPECT_EQ(room.builder().GetLastError(), "Failed to add Power On/Off Lockout module.");
+  EXPECT_EQ(room.at("Receiver.RGB_Selected 0"), "Display Device.RGB_1~10") << "written before";
+  EXPECT_EQ(room.at("System Power On"), "") << "not reached";
+}
+
+struct Failure {
+  std::string missing;
+  std::function<void(addin::IAddIn&)> arrange;
+  std::string error;
+};
+
+TEST_F(ProgramTest, whatIsMissingStopsTheRunWithItsText) {
+  const auto nothing = [](addin::IAddIn&) {};
+  const auto kestrum = [](addin::IAddIn& addIn) { addIn.AddKestrum(); };
+  const auto mute = [](addin::IAddIn& addIn) { addIn.put_bMuteOnDigInp3(1); };
+  const auto contact = [](addin::IAddIn& addIn) { addIn.put_PowerContactClosureOption(0); };
+  for (const Failure& c : {
+           Failure{"System Lock", nothing, "Cannot find sequence: System Lock"},
+           Failure{"System Unlock", nothing, "Cannot find sequence: System Unlock"},
+           Failure{"System Unlock", kestrum, ""},  // the trigger fails first, without a text
+           Failure{"Volume Knob Control", nothing, "Failed to find Volume Knob Control"},
+           Failure{"Mic Mode Control", nothing, "Failed to find Mic Mode Control"},
+           Failure{"Volume_Mute_Off", mute,
+                   "Cannot find command Volume_Mute_Off on device Receiver"},
+           Failure{"Digital Input 3", mute, ""},
+           Failure{"Digital Input 2", nothing, ""},  // looked up before the answer is read
+           Failure{"System_Ready_Pulse", contact, ""},
+       }) {
+    Room room(tests::templateWithout(c.missing));
+    c.arrange(room.addIn());
+    EXPECT_FALSE(room.build()) << c.missing;
+    EXPECT_EQ(room.builder().GetLastError(), c.error) << c.missing;
+  }
+}
+
+TEST_F(ProgramTest, sourceThatTheReceiverCanNotReportIsLeftOutAndTheRunGoesOn) {
+  Room room(tests::templateWithout("RGB_Selected"));
+  room.givenDisplay(host::powerNone);
+  room.addIn().put_PowerOnLockoutTime(30);
+  EXPECT_TRUE(room.build());
+  EXPECT_EQ(room.at("Receiver.Composite_Video_Selected 0"), "Display Device.Video_1~10");
+}
+
+}  // namespace

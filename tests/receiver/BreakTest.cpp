@@ -1,0 +1,220 @@
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <fstream>
+#include <vector>
+
+#include "receiver/Error.h"
+#include "receiver/Store.h"
+#include "tests/receiver/Running.h"
+
+namespace tests {
+namespace {
+
+std::vector<receiver::Message> transferOf(const receiver::Program& program, std::size_t chunk) {
+  std::vector<receiver::Message> messages{announcementOf(program)};
+  for (std::size_t i = 0; i < program.bytes.size(); i += chunk) {
+    messages.push_back(receiver::Chunk{program.bytes.substr(i, chunk)});
+  }
+  messages.push_back(receiver::Commit());
+  return messages;
+}
+
+class BreakTest : public testing::Test {
+ protected:
+  Folder folder;
+  receiver::Program before = givenProgram(1);
+  receiver::Program after = givenProgram(2);
+  std::vector<receiver::Message> messages = transferOf(after, 10000);
+};
+
+TEST_F(BreakTest, BetweenFramesLeavesTheOldProgram) {
+  Running running(optionsFor(folder));
+  ASSERT_TRUE(sent(running.address(), before));
+  for (std::size_t count = 0; count < messages.size(); ++count) {
+    Wire wire(running.address());
+    for (std::size_t i = 0; i < count; ++i) {
+      EXPECT_EQ(wire.ask(messages[i]), receiver::Message(receiver::Accepted()));
+    }
+    wire.close();
+    EXPECT_TRUE(holds(running.address(), before)) << count;
+  }
+  EXPECT_TRUE(sent(running.address(), after));
+  EXPECT_TRUE(holds(running.address(), after));
+  running.stop();
+  EXPECT_EQ(receiver::Store(folder.path).program(), after.bytes);
+}
+
+TEST_F(BreakTest, WithinAFrameLeavesTheOldProgram) {
+  after = givenProgram(2, 300);
+  std::string bytes;
+  for (const auto& message : transferOf(after, 100)) {
+    bytes += receiver::writeMessage(message).encode();
+  }
+  Running running(optionsFor(folder));
+  ASSERT_TRUE(sent(running.address(), before));
+  for (std::size_t length = 0; length < bytes.size(); length += 7) {
+    Wire wire(running.address());
+    wire.send(std::string_view(bytes).substr(0, length));
+    if (length % 2 == 0) {
+      wire.endSending();
+      while (!wire.isClosed()) {
+      }
+    }
+    wire.close();
+  }
+  EXPECT_TRUE(holds(running.address(), before));
+  EXPECT_TRUE(sent(running.address(), after));
+  EXPECT_TRUE(holds(running.address(), after));
+  running.stop();
+  // Every broken transfer has taken away what it had written.
+  for (const auto& entry : std::filesystem::directory_iterator(folder.path)) {
+    EXPECT_NE(entry.path().extension(), ".saving") << entry.path();
+  }
+}
+
+/// A receiver in a process of its own, which can be killed.
+class Child {
+ public:
+  explicit Child(const Folder& folder) {
+    int ends[2];
+    if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+    process_ = fork();
+    if (process_ == 0) serve(folder, ends[1]);
+    close(ends[1]);
+    address_.host = "127.0.0.1";
+    EXPECT_EQ(read(ends[0], &address_.port, sizeof address_.port),
+              static_cast<ssize_t>(sizeof address_.port));
+    close(ends[0]);
+  }
+  ~Child() { end(SIGKILL); }
+  Child(const Child&) = delete;
+  Child& operator=(const Child&) = delete;
+
+  /// The status with which it ended.
+  int end(int signal) {
+    int status = 0;
+    if (process_ <= 0) return status;
+    kill(process_, signal);
+    waitpid(process_, &status, 0);
+    process_ = -1;
+    return status;
+  }
+  const receiver::Address& address() const { return address_; }
+
+ private:
+  [[noreturn]] static void serve(const Folder& folder, int out) {
+    try {
+      auto options = optionsFor(folder);
+      options.stopOnSignals = true;
+      receiver::Server server(options);
+      const std::uint16_t port = server.port();
+      if (write(out, &port, sizeof port) == sizeof port) server.run();
+      _exit(0);
+    } catch (...) {
+      _exit(1);
+    }
+  }
+
+  pid_t process_ = -1;
+  receiver::Address address_;
+};
+
+TEST_F(BreakTest, KilledReceiverHasTheOldProgramWhole) {
+  for (std::size_t count = 0; count < messages.size(); ++count) {
+    Child child(folder);
+    const bool first = count == 0;
+    ASSERT_TRUE(!first || sent(child.address(), before));
+    Wire wire(child.address());
+    for (std::size_t i = 0; i < count; ++i) {
+      EXPECT_EQ(wire.ask(messages[i]), receiver::Message(receiver::Accepted()));
+    }
+    child.end(SIGKILL);
+    receiver::Store store(folder.path);
+    EXPECT_EQ(store.warning(), "");
+    EXPECT_EQ(store.program(), before.bytes) << count;
+  }
+  Child child(folder);
+  EXPECT_TRUE(sent(child.address(), after));
+  EXPECT_TRUE(holds(child.address(), after));
+}
+
+TEST_F(BreakTest, ReceiverKilledWhileItStoresHasOneOfThemWhole) {
+  for (int round = 0; round < 12; ++round) {
+    Child child(folder);
+    ASSERT_TRUE(sent(child.address(), before));
+    Wire wire(child.address());
+    for (std::size_t i = 0; i + 1 < messages.size(); ++i) wire.ask(messages[i]);
+    wire.send(messages.back());
+    std::this_thread::sleep_for(round * 300us);
+    child.end(SIGKILL);
+    receiver::Store store(folder.path);
+    EXPECT_EQ(store.warning(), "");
+    const std::string bytes = store.program();
+    EXPECT_TRUE(bytes == before.bytes || bytes == after.bytes);
+  }
+}
+
+TEST_F(BreakTest, TransferToAReceiverThatIsKilledIsToldAndTheNextWorks) {
+  Child child(folder);
+  std::vector<receiver::Outcome> ends;
+  receiver::Transfer transfer(
+      child.address(), givenProgram(2, 4000000),
+      {.progress = [&](std::uint64_t, std::uint64_t) { child.end(SIGKILL); },
+       .ended = [&](const receiver::Outcome& outcome) { ends.push_back(outcome); }});
+  while (transfer.poll(10ms)) {
+  }
+  ASSERT_EQ(ends.size(), 1U);
+  EXPECT_EQ(ends[0].kind, receiver::Outcome::Kind::failed);
+  EXPECT_NE(ends[0].message.find("broke off"), std::string::npos) << ends[0].message;
+  Child next(folder);
+  EXPECT_TRUE(sent(next.address(), after));
+}
+
+TEST_F(BreakTest, SignalEndsTheReceiverCleanly) {
+  for (const int signal : {SIGTERM, SIGINT}) {
+    Child child(folder);
+    Wire idle(child.address());
+    ASSERT_TRUE(sent(child.address(), before));
+    EXPECT_EQ(child.end(signal), 0);
+  }
+}
+
+void writeFile(const std::filesystem::path& path, std::string_view text) {
+  std::ofstream(path, std::ios::binary) << text;
+}
+
+TEST_F(BreakTest, DamagedFilesAreToldAndMended) {
+  {
+    Running running(optionsFor(folder));
+    ASSERT_TRUE(sent(running.address(), before));
+    ASSERT_TRUE(receiver::setPassword(running.address(), "secret"));
+  }
+  std::filesystem::resize_file(folder.path / "program", 20000);
+  writeFile(folder.path / "password", "nonsense");
+  writeFile(folder.path / ".program-7.saving", "left behind");
+  Running running(optionsFor(folder));
+  EXPECT_NE(running.warning().find("program is damaged"), std::string::npos);
+  EXPECT_NE(running.warning().find("password is damaged"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(folder.path / ".program-7.saving"));
+  EXPECT_EQ(holdingsOf(running.address()), (receiver::Holdings{{}, true, {}}));
+  EXPECT_FALSE(receiver::checkPassword(running.address(), "nonsense"));
+  EXPECT_TRUE(receiver::setPassword(running.address(), ""));
+  EXPECT_TRUE(sent(running.address(), before));
+  EXPECT_TRUE(holds(running.address(), before));
+}
+
+TEST_F(BreakTest, FolderBelongsToOneReceiver) {
+  Running running(optionsFor(folder));
+  EXPECT_THROW(receiver::Server server(optionsFor(folder)), receiver::Error);
+  Folder other;
+  auto taken = optionsFor(other);
+  taken.listen = running.address();
+  EXPECT_THROW(receiver::Server server(taken), receiver::Error);
+  taken.folder = "/proc/nowhere";
+  EXPECT_THROW(receiver::Server server(taken), receiver::Error);
+}
+
+}  // namespace
+}  // namespace tests

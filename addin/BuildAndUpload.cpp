@@ -6,11 +6,6 @@
 namespace addin {
 namespace {
 
-// What the host is told in advance.
-constexpr std::int16_t iQueryResponses[] = {6, 4};
-constexpr std::int16_t iTransferWhat = 0;
-constexpr std::int16_t iTransferMode = 2;
-
 void Warn(const std::string& strText, const std::string& strCaption = {}) {
   forms::Application::current().messageBox(strText, forms::Buttons::ok, forms::Icon::exclamation,
                                            strCaption);
@@ -64,9 +59,11 @@ void IAddIn::ExportProgram(std::int32_t& hwnd) {
 
 void IAddIn::UploadProgram(std::int32_t& hwnd) {
   gOwnerForm().SetupSystemManager(hwnd, {});
-  for (const std::int16_t iResponse : iQueryResponses) gOwnerForm().SetQueryResponse(iResponse);
-  gCommObject().StartTransfer(iTransferWhat, gDocument().get_SystemInfo()->get_UploadHandle(),
-                              iTransferMode);
+  // Answers that the host gets in advance.
+  gOwnerForm().SetQueryResponse(host::queryResponseYes);
+  gOwnerForm().SetQueryResponse(host::queryResponseRetry);
+  gCommObject().StartTransfer(host::transferAll, gDocument().get_SystemInfo()->get_UploadHandle(),
+                              host::transferProgram);
 }
 
 /// The password goes to the receiver after every transfer, also when there is none to set.
@@ -77,6 +74,6 @@ void IAddIn::m_clsComm_OnTransferComplete(std::int16_t) {
        "and try again.");
 }
 
-void IAddIn::ShowReports() { gOwnerForm().ShowReportsDialog("Bill of Materials,Connection Sheet"); }
+void IAddIn::ShowReports() { gOwnerForm().ShowReportsDialog(host::reportsAll); }
 
 }  // namespace addin

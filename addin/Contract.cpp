@@ -26,14 +26,18 @@ void ShowPicture(const char* strProgID, const std::string& strCaption, std::int1
 }  // namespace
 
 IAddIn::IAddIn() {
+  AddInCreated();
   forms::Application::current().setTitle(IAddInContract_Title());
   m_iPreviewImage = previewProduct;
   ResetSettings();
 }
 
 IAddIn::~IAddIn() {
-  if (!IsLibraryManagerSet()) return;
-  forms::ignoringErrors([] { gLibraryManager().get_DeviceTypes()->put_DeviceFilter({}); });
+  if (IsLibraryManagerSet()) {
+    forms::ignoringErrors([] { gLibraryManager().get_DeviceTypes()->put_DeviceFilter({}); });
+  }
+  m_frmAddIn.reset();
+  AddInEnded();
 }
 
 void IAddIn::IAddInContract_Load(const std::shared_ptr<host::Document>& clsDocument,

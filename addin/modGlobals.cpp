@@ -9,6 +9,7 @@ namespace addin {
 namespace {
 
 struct Globals {
+  int nAddIns = 0;
   std::weak_ptr<IAddIn> clsAddIn;
   std::shared_ptr<host::Document> clsDocument;
   std::shared_ptr<host::LibraryManager> clsLibraryManager;
@@ -26,6 +27,13 @@ Object& Require(const std::shared_ptr<Object>& oObject, const char* strMissing) 
 }
 
 }  // namespace
+
+void AddInCreated() { ++Current().nAddIns; }
+
+void AddInEnded() {
+  if (!forms::Application::exists() || Current().nAddIns == 0) return;
+  if (--Current().nAddIns == 0) forms::Application::current().endLocal<Globals>();
+}
 
 IAddIn& gAddIn() { return Require(Current().clsAddIn.lock(), "The wizard isn't running."); }
 void SetAddIn(const std::shared_ptr<IAddIn>& clsAddIn) { Current().clsAddIn = clsAddIn; }

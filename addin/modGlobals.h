@@ -17,6 +17,11 @@ namespace addin {
 
 class IAddIn;
 
+/// Each add-in object of the thread calls these at its start and at its end. The last one takes all
+/// that the globals hold with it, so that the component can be unloaded.
+void AddInCreated();
+void AddInEnded();
+
 /// The add-in that runs, or ran last; it is not kept alive.
 IAddIn& gAddIn();
 void SetAddIn(const std::shared_ptr<IAddIn>& clsAddIn);

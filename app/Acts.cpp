@@ -7,6 +7,7 @@
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/OptionButton.h"
+#include "forms/Text.h"
 #include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
 
@@ -18,6 +19,19 @@ std::string textOf(const Answer& answer) {
 }
 
 bool isTicked(const Answer& answer) { return answer.value.is_object() || answer.value.get<bool>(); }
+
+void setTicked(const Page& page, const std::string& checkBox, const Answer& answer, bool ticked) {
+  auto& box = page.usable<forms::CheckBox>(checkBox, answer);
+  if (box.isChecked() != ticked) page.user().click(box);
+}
+
+/// Whether a device or a touch panel of this name hangs on the receiver.
+bool isInSystem(const Page& page, const std::string& name) {
+  const host::Document& document = page.hands().document();
+  const std::string receiver = document.get_ControlSystem()->get_Name();
+  return document.get_Devices()->FindByName(name, receiver) ||
+         document.get_Touchpanels()->FindByName(name, receiver);
+}
 
 /// The commands that the selector offers, without the entry for "nothing assigned".
 std::vector<std::string> offeredBy(const forms::DropDownList& list) {
@@ -53,18 +67,45 @@ Act enter(std::string answer, std::string textBox) {
 Act tick(std::string answer, std::string checkBox) {
   return {std::move(answer),
           [checkBox](const Page& page, const Answer& given) {
-            auto& box = page.usable<forms::CheckBox>(checkBox, given);
-            if (box.isChecked() != isTicked(given)) page.user().click(box);
+            setTicked(page, checkBox, given, isTicked(given));
           },
           [checkBox](const Page& page, const Answer& given) {
             return page.control<forms::CheckBox>(checkBox).isChecked() == isTicked(given);
           }};
 }
 
-Act chooseOption(std::string answer, std::vector<std::pair<std::string, std::string>> buttons) {
+Act include(std::string answer, std::string checkBox, std::string deviceName) {
+  Act act = tick(std::move(answer), std::move(checkBox));
+  act.isHeld = [isShown = std::move(act.isHeld), deviceName](const Page& page,
+                                                             const Answer& given) {
+    return isShown(page, given) && isInSystem(page, deviceName) == isTicked(given);
+  };
+  return act;
+}
+
+Act enterBehind(std::string answer, std::string checkBox, std::string textBox) {
+  const auto isWanted = [](const Answer& given) {
+    return textOf(given) != "" && textOf(given) != "0";
+  };
+  return {std::move(answer),
+          [=](const Page& page, const Answer& given) {
+            setTicked(page, checkBox, given, isWanted(given));
+            if (!isWanted(given)) return;
+            page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
+          },
+          [=](const Page& page, const Answer& given) {
+            if (page.control<forms::CheckBox>(checkBox).isChecked() != isWanted(given)) {
+              return false;
+            }
+            const std::string& shown = page.control<forms::TextBox>(textBox).text();
+            return !isWanted(given) || forms::trimmed(shown) == forms::trimmed(textOf(given));
+          }};
+}
+
+Act chooseOption(std::string answer, std::vector<OptionWord> buttons) {
   const auto buttonFor = [buttons = std::move(buttons)](const Answer& given) {
     return std::find_if(buttons.begin(), buttons.end(),
-                        [&](const auto& entry) { return entry.first == given.text(); })
+                        [&](const OptionWord& entry) { return entry.first == given.text(); })
         ->second;
   };
   return {std::move(answer),
@@ -73,6 +114,23 @@ Act chooseOption(std::string answer, std::vector<std::pair<std::string, std::str
           },
           [buttonFor](const Page& page, const Answer& given) {
             return page.control<forms::OptionButton>(buttonFor(given)).isChosen();
+          }};
+}
+
+Act chooseOptionBehind(std::string answer, std::string off, std::string checkBox,
+                       std::vector<OptionWord> buttons) {
+  const Act choice = chooseOption(answer, std::move(buttons));
+  const auto isWanted = [off = std::move(off)](const Answer& given) { return given.text() != off; };
+  return {std::move(answer),
+          [=, perform = choice.perform](const Page& page, const Answer& given) {
+            setTicked(page, checkBox, given, isWanted(given));
+            if (isWanted(given)) perform(page, given);
+          },
+          [=, isHeld = choice.isHeld](const Page& page, const Answer& given) {
+            if (page.control<forms::CheckBox>(checkBox).isChecked() != isWanted(given)) {
+              return false;
+            }
+            return !isWanted(given) || isHeld(page, given);
           }};
 }
 
@@ -95,11 +153,7 @@ Act chooseDevice(std::string answer, std::string button, std::string deviceName)
             const DeviceChoice choice(page, given);
             page.user().click(page.usable<forms::CommandButton>(button, given));
           },
-          [deviceName](const Page& page, const Answer&) {
-            const host::Document& document = page.hands().document();
-            const std::string receiver = document.get_ControlSystem()->get_Name();
-            return document.get_Devices()->FindByName(deviceName, receiver) != nullptr;
-          }};
+          [deviceName](const Page& page, const Answer&) { return isInSystem(page, deviceName); }};
 }
 
 }  // namespace app

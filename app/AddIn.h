@@ -10,7 +10,7 @@ namespace app {
 /// The add-in, as a host has it: created by its class name and handed what the host offers.
 class AddIn {
  public:
-  /// Raises forms::Error when the component has no such class.
+  /// Raises forms::Error when its component is missing, is none, or has no such class.
   explicit AddIn(trellisar::Host& host);
 
   /// Runs the wizard on a new system and returns when its window has closed.
@@ -19,8 +19,6 @@ class AddIn {
   void runOnOpenSystem();
 
  private:
-  void run(bool useOpenFile);
-
   trellisar::Host& host_;
   std::shared_ptr<host::IAddInContract> contract_;
 };

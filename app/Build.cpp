@@ -12,9 +12,10 @@
 #include "app/Report.h"
 #include "app/Room.h"
 #include "app/RunEnded.h"
-#include "app/StepTable.h"
 #include "forms/Text.h"
 #include "host/Error.h"
+#include "receiver/Address.h"
+#include "receiver/Error.h"
 
 namespace app {
 namespace {
@@ -35,7 +36,6 @@ std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
                             const Report& report) {
   try {
     Answers answers = Answers::fromFile(file);
-    refuseAnswersWithoutStep(answers);
     if (options.out) answers.setFolder(*options.out);
     return answers;
   } catch (const RunEnded& ended) {
@@ -79,6 +79,22 @@ bool canStandTogether(const std::vector<Room>& rooms) {
   return can;
 }
 
+/// False when the export or the upload can't be done, which is then told.
+bool canBeDelivered(const BuildOptions& options) {
+  if (options.delivery.archive && options.answersFiles.size() > 1) {
+    reportLine("--export takes one room, and there are several answers files");
+    return false;
+  }
+  if (!options.delivery.address) return true;
+  try {
+    receiver::Address::parse(*options.delivery.address);
+    return true;
+  } catch (const receiver::Error& error) {
+    reportLine(std::string("--upload: ") + error.what());
+    return false;
+  }
+}
+
 /// The library that all rooms share; nothing when its index can't be read, which is then told.
 std::shared_ptr<const trellisar::DeviceLibrary> openLibrary(const BuildOptions& options) {
   try {
@@ -106,7 +122,9 @@ int build(const BuildOptions& options) {
   }
   if (!canStandTogether(rooms)) return exitStatus::wrongInput;
 
-  const RoomOptions roomOptions{openLibrary(options), options.replace};
+  if (!canBeDelivered(options)) return exitStatus::wrongInput;
+
+  const RoomOptions roomOptions{openLibrary(options), options.replace, options.delivery};
   if (!roomOptions.library) return exitStatus::wrongInput;
 
   std::vector<Batch::Job> jobs;

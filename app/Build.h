@@ -4,6 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "app/Delivery.h"
+
 namespace app {
 
 /// What `orlena build` is told besides the answers.
@@ -12,7 +14,8 @@ struct BuildOptions {
   std::optional<std::filesystem::path>
       out;  // the parent folder of the systems, over that of the answers
   std::optional<std::filesystem::path> library;  // in the place of the shipped one
-  bool replace = false;                          // an existing system may be replaced
+  bool replace = false;                          // an existing system or archive may be replaced
+  Delivery delivery;                             // of each room
   int jobs = 1;                                  // rooms that are built side by side
 };
 

@@ -4,6 +4,8 @@
 
 #include "app/Build.h"
 #include "app/ExitStatus.h"
+#include "app/Receiver.h"
+#include "app/Reports.h"
 #include "app/Show.h"
 #include "app/Window.h"
 
@@ -27,6 +29,10 @@ Command buildCommand(CLI::App& program) {
   command->add_option("--library", options->library,
                       "Device library in the place of the shipped one");
   command->add_flag("--replace", options->replace, "Lets an existing system be replaced");
+  command->add_option("--export", options->delivery.archive,
+                      "Exports the system to this archive (.tsa)");
+  command->add_option("--upload", options->delivery.address,
+                      "Uploads the system to the receiver at HOST or HOST:PORT");
   command->add_option("--jobs", options->jobs, "Number of rooms to build at a time")
       ->check(CLI::Range(1, mostJobs));
   return {command, [options] { return build(*options); }};
@@ -39,6 +45,25 @@ Command showCommand(CLI::App& program) {
   command->add_option("FILE.tsy", options->systemFile, "A saved system")->required();
   command->add_flag("--json", options->asJson, "Prints the listing for other programs");
   return {command, [options] { return show(*options); }};
+}
+
+Command receiverCommand(CLI::App& program) {
+  auto options = std::make_shared<ReceiverOptions>();
+  CLI::App* command =
+      program.add_subcommand("receiver", "A receiver that takes programs and passwords");
+  command->add_option("--listen", options->listen, "HOST:PORT to listen on; port 0 picks one");
+  command->add_option("--folder", options->folder, "Where it keeps what it is sent")
+      ->capture_default_str();
+  return {command, [options] { return runReceiver(*options); }};
+}
+
+Command reportCommand(CLI::App& program) {
+  auto options = std::make_shared<ReportsOptions>();
+  CLI::App* command =
+      program.add_subcommand("report", "Writes a system's bill of materials and connection sheet");
+  command->add_option("FILE.tsy", options->systemFile, "A saved system")->required();
+  command->add_option("--out", options->out, "Folder for the files")->capture_default_str();
+  return {command, [options] { return writeReports(*options); }};
 }
 
 Command wizardCommand(CLI::App& program) {
@@ -62,8 +87,9 @@ Command screenshotsCommand(CLI::App& program) {
 int run(int argc, char** argv) {
   CLI::App program("Orlena room solutions: the wizard, with a person or unattended", "orlena");
   program.require_subcommand(0, 1);
-  const Command commands[] = {buildCommand(program), showCommand(program), wizardCommand(program),
-                              screenshotsCommand(program)};
+  const Command commands[] = {buildCommand(program),    showCommand(program),
+                              receiverCommand(program), reportCommand(program),
+                              wizardCommand(program),   screenshotsCommand(program)};
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -72,7 +98,7 @@ int run(int argc, char** argv) {
   for (const Command& command : commands) {
     if (command.parsed->parsed()) return command.run();
   }
-  return openWizard(std::nullopt);
+  return openMainWindow();
 }
 
 }  // namespace app

@@ -7,6 +7,10 @@ namespace app {
 
 std::filesystem::path dataFolder() { return ORLENA_DATA_FOLDER; }
 
+std::filesystem::path componentsFile() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path() / "components.json";
+}
+
 trellisar::Preferences readOnlyPreferences() {
   const trellisar::Preferences kept(trellisar::Preferences::usualFile());
   trellisar::Preferences preferences;

@@ -21,12 +21,14 @@ std::string runWizard(const Answers& answers, const RoomOptions& options, const 
   trellisar::Host host(
       {.dataFolder = dataFolder(),
        .library = options.library,
-       .replacing = options.replace ? trellisar::Replacing::always : trellisar::Replacing::never});
+       .replacing = options.replace ? trellisar::Replacing::always : trellisar::Replacing::never,
+       .exportFile = options.delivery.archive.value_or("")});
   host.preferences() = readOnlyPreferences();
 
   forms::User user(application);
   Hands hands{user, desktop, host, made, options.replace};
-  WizardRun run(answers, hands);
+  WizardRun run(answers, options.delivery, hands);
+  answerBuildWindows(desktop, report);
   desktop.answerForms("frmAddIn", [&](forms::Form& wizard) { run.drive(wizard); });
   AddIn(host).runOnNewSystem();
   desktop.throwIfEnded();

@@ -4,6 +4,7 @@
 
 #include "app/Answers.h"
 #include "app/Batch.h"
+#include "app/Delivery.h"
 #include "app/MadeFolders.h"
 #include "app/Report.h"
 #include "trellisar/DeviceLibrary.h"
@@ -12,7 +13,8 @@ namespace app {
 
 struct RoomOptions {
   std::shared_ptr<const trellisar::DeviceLibrary> library;
-  bool replace = false;  // an existing system may be replaced
+  bool replace = false;  // an existing system or archive may be replaced
+  Delivery delivery;
 };
 
 /// Runs the wizard once with a room's answers, unattended, on this thread. What it tells goes to

@@ -18,6 +18,8 @@
 #include "forms/User.h"
 #include "forms/UserControl.h"
 #include "qt/QtDesktop.h"
+#include "trellisar/AddIns.h"
+#include "trellisar/MainForm.h"
 
 namespace app {
 namespace {
@@ -82,6 +84,10 @@ class Walk {
  private:
   static constexpr int display = 2;
   static constexpr int power = 4;
+  static constexpr int lockout = 5;
+  static constexpr int options = 6;
+  static constexpr int transmitters = 7;
+  static constexpr int room = 8;
 
   void go(forms::Form& wizard) {
     wizard_ = &wizard;
@@ -95,6 +101,10 @@ class Walk {
     }
     drawDisplay();
     drawPower();
+    drawLockout();
+    drawOptions();
+    drawTransmitters();
+    drawRoom();
   }
 
   void drawDisplay() {
@@ -121,6 +131,46 @@ class Walk {
     draw("4-power-sensing");
   }
 
+  void drawLockout() {
+    enterStep(lockout);
+    draw("5-lockout-active");
+    click(lockout, "chkContact");
+    draw("5-lockout-contact");
+    enterStep(power);
+    click(power, "optPower(0)");
+    enterStep(lockout);
+    draw("5-lockout-no-power-control");
+  }
+
+  void drawOptions() {
+    enterStep(options);
+    click(options, "chkInclude(0)");
+    click(options, "chkInclude(1)");
+    draw("6-options-included");
+    chooseDevice(options, "cmdChoose(0)", "Drapewick Mixed 240");
+    chooseDevice(options, "cmdChoose(1)", "Hoistrel HL-60");
+    draw("6-options-chosen");
+  }
+
+  void drawTransmitters() {
+    enterStep(transmitters);
+    click(transmitters, "cmdAdd");
+    draw("7-transmitters-one");
+    click(transmitters, "cmdAdd");
+    click(transmitters, "cmdAdd");
+    draw("7-transmitters-three");
+    click(transmitters, "cmdRename");
+    draw("7-transmitters-rename");
+  }
+
+  void drawRoom() {
+    enterStep(room);
+    for (const char* box : {"chkInclude(0)", "chkInclude(1)", "chkOccupancy", "chkPowerTimeout"}) {
+      click(room, box);
+    }
+    draw("8-room-included");
+  }
+
   forms::UserControl& tabs() const {
     return dynamic_cast<forms::UserControl&>(wizard_->control("ctlTabs"));
   }
@@ -136,10 +186,12 @@ class Walk {
     for (int i = 0; i < step; ++i) user_.click(wizard_->control("cmdNext"));
   }
 
-  void chooseDisplay(const std::string& device) {
+  void chooseDevice(int step, const std::string& button, const std::string& device) {
     device_ = device;
-    click(display, "cmdChoose");
+    click(step, button);
   }
+
+  void chooseDisplay(const std::string& device) { chooseDevice(display, "cmdChoose", device); }
 
   void choose(forms::Form& dialog) {
     auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
@@ -180,6 +232,30 @@ class TemporarySystems {
   fs::path folder_;
 };
 
+/// The main window without a system, with one to read, and with one that has gone.
+void drawMainWindow(DrawnDesktop& desktop, trellisar::Host& host) {
+  desktop.act("Preferences",
+              [&](forms::Form& dialog) { desktop.draw(dialog, "main-preferences"); });
+  const auto draw = [&](const std::string& name, const std::string& button) {
+    trellisar::MainForm window(host, trellisar::createAddIns(componentsFile()));
+    desktop.act("MainForm", [&](forms::Form& form) {
+      desktop.draw(form, name);
+      forms::User user(forms::Application::current());
+      if (!button.empty()) user.click(form.control(button));
+    });
+    window.run();
+  };
+  draw("main-empty", "cmdPreferences");
+  for (const char* system : {"Orlena TEMPLATE", "Orlena EXAMPLE"}) {
+    const fs::path file =
+        dataFolder() / "TemplateSystems" / system / (std::string(system) + ".tsy");
+    host.preferences().remember(forms::fromMachinePath(file));
+  }
+  draw("main-system", "");
+  host.preferences().remember("\\Rooms\\Lecture Hall\\Lecture Hall.tsy");
+  draw("main-missing", "");
+}
+
 }  // namespace
 
 int drawSteps(const fs::path& folder) {
@@ -191,6 +267,7 @@ int drawSteps(const fs::path& folder) {
   forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
   trellisar::Host host({.dataFolder = dataFolder()});
   const Walk walk(application, desktop);
+  drawMainWindow(desktop, host);
   AddIn(host).runOnNewSystem();
   if (desktop.failure().empty()) return exitStatus::ok;
   reportLine(desktop.failure());

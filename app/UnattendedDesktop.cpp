@@ -1,9 +1,21 @@
 #include "app/UnattendedDesktop.h"
 
 #include "app/ExitStatus.h"
+#include "app/Interrupt.h"
+#include "forms/Application.h"
 #include "forms/Form.h"
+#include "forms/Guard.h"
+#include "forms/User.h"
 
 namespace app {
+namespace {
+
+/// The host's long work.
+bool canBeCancelled(const forms::Form& form) {
+  return form.name() == "CompileDialog" || form.name() == "TransferDialog";
+}
+
+}  // namespace
 
 void UnattendedDesktop::end(const RunEnded& reason) {
   if (!ended_) ended_ = reason;
@@ -17,6 +29,15 @@ void UnattendedDesktop::runModal(forms::Form& form, forms::Form*) {
   form.activateNow();
   if (form.isVisible()) answer(form);
   if (form.isVisible()) form.hide();
+}
+
+void UnattendedDesktop::processEvents() {
+  HeadlessDesktop::processEvents();
+  forms::Application& application = forms::Application::current();
+  forms::Form* form = Interrupt::requested() ? application.activeForm() : nullptr;
+  if (!form || isCancelling_ || !canBeCancelled(*form)) return;
+  const forms::Guard cancelling(isCancelling_);
+  forms::User(application).click(form->control("cmdCancel"));
 }
 
 void UnattendedDesktop::answer(forms::Form& form) {

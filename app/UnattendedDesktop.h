@@ -41,6 +41,8 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   void forgetCritical() { sawCritical_ = false; }
 
   void runModal(forms::Form& form, forms::Form* owner) override;
+  /// An interrupt cancels what is under way.
+  void processEvents() override;
   forms::Answer showMessage(const forms::MessageBox& message) override;
   std::string chooseFolder(const forms::FolderDialog&) override { return folder_; }
   std::string chooseFileToSave(const forms::FileDialog&) override { return {}; }
@@ -54,6 +56,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   std::string folder_;
   std::optional<RunEnded> ended_;
   bool sawCritical_ = false;
+  bool isCancelling_ = false;
 };
 
 }  // namespace app

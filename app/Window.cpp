@@ -7,11 +7,14 @@
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
+#include "app/ReportPrinter.h"
 #include "app/Screenshots.h"
 #include "forms/Application.h"
 #include "forms/Form.h"
 #include "forms/Paths.h"
 #include "qt/QtDesktop.h"
+#include "trellisar/AddIns.h"
+#include "trellisar/MainForm.h"
 
 namespace app {
 namespace {
@@ -39,6 +42,24 @@ class WizardDesktop : public qt::QtDesktop {
   bool started_ = false;
 };
 
+/// What a window of the program stands on.
+template <typename Desktop>
+struct Stage {
+  char name[7] = "orlena";
+  char* arguments[2] = {name, nullptr};
+  Desktop desktop{1, arguments};
+  forms::Application application{desktop, forms::fromMachinePath(dataFolder())};
+  trellisar::Host host{{.dataFolder = dataFolder(),
+                        .preferencesFile = trellisar::Preferences::usualFile(),
+                        .printer = reportPrinter()}};
+};
+
+bool canOpenWindows() {
+  if (qt::hasDisplay()) return true;
+  reportLine("The window needs a display, and there is none. \"orlena build\" works without one.");
+  return false;
+}
+
 /// False when the file can't be opened, which the user has been told then.
 bool open(trellisar::Host& host, const fs::path& systemFile) {
   std::error_code failure;
@@ -52,27 +73,27 @@ bool open(trellisar::Host& host, const fs::path& systemFile) {
 
 }  // namespace
 
+int openMainWindow() {
+  if (!canOpenWindows()) return exitStatus::wrongInput;
+  Stage<qt::QtDesktop> stage;
+  stage.application.setTitle("Trellisar");
+  trellisar::MainForm(stage.host, trellisar::createAddIns(componentsFile())).run();
+  trellisar::unloadComponents();
+  return exitStatus::ok;
+}
+
 int openWizard(const std::optional<fs::path>& systemFile) {
-  if (!qt::hasDisplay()) {
-    reportLine(
-        "The window needs a display, and there is none. \"orlena build\" works without one.");
-    return exitStatus::wrongInput;
-  }
-  char name[] = "orlena";
-  char* arguments[] = {name, nullptr};
-  WizardDesktop desktop(1, arguments);
-  forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
-  trellisar::Host host(
-      {.dataFolder = dataFolder(), .preferencesFile = trellisar::Preferences::usualFile()});
-  desktop.watch(host);
-  AddIn addIn(host);
+  if (!canOpenWindows()) return exitStatus::wrongInput;
+  Stage<WizardDesktop> stage;
+  stage.desktop.watch(stage.host);
+  AddIn addIn(stage.host);
   if (systemFile) {
-    if (!open(host, *systemFile)) return exitStatus::refused;
+    if (!open(stage.host, *systemFile)) return exitStatus::refused;
     addIn.runOnOpenSystem();
   } else {
     addIn.runOnNewSystem();
   }
-  return desktop.hasStarted() ? exitStatus::ok : exitStatus::refused;
+  return stage.desktop.hasStarted() ? exitStatus::ok : exitStatus::refused;
 }
 
 int takeScreenshots(const ScreenshotOptions& options) {
@@ -93,6 +114,8 @@ int refuseWithoutWindow() {
 }
 
 }  // namespace
+
+int openMainWindow() { return refuseWithoutWindow(); }
 
 int openWizard(const std::optional<std::filesystem::path>&) { return refuseWithoutWindow(); }
 

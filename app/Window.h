@@ -5,6 +5,9 @@
 
 namespace app {
 
+/// Opens the host's main window and answers the exit status when it has closed.
+int openMainWindow();
+
 /// Opens the wizard's window, on a new system or on a saved one, and answers the exit status when
 /// it has closed.
 int openWizard(const std::optional<std::filesystem::path>& systemFile);

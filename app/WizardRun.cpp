@@ -34,11 +34,9 @@ const StepActs& actsOf(const Page& page) {
 
 [[noreturn]] void refuse(const std::string& what) { throw RunEnded(exitStatus::refused, what); }
 
-void checkHeld(const Page& page, const Act& act, const Answer& answer) {
-  if (!act.isHeld(page, answer)) {
-    refuse(answer.path + ": the step " + quoted(page.name()) + " did not take " +
-           answer.value.dump());
-  }
+[[noreturn]] void refuseNotTaken(const Page& page, const Answer& answer) {
+  refuse(answer.path + ": the step " + quoted(page.name()) + " did not take " +
+         answer.value.dump());
 }
 
 }  // namespace
@@ -53,6 +51,7 @@ void WizardRun::drive(forms::Form& wizard) {
     checkHeld(page, step);
   }
   save(wizard);
+  deliver(currentPage(wizard), delivery_);
   finish(wizard);
 }
 
@@ -69,7 +68,7 @@ void WizardRun::answer(const Page& page, const StepActs& step) const {
     const Answer given{act.answer, *value};
     act.perform(page, given);
     goOn();
-    app::checkHeld(page, act, given);
+    if (!act.isHeld(page, given)) refuseNotTaken(page, given);
   }
   if (step.beforeLeaving) step.beforeLeaving(page);
 }
@@ -87,9 +86,11 @@ void WizardRun::next(forms::Form& wizard) const {
 /// left.
 void WizardRun::checkHeld(const Page& page, const StepActs& step) const {
   for (const Act& act : step.acts) {
-    if (const trellisar::Json* value = answers_.find(act.answer)) {
-      app::checkHeld(page, act, {act.answer, *value});
-    }
+    const trellisar::Json* value = answers_.find(act.answer);
+    if (!value) continue;
+    const Answer given{act.answer, *value};
+    const bool isInSystem = !act.isInSystem || act.isInSystem(page, given);
+    if (!act.isHeld(page, given) || !isInSystem) refuseNotTaken(page, given);
   }
 }
 

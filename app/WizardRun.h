@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "app/Answers.h"
+#include "app/Delivery.h"
 #include "app/Page.h"
 
 namespace forms {
@@ -15,10 +16,12 @@ namespace app {
 struct StepActs;
 
 /// A person with an answers file at the wizard: goes through all steps with Next, answers each page
-/// from top to bottom, saves with the save button and leaves by Finish.
+/// from top to bottom, saves with the save button, exports and uploads where that is asked for, and
+/// leaves by Finish.
 class WizardRun {
  public:
-  WizardRun(const Answers& answers, Hands& hands) : answers_(answers), hands_(hands) {}
+  WizardRun(const Answers& answers, const Delivery& delivery, Hands& hands)
+      : answers_(answers), delivery_(delivery), hands_(hands) {}
 
   /// Works on the wizard's window, which is shown and active. Raises RunEnded when the run can't go
   /// on.
@@ -37,6 +40,7 @@ class WizardRun {
   void goOn() const;
 
   const Answers& answers_;
+  const Delivery& delivery_;
   Hands& hands_;
   std::optional<std::filesystem::path> savedFile_;
 };

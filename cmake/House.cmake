@@ -9,6 +9,11 @@ if(ORLENA_SANITIZE)
   target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(ORLENA_FUZZ)
+  target_compile_options(house_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -g -O1)
+  target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
 # Parsing the standard library is most of the work of a build. The headless preset does without, so that a file which
 # misses an include of its own is found there.
 option(ORLENA_PRECOMPILE "Precompile the headers of the standard library" ON)

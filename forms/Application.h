@@ -67,6 +67,12 @@ class Application {
     if (!place) place = std::make_shared<T>();
     return *static_cast<T*>(place.get());
   }
+  /// Ends the value of this type now; the next `local` makes another. Who may be unloaded before
+  /// the application ends leaves none behind.
+  template <typename T>
+  void endLocal() {
+    const auto place = locals_.extract(typeid(T));
+  }
 
   void processEvents() { desktop_.processEvents(); }
   void runLater(std::function<void()> task) { desktop_.runLater(std::move(task)); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -13,11 +14,37 @@ namespace forms {
 /// application runs.
 void reportHandlerError(const Error& error);
 
-/// Keeps one listener of an event connected; dropping it ends the connection.
+class EventBase;
+
+/// What an event and the subscription of one of its listeners share; without an event the
+/// connection has ended.
+struct Connected {
+  EventBase* event;
+};
+
+/// An event for those that do not know its arguments.
+class EventBase {
+ public:
+  EventBase() = default;
+  EventBase(const EventBase&) = delete;
+  EventBase& operator=(const EventBase&) = delete;
+
+ protected:
+  ~EventBase() = default;
+  /// Made in this library, so that nothing of a listener's library is left when it is unloaded.
+  std::shared_ptr<Connected> makeConnected();
+
+ private:
+  friend class Subscription;
+  virtual void drop(const std::shared_ptr<Connected>& connected) = 0;
+};
+
+/// Keeps one listener of an event connected; dropping it ends the connection, and the event keeps
+/// nothing of the listener. It may outlive the event.
 class Subscription {
  public:
   Subscription() = default;
-  explicit Subscription(std::shared_ptr<bool> connected) : connected_(std::move(connected)) {}
+  explicit Subscription(std::shared_ptr<Connected> connected) : connected_(std::move(connected)) {}
   ~Subscription() { end(); }
   Subscription(Subscription&& other) noexcept = default;
   Subscription& operator=(Subscription&& other) noexcept {
@@ -29,12 +56,13 @@ class Subscription {
   Subscription& operator=(const Subscription&) = delete;
 
   void end() {
-    if (connected_) *connected_ = false;
-    connected_.reset();
+    const auto connected = std::exchange(connected_, nullptr);
+    if (!connected) return;
+    if (EventBase* event = std::exchange(connected->event, nullptr)) event->drop(connected);
   }
 
  private:
-  std::shared_ptr<bool> connected_;
+  std::shared_ptr<Connected> connected_;
 };
 
 /// An event of a control, a form or a host object. Handlers run in the order in which they were
@@ -43,25 +71,31 @@ class Subscription {
 ///
 ///     cmdNext.click.connect([this] { cmdNext_Click(); });
 template <typename... Arguments>
-class Event {
+class Event : public EventBase {
  public:
   using Handler = std::function<void(Arguments...)>;
+
+  Event() = default;
+  ~Event() {
+    for (const Connection& connection : connections_) {
+      if (connection.connected) connection.connected->event = nullptr;
+    }
+  }
 
   /// Connects for the life of the event: for a handler of the object that owns the control.
   void connect(Handler handler) { connections_.push_back({std::move(handler), nullptr}); }
 
   /// Connects until the subscription is dropped: for a listener that may go before the event does.
   [[nodiscard]] Subscription listen(Handler handler) {
-    auto connected = std::make_shared<bool>(true);
+    auto connected = makeConnected();
     connections_.push_back({std::move(handler), connected});
     return Subscription(connected);
   }
 
   void raise(Arguments... arguments) {
-    std::erase_if(connections_, [](const Connection& c) { return c.connected && !*c.connected; });
     const auto connections = connections_;  // a handler may connect, or end, another one
     for (const Connection& connection : connections) {
-      if (connection.connected && !*connection.connected) continue;
+      if (connection.connected && !connection.connected->event) continue;
       try {
         connection.handler(arguments...);
       } catch (const Error& error) {
@@ -73,8 +107,17 @@ class Event {
  private:
   struct Connection {
     Handler handler;
-    std::shared_ptr<bool> connected;  // empty: for the life of the event
+    std::shared_ptr<Connected> connected;  // empty: for the life of the event
   };
+
+  void drop(const std::shared_ptr<Connected>& connected) override {
+    const auto place = std::find_if(connections_.begin(), connections_.end(),
+                                    [&](const Connection& c) { return c.connected == connected; });
+    if (place == connections_.end()) return;
+    const Handler ended = std::move(place->handler);  // what goes with it may end others
+    connections_.erase(place);
+  }
+
   std::vector<Connection> connections_;
 };
 

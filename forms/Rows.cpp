@@ -1,6 +1,7 @@
 #include "forms/Rows.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "forms/Application.h"
 
@@ -41,22 +42,42 @@ bool breaksText(const Control& control) {
          control.kind() == Kind::optionButton;
 }
 
-class ItemBlock : public Block {
+/// A block that is measured once, however often those around it ask: a page is made, placed and
+/// thrown away while no text of it changes.
+class MeasuredBlock : public Block {
+ public:
+  Twips naturalWidth() const final {
+    if (!natural_) natural_ = measureNaturalWidth();
+    return *natural_;
+  }
+  Twips smallestWidth() const final {
+    if (!smallest_) smallest_ = measureSmallestWidth();
+    return *smallest_;
+  }
+  Twips heightAt(Twips width) const final {
+    if (!height_ || heightWidth_ != width) {
+      height_ = measureHeightAt(width);
+      heightWidth_ = width;
+    }
+    return *height_;
+  }
+
+ private:
+  virtual Twips measureNaturalWidth() const = 0;
+  virtual Twips measureSmallestWidth() const = 0;
+  virtual Twips measureHeightAt(Twips width) const = 0;
+
+  mutable std::optional<Twips> natural_;
+  mutable std::optional<Twips> smallest_;
+  mutable std::optional<Twips> height_;  // at heightWidth_, the width that was asked for last
+  mutable Twips heightWidth_ = 0;
+};
+
+class ItemBlock : public MeasuredBlock {
  public:
   ItemBlock(Control& control, Size fixed, bool takesRest)
       : control_(control), fixed_(fixed), takesRest_(takesRest) {}
 
-  Twips naturalWidth() const override {
-    return fixed_.width > 0 ? fixed_.width : naturalSize(control_).width;
-  }
-  Twips smallestWidth() const override {
-    if (fixed_.width > 0) return fixed_.width;
-    if (breaksText(control_)) return naturalSize(control_, markWidth + 1).width;
-    return takesRest_ ? std::min(smallestRest, naturalWidth()) : naturalWidth();
-  }
-  Twips heightAt(Twips width) const override {
-    return fixed_.height > 0 ? fixed_.height : naturalSize(control_, width).height;
-  }
   void place(const Rect& area) const override {
     control_.container().readLast(control_);
     control_.setBounds(area);
@@ -64,6 +85,18 @@ class ItemBlock : public Block {
   bool takesRest() const override { return takesRest_; }
 
  private:
+  Twips measureNaturalWidth() const override {
+    return fixed_.width > 0 ? fixed_.width : naturalSize(control_).width;
+  }
+  Twips measureSmallestWidth() const override {
+    if (fixed_.width > 0) return fixed_.width;
+    if (breaksText(control_)) return naturalSize(control_, markWidth + 1).width;
+    return takesRest_ ? std::min(smallestRest, naturalWidth()) : naturalWidth();
+  }
+  Twips measureHeightAt(Twips width) const override {
+    return fixed_.height > 0 ? fixed_.height : naturalSize(control_, width).height;
+  }
+
   Control& control_;
   Size fixed_;
   bool takesRest_;
@@ -146,20 +179,10 @@ std::vector<Twips> fitted(std::vector<ColumnWidth> columns, Twips available) {
 }
 
 /// Rows of pieces in common columns; a plain row is one of a single row.
-class GridBlock : public Block {
+class GridBlock : public MeasuredBlock {
  public:
   explicit GridBlock(std::vector<Pieces> rows) : rows_(std::move(rows)) {
     for (const Pieces& pieces : rows_) columnCount_ = std::max(columnCount_, pieces.size());
-  }
-
-  Twips naturalWidth() const override { return total(&ColumnWidth::width); }
-  Twips smallestWidth() const override { return total(&ColumnWidth::smallest); }
-
-  Twips heightAt(Twips width) const override {
-    const auto widths = fitted(columns(), width);
-    std::vector<Twips> heights;
-    for (const Pieces& pieces : rows_) heights.push_back(rowHeight(pieces, widths));
-    return sum(heights, rowGap);
   }
 
   void place(const Rect& area) const override {
@@ -175,6 +198,16 @@ class GridBlock : public Block {
   bool takesRest() const override { return std::any_of(rows_.begin(), rows_.end(), anyTakesRest); }
 
  private:
+  Twips measureNaturalWidth() const override { return total(&ColumnWidth::width); }
+  Twips measureSmallestWidth() const override { return total(&ColumnWidth::smallest); }
+
+  Twips measureHeightAt(Twips width) const override {
+    const auto widths = fitted(columns(), width);
+    std::vector<Twips> heights;
+    for (const Pieces& pieces : rows_) heights.push_back(rowHeight(pieces, widths));
+    return sum(heights, rowGap);
+  }
+
   std::vector<ColumnWidth> columns() const {
     std::vector<ColumnWidth> columns(columnCount_);
     for (const Pieces& pieces : rows_) {
@@ -218,19 +251,10 @@ class GridBlock : public Block {
   std::size_t columnCount_ = 0;
 };
 
-class ColumnBlock : public Block {
+class ColumnBlock : public MeasuredBlock {
  public:
   ColumnBlock(Pieces pieces, Twips indent) : pieces_(std::move(pieces)), indent_(indent) {}
 
-  Twips naturalWidth() const override { return widest(pieces_, &Block::naturalWidth) + indent_; }
-  Twips smallestWidth() const override { return widest(pieces_, &Block::smallestWidth) + indent_; }
-  Twips heightAt(Twips width) const override {
-    std::vector<Twips> heights;
-    for (const Piece& piece : pieces_) {
-      heights.push_back(piece->heightAt(widthBelow(piece, width - indent_)));
-    }
-    return sum(heights, rowGap);
-  }
   void place(const Rect& area) const override {
     Twips top = area.top;
     for (const Piece& piece : pieces_) {
@@ -243,22 +267,28 @@ class ColumnBlock : public Block {
   bool takesRest() const override { return anyTakesRest(pieces_); }
 
  private:
+  Twips measureNaturalWidth() const override {
+    return widest(pieces_, &Block::naturalWidth) + indent_;
+  }
+  Twips measureSmallestWidth() const override {
+    return widest(pieces_, &Block::smallestWidth) + indent_;
+  }
+  Twips measureHeightAt(Twips width) const override {
+    std::vector<Twips> heights;
+    for (const Piece& piece : pieces_) {
+      heights.push_back(piece->heightAt(widthBelow(piece, width - indent_)));
+    }
+    return sum(heights, rowGap);
+  }
+
   Pieces pieces_;
   Twips indent_;
 };
 
-class BoxBlock : public Block {
+class BoxBlock : public MeasuredBlock {
  public:
   BoxBlock(Frame& frame, Pieces pieces) : frame_(frame), contents_(std::move(pieces), 0) {}
 
-  Twips naturalWidth() const override {
-    const Twips title = textSize(frame_, frame_.shownText(), 0).width;
-    return std::max(contents_.naturalWidth(), title) + 2 * margin();
-  }
-  Twips smallestWidth() const override { return contents_.smallestWidth() + 2 * margin(); }
-  Twips heightAt(Twips width) const override {
-    return contents_.heightAt(width - 2 * margin()) + top() + margin();
-  }
   void place(const Rect& area) const override {
     frame_.container().readLast(frame_);
     frame_.setBounds(area);
@@ -267,6 +297,15 @@ class BoxBlock : public Block {
   bool takesRest() const override { return true; }
 
  private:
+  Twips measureNaturalWidth() const override {
+    const Twips title = textSize(frame_, frame_.shownText(), 0).width;
+    return std::max(contents_.naturalWidth(), title) + 2 * margin();
+  }
+  Twips measureSmallestWidth() const override { return contents_.smallestWidth() + 2 * margin(); }
+  Twips measureHeightAt(Twips width) const override {
+    return contents_.heightAt(width - 2 * margin()) + top() + margin();
+  }
+
   Twips margin() const { return frame_.hasBorder() ? boxMargin : 0; }
   Twips top() const {
     return frame_.caption().empty() ? margin() : textHeight(frame_) + boxTitleGap;
@@ -276,19 +315,10 @@ class BoxBlock : public Block {
   ColumnBlock contents_;
 };
 
-class EitherBlock : public Block {
+class EitherBlock : public MeasuredBlock {
  public:
   explicit EitherBlock(Pieces pieces) : pieces_(std::move(pieces)) {}
 
-  Twips naturalWidth() const override { return widest(pieces_, &Block::naturalWidth); }
-  Twips smallestWidth() const override { return widest(pieces_, &Block::smallestWidth); }
-  Twips heightAt(Twips width) const override {
-    Twips height = 0;
-    for (const Piece& piece : pieces_) {
-      height = std::max(height, piece->heightAt(widthBelow(piece, width)));
-    }
-    return height;
-  }
   void place(const Rect& area) const override {
     for (const Piece& piece : pieces_) {
       const Twips width = widthBelow(piece, area.width);
@@ -298,6 +328,16 @@ class EitherBlock : public Block {
   bool takesRest() const override { return anyTakesRest(pieces_); }
 
  private:
+  Twips measureNaturalWidth() const override { return widest(pieces_, &Block::naturalWidth); }
+  Twips measureSmallestWidth() const override { return widest(pieces_, &Block::smallestWidth); }
+  Twips measureHeightAt(Twips width) const override {
+    Twips height = 0;
+    for (const Piece& piece : pieces_) {
+      height = std::max(height, piece->heightAt(widthBelow(piece, width)));
+    }
+    return height;
+  }
+
   Pieces pieces_;
 };
 

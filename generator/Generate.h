@@ -65,6 +65,8 @@ class Generate : public addin::ProgramBuilder {
 
   // The toolbox, events of signals: ToolboxEvents.cpp. Events are those of host::enumSignalEvent.
   static SignalPtr FindOutput(std::int16_t iDeviceID, const std::string& sOutputName);
+  /// For a signal that its device is bound to have: raises host::Error when it was not found.
+  static host::Signal& Existing(const SignalPtr& signal, const std::string& sName);
   static void FeedFrom(host::Signal& signal, std::int16_t iDeviceID,
                        const std::string& sSignalName);
   static PresetPtr EventPreset(const host::Signal& signal, std::int16_t iEvent);

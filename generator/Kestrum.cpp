@@ -79,8 +79,14 @@ bool Generate::BuildKestrumErrors() {
   };
   if (!set(receiverError)) return false;
   const auto receiver = addin::gDocument().get_Devices()->Item(addin::gAddIn().get_ReceiverID());
-  if (receiver->get_ModelID() != host::modelReceiverThreeInputs) return true;
-  return std::all_of(inputErrors.begin(), inputErrors.end(), set);
+  if (receiver->get_ModelID() == host::modelReceiverThreeInputs) {
+    return std::all_of(inputErrors.begin(), inputErrors.end(), set);
+  }
+  // A receiver that had three inputs keeps their events, which it can't have any more.
+  for (const ErrorTexts& texts : inputErrors) {
+    if (const auto signal = FindOutput(receiver->get_ID(), texts.sOutput)) ClearEvents(*signal);
+  }
+  return true;
 }
 
 //  The error output goes high               The error output goes low

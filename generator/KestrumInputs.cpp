@@ -37,10 +37,10 @@ bool Generate::BuildKestrumDigitalInputs(std::int16_t iInput) {
   const auto label = interface->GetProperty("Digital_Attribute_" + n + "_Name");
   if (!label) return false;
   static_cast<void>(label->SetValue(InputName(iInput)));
+  const std::string sCommand = "Custom_Digital_Command_" + n;
   const auto signal = addin::gDocument().get_Signals()->Find(
-      iKestrumID, "Custom_Digital_Command_" + n, "Custom_Digital_Notify_" + n, host::signalDigital);
-  if (!signal) return false;
-  FeedFrom(*signal, settings.GetDigitalInputID(iInput), sContact);
+      iKestrumID, sCommand, "Custom_Digital_Notify_" + n, host::signalDigital);
+  FeedFrom(Existing(signal, sCommand), settings.GetDigitalInputID(iInput), sContact);
   return true;
 }
 

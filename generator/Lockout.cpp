@@ -60,6 +60,7 @@ bool Generate::FailedToAddLockoutModule() {
 Generate::DevicePtr Generate::GetPowerLockoutModule(DevicePtr& display) {
   if (auto present = FindModule(*display, sLockoutModule)) return present;
   const host::ModuleList colModules = ModulesFromLibrary(sLockoutModule, display->get_ID());
+  if (colModules.Items().empty()) return nullptr;
   // What counts is whether the module is there afterwards.
   static_cast<void>(addin::gDocument().AddModules(colModules, display));
   auto added = FindModule(*display, sLockoutModule);

@@ -1,5 +1,6 @@
 #include "addin/modGlobals.h"
 #include "generator/Generate.h"
+#include "host/Error.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -24,6 +25,11 @@ Generate::SignalPtr Generate::FindOutput(std::int16_t iDeviceID, const std::stri
 
 Generate::PresetPtr Generate::EventPreset(const host::Signal& signal, std::int16_t iEvent) {
   return signal.GetEvent(iEvent)->get_Preset();
+}
+
+host::Signal& Generate::Existing(const SignalPtr& signal, const std::string& sName) {
+  if (signal) return *signal;
+  throw host::Error(host::errUnknownKey, "There is no signal \"" + sName + "\" to be programmed.");
 }
 
 void Generate::FeedFrom(host::Signal& signal, std::int16_t iDeviceID,

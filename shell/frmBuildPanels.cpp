@@ -67,12 +67,10 @@ void frmBuildPanels::Form_Load() {
 void frmBuildPanels::Clear() { gOwnerForm().GetUIMgr()->get_ErrorLog()->Clear(); }
 
 void frmBuildPanels::Form_Activate() {
-  {
-    const forms::Guard running(m_bRunning);
-    // A project that could not be made has been told.
-    addin::gAddIn().CreateTouchpanelProjects();
-  }
-  EndRun();
+  // The run has its end also when an error leaves it.
+  const forms::AtEnd ended([this] { EndRun(); });
+  const forms::Guard running(m_bRunning);
+  addin::gAddIn().CreateTouchpanelProjects();  // a project that could not be made has been told
 }
 
 void frmBuildPanels::EndRun() {

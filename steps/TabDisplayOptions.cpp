@@ -70,7 +70,11 @@ TabDisplayOptions::TabDisplayOptions(forms::Container& container, std::string st
     : WizardStep(container, std::move(strName), "Display Options", host::helpDisplayOptionsTab) {
   MakeBanner(lblBanner);
   SetTabStops(false);
-  for (const std::int16_t Index : {iScreen, iLift}) cmdChoose(Index).setVisible(false);
+  for (const std::int16_t Index : {iScreen, iLift}) {
+    cmdChoose(Index).setVisible(false);
+    ShowPulseTime(rowOn, Index, false);
+    ShowPulseTime(rowOff, Index, false);
+  }
   ConnectEvents();
   LayOut();
 }

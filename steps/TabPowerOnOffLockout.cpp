@@ -113,6 +113,10 @@ void TabPowerOnOffLockout::chkContact_Click() {
   SaveContactOption();
 }
 
+void TabPowerOnOffLockout::optContact_Click() {
+  if (!m_bLoading) SaveContactOption();
+}
+
 void TabPowerOnOffLockout::SaveContactOption() {
   std::int16_t iOption = contactUnused;
   if (chkContact.isChecked()) {

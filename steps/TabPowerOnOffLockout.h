@@ -33,7 +33,7 @@ class TabPowerOnOffLockout : public WizardStep {
 
  private:
   void chkContact_Click();
-  void optContact_Click() { SaveContactOption(); }
+  void optContact_Click();
   void txtPowerLockoutTime_Validate(std::int16_t Index);
 
   void ConnectEvents();

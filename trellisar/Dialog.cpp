@@ -3,15 +3,8 @@
 #include <utility>
 
 namespace trellisar {
-namespace {
 
-constexpr forms::Twips margin = 150;
-constexpr forms::Twips anyHeight = 1000;
-
-}  // namespace
-
-Dialog::Dialog(std::string name, const std::string& caption) : Form(std::move(name)) {
-  setCaption(caption);
+Dialog::Dialog(std::string name, const std::string& caption) : HostForm(std::move(name), caption) {
   cmdOK.setDefault(true);
   cmdOK.click.connect([this] { end(); });
   cmdCancel.setCancel(true);
@@ -32,12 +25,7 @@ bool Dialog::run() {
 }
 
 void Dialog::layOutAbove(forms::Twips width, forms::Pieces pieces) {
-  pieces.push_back(forms::gap(margin));
-  pieces.push_back(forms::row({forms::spring(), forms::item(cmdOK), forms::item(cmdCancel)}));
-  const forms::Twips height =
-      forms::layOut({margin, margin, width, anyHeight}, std::move(pieces)) + 2 * margin;
-  const forms::Size frame{size().width - innerSize().width, size().height - innerSize().height};
-  setSize({width + 2 * margin + frame.width, height + frame.height});
+  HostForm::layOutAbove({&cmdOK, &cmdCancel}, width, std::move(pieces));
 }
 
 }  // namespace trellisar

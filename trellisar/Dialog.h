@@ -3,13 +3,12 @@
 #include <string>
 
 #include "forms/CommandButton.h"
-#include "forms/Form.h"
-#include "forms/Rows.h"
+#include "trellisar/HostForm.h"
 
 namespace trellisar {
 
 /// A dialog of the host, with "cmdOK" and "cmdCancel". Escape and the close box are Cancel.
-class Dialog : public forms::Form {
+class Dialog : public HostForm {
  public:
   /// Shows the dialog over the active form. True when OK has ended it.
   bool run();

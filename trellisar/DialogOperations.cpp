@@ -1,8 +1,11 @@
 #include "host/Numbers.h"
+#include "trellisar/AddressBookDialog.h"
 #include "trellisar/DeviceDialog.h"
 #include "trellisar/DevicePropertiesDialog.h"
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/PreferencesDialog.h"
+#include "trellisar/RealTimeDialog.h"
+#include "trellisar/ReportsDialog.h"
 
 namespace trellisar {
 
@@ -26,9 +29,37 @@ void MainWindowOperations::ShowControlledDeviceProperties(std::int16_t iDeviceID
   DevicePropertiesDialog(session_->data(), device, colTabs).run();
 }
 
+void MainWindowOperations::ShowAddressBook(std::int32_t) {
+  note("ShowAddressBook");
+  AddressBookDialog(session_->preferences, [this] {
+    const auto communication = session_->communication.lock();
+    if (communication) communication->DisplayHelp.raise(host::helpFinishTab);
+  }).run();
+}
+
 void MainWindowOperations::ShowPreferencesDialog() {
   note("ShowPreferencesDialog");
   PreferencesDialog(session_->preferences).run();
+}
+
+void MainWindowOperations::ShowReportsDialog(const std::string& strReports) {
+  note("ShowReportsDialog " + strReports);
+  const DocumentData& document = *session_->data();
+  std::vector<Report> reports = reportsNamed(document, strReports);
+  if (reports.empty()) return;
+  ReportsDialog(std::move(reports), document.folder, session_->printer).run();
+}
+
+void MainWindowOperations::ShowRealTimeDialog(std::int16_t& iDeviceID) {
+  note("ShowRealTimeDialog " + std::to_string(iDeviceID));
+  const DevicePtr device = session_->data()->find(iDeviceID, DeviceData::Kind::device);
+  if (device && device->realTimePage == host::progIDRealTimeAudio) {
+    RealTimeDialog(*device).run();
+  } else {
+    showFailure(device
+                    ? "The device \"" + device->name + "\" has no real-time settings."
+                    : "The device whose real-time settings were asked for is not in the system.");
+  }
 }
 
 }  // namespace trellisar

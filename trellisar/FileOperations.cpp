@@ -4,6 +4,8 @@
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
+#include "trellisar/Archive.h"
+#include "trellisar/CompiledProgram.h"
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/SystemFile.h"
 #include "trellisar/SystemFolders.h"
@@ -43,7 +45,7 @@ void showFailure(const std::string& text) {
 std::string MainWindowOperations::chooseFile() const {
   forms::FileDialog dialog;
   dialog.title = "Open System";
-  dialog.filter = "Trellisar systems (*.tsy)|*.tsy";
+  dialog.filter = "Trellisar systems and archives (*.tsy;*.tsa)|*.tsy;*.tsa";
   dialog.initialFolder = GetDefaultSystemsFolder();
   dialog.defaultExtension = "tsy";
   return forms::Application::current().desktop().chooseFileToOpen(dialog);
@@ -56,17 +58,21 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
   const std::string path = strFile.empty() ? chooseFile() : strFile;
   bCancelled = path.empty();
   if (bCancelled) return nullptr;
-  const fs::path file = forms::toMachinePath(path);
+  fs::path file = forms::toMachinePath(path);
   // Who names a file that isn't there tells the user so.
   if (!strFile.empty() && !isThere(file)) return nullptr;
   try {
+    if (forms::lowerCase(path).ends_with(archiveExtension)) file = unpack(file);
+    bCancelled = file.empty();
+    if (bCancelled) return nullptr;
     const DocumentPtr data = readSystemFile(file, session_->library);
     data->journal = session_->journal;
+    forgetMissingProgram(*data, file.parent_path());
     // A template is where systems come from and never where one is saved to without a question.
     if (!bUseRecovery) data->ownFile.clear();
     if (session_->document) session_->document->Close();
     session_->document = std::make_shared<Document>(data);
-    if (bUseRecovery) session_->preferences.remember(path);
+    if (bUseRecovery) session_->preferences.remember(forms::fromMachinePath(file));
     return session_->document;
   } catch (const host::Error& error) {
     forms::Application::current().messageBox(
@@ -97,10 +103,15 @@ void MainWindowOperations::save(const std::string& path, const std::string& appl
   DocumentData& document = *session_->data();
   MadeFolders folders(forms::toMachinePath(path).parent_path());
   const std::string oldApplication = std::exchange(document.application, application);
+  const std::string oldProgram = document.compiledProgram;
+  const bool wasCurrent = document.programIsCurrent;
+  forgetMissingProgram(document, forms::toMachinePath(path).parent_path());
   try {
     saveSystemFile(document, path);
   } catch (const host::Error&) {
     document.application = oldApplication;
+    document.compiledProgram = oldProgram;
+    document.programIsCurrent = wasCurrent;
     throw;
   }
   folders.keep();

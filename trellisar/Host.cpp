@@ -27,9 +27,14 @@ Host::Host(const HostOptions& options)
   }
   session_->libraryManager = std::make_shared<LibraryManager>(
       session_->library, forms::fromMachinePath(dataFolder_ / "pictures"));
+  session_->panelTemplates = dataFolder_ / "PanelTemplates";
   session_->preferences = Preferences(options.preferencesFile);
   session_->replacing = options.replacing;
+  session_->exportFile = options.exportFile.empty() ? fs::path() : fs::absolute(options.exportFile);
+  session_->printer = options.printer;
   mainWindow_ = std::make_shared<MainWindowOperations>(session_);
+  communication_ = std::make_shared<Communication>(session_);
+  session_->communication = communication_;
 }
 
 const Pictures& Host::pictures() {

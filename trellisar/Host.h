@@ -13,7 +13,7 @@
 namespace trellisar {
 
 struct HostOptions {
-  /// Holds "library", "pictures" and "TemplateSystems".
+  /// Holds "library", "pictures", "PanelTemplates" and "TemplateSystems".
   std::filesystem::path dataFolder = {};
   /// A device library that stands in for the shipped one; shared between hosts that run side by
   /// side or one after the other. Nothing: the one of the data folder.
@@ -21,6 +21,11 @@ struct HostOptions {
   /// Where the user's preferences are kept; empty: nowhere, and there are none.
   std::filesystem::path preferencesFile = {};
   Replacing replacing = Replacing::ask;
+  /// The archive that an export writes, without asking. It replaces a file only with
+  /// Replacing::always. Empty: the user chooses.
+  std::filesystem::path exportFile = {};
+  /// Prints the reports; outlives the host. Nothing: they can be saved as HTML alone.
+  ReportPrinter* printer = nullptr;
 };
 
 /// One host of one thread, from which everything that an add-in is handed comes. Several hosts live
@@ -39,6 +44,7 @@ class Host {
   std::shared_ptr<Document> document() const {
     return session_->hasSystem() ? session_->document : nullptr;
   }
+  std::shared_ptr<const DeviceLibrary> library() const { return session_->library; }
   std::shared_ptr<LibraryManager> libraryManager() const { return session_->libraryManager; }
   std::shared_ptr<Communication> communication() const { return communication_; }
   std::shared_ptr<MainWindowOperations> mainWindow() const { return mainWindow_; }
@@ -50,6 +56,8 @@ class Host {
   const std::vector<std::pair<std::string, std::string>>& openSystems() const {
     return session_->openSystems;
   }
+  /// The archive that was exported last; empty: none was.
+  const std::filesystem::path& exportedFile() const { return session_->exportedFile; }
   Journal& journal() { return *session_->journal; }
 
  private:
@@ -58,7 +66,7 @@ class Host {
   std::filesystem::path dataFolder_;
   std::shared_ptr<Session> session_;
   std::shared_ptr<MainWindowOperations> mainWindow_;
-  std::shared_ptr<Communication> communication_ = std::make_shared<Communication>();
+  std::shared_ptr<Communication> communication_;
   std::optional<Pictures> pictures_;
 };
 

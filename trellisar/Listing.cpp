@@ -192,8 +192,8 @@ std::vector<ProgrammedEvent> programmedEvents(const DocumentData& document) {
       for (std::size_t i = 0; i < signal->events.size(); ++i) {
         const PresetData* preset = signal->events[i].get();
         if (!preset || preset->steps.empty()) continue;
-        events.push_back(
-            {document.shownName(device->id), name, static_cast<std::int16_t>(i), preset});
+        events.push_back({document.shownName(device->id), name, static_cast<std::int16_t>(i),
+                          preset, signal.get()});
       }
     }
   }

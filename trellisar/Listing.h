@@ -21,6 +21,7 @@ struct ProgrammedEvent {
   std::string signal;
   std::int16_t event;
   const PresetData* preset;
+  const SignalData* data;
 };
 
 /// Ordered by device, signal and event.

@@ -9,6 +9,8 @@
 
 namespace trellisar {
 
+class UIManagerObject;
+
 /// The operations of the host's main window. Messages and dialogs go to the thread's
 /// forms::Application.
 class MainWindowOperations : public host::OwnerForm {
@@ -62,14 +64,18 @@ class MainWindowOperations : public host::OwnerForm {
  private:
   void note(const std::string& call) const { session_->journal->note(call); }
   std::string chooseFile() const;
+  /// Asks where the system of an archive goes, and answers its file; empty: the user cancelled.
+  std::filesystem::path unpack(const std::filesystem::path& archive) const;
   bool mayReplace(const std::filesystem::path& file) const;
   void save(const std::string& path, const std::string& application);
+  const std::shared_ptr<UIManagerObject>& uiManager();
   std::int16_t chooseDevice(host::DeviceDialogArguments& arguments, const DefinitionPtr& chosen);
 
   std::shared_ptr<Session> session_;
   forms::Form* form_ = nullptr;
   host::SystemManagerOptions systemManager_;
   std::vector<std::int16_t> queryResponses_;
+  std::shared_ptr<UIManagerObject> uiManager_;  // made when it is first asked for
 };
 
 /// Shows a message that something could not be done.

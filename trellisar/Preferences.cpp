@@ -1,5 +1,6 @@
 #include "trellisar/Preferences.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <system_error>
 #include <utility>
@@ -15,6 +16,44 @@ constexpr const char* preferencesFormat = "trellisar-preferences";
 constexpr std::size_t maximumRecent = 10;
 constexpr JsonLimits preferencesLimits{1U << 20U, 10, 100};
 
+AddressBook readAddressBook(JsonReader reader) {
+  AddressBook book;
+  reader.at("receivers").each([&](JsonReader item) {
+    book.receivers.push_back({item.at("name").text(), item.at("address").text()});
+  });
+  const auto count = static_cast<std::int64_t>(book.receivers.size());
+  book.current = static_cast<std::size_t>(
+      reader.at("current").integer(0, std::max<std::int64_t>(1, count) - 1));
+  return book;
+}
+
+Json toJson(const AddressBook& book) {
+  Json json;
+  json["receivers"] = Json::array();
+  for (const NamedAddress& receiver : book.receivers) {
+    Json item;
+    item["name"] = receiver.name;
+    item["address"] = receiver.address;
+    json["receivers"].push_back(item);
+  }
+  json["current"] = book.current;
+  return json;
+}
+
+IPSettings readIPSettings(JsonReader reader) {
+  return {reader.at("address").text(), reader.at("mask").text(), reader.at("gateway").text(),
+          reader.at("host_name").text()};
+}
+
+Json toJson(const IPSettings& settings) {
+  Json json;
+  json["address"] = settings.address;
+  json["mask"] = settings.mask;
+  json["gateway"] = settings.gateway;
+  json["host_name"] = settings.hostName;
+  return json;
+}
+
 std::string environment(const char* name) {
   const char* value = std::getenv(name);
   return value ? value : "";
@@ -29,6 +68,8 @@ Preferences::Preferences(std::filesystem::path file) : file_(std::move(file)) {
   } catch (const host::Error&) {
     defaultFolder_.clear();
     recentSystems_.clear();
+    addressBook_ = {};
+    ipSettings_ = {};
   }
 }
 
@@ -42,6 +83,11 @@ void Preferences::read() {
   reader.at("recent_systems").each([&](const JsonReader& item) {
     if (recentSystems_.size() < maximumRecent) recentSystems_.push_back(item.text());
   });
+  // Files of before there was a link to a receiver lack them.
+  reader.ifPresent("address_book",
+                   [&](const JsonReader& item) { addressBook_ = readAddressBook(item); });
+  reader.ifPresent("ip_settings",
+                   [&](const JsonReader& item) { ipSettings_ = readIPSettings(item); });
 }
 
 void Preferences::write() const {
@@ -51,6 +97,8 @@ void Preferences::write() const {
   json["version"] = 1;
   json["default_folder"] = defaultFolder_;
   json["recent_systems"] = recentSystems_;
+  json["address_book"] = toJson(addressBook_);
+  json["ip_settings"] = toJson(ipSettings_);
   std::error_code error;
   std::filesystem::create_directories(file_.parent_path(), error);
   try {
@@ -63,6 +111,22 @@ void Preferences::write() const {
 void Preferences::setDefaultFolder(const std::string& folder) {
   if (defaultFolder_ == folder) return;
   defaultFolder_ = folder;
+  write();
+}
+
+void Preferences::forget(const std::string& system) {
+  if (std::erase(recentSystems_, system) > 0) write();
+}
+
+void Preferences::setAddressBook(const AddressBook& book) {
+  if (addressBook_ == book) return;
+  addressBook_ = book;
+  write();
+}
+
+void Preferences::setIPSettings(const IPSettings& settings) {
+  if (ipSettings_ == settings) return;
+  ipSettings_ = settings;
   write();
 }
 

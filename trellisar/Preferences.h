@@ -4,6 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "trellisar/AddressBook.h"
+#include "trellisar/IPSettings.h"
+
 namespace trellisar {
 
 /// What the host keeps for its user, in a small JSON file. A file that is missing, damaged or of
@@ -20,6 +23,12 @@ class Preferences {
   /// The systems that were opened or saved, the last first; ten at most.
   const std::vector<std::string>& recentSystems() const { return recentSystems_; }
   void remember(const std::string& system);
+  void forget(const std::string& system);
+
+  const AddressBook& addressBook() const { return addressBook_; }
+  void setAddressBook(const AddressBook& book);
+  const IPSettings& ipSettings() const { return ipSettings_; }
+  void setIPSettings(const IPSettings& settings);
 
   /// Where the user's preferences lie: below $XDG_CONFIG_HOME, or below ".config" in the home
   /// folder.
@@ -32,6 +41,8 @@ class Preferences {
   std::filesystem::path file_;
   std::string defaultFolder_;
   std::vector<std::string> recentSystems_;
+  AddressBook addressBook_;
+  IPSettings ipSettings_;
 };
 
 }  // namespace trellisar

@@ -1,15 +1,18 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "host/CommObject.h"
 #include "trellisar/DeviceLibrary.h"
 #include "trellisar/Document.h"
 #include "trellisar/Journal.h"
 #include "trellisar/LibraryObjects.h"
 #include "trellisar/Preferences.h"
+#include "trellisar/ReportPrinter.h"
 
 namespace trellisar {
 
@@ -24,8 +27,13 @@ enum class Replacing {
 struct Session {
   std::shared_ptr<const DeviceLibrary> library;
   std::shared_ptr<LibraryManager> libraryManager;
+  std::filesystem::path panelTemplates;  // the folder of the templates of panel projects
   Preferences preferences;
+  std::weak_ptr<host::CommObject> communication;
   Replacing replacing = Replacing::ask;
+  ReportPrinter* printer = nullptr;    // outlives the host; nothing: it can't print
+  std::filesystem::path exportFile;    // where an export goes; empty: the user is asked
+  std::filesystem::path exportedFile;  // the archive that was written last; empty: none
   std::shared_ptr<Document> document;  // the open system; nothing when there is none
   std::vector<std::pair<std::string, std::string>> openSystems;  // folder and name, as registered
   std::shared_ptr<Journal> journal = std::make_shared<Journal>();

@@ -7,8 +7,8 @@ namespace {
 
 constexpr std::array standardCommands{host::scOn, host::scOff, host::scRGB1, host::scVideo1};
 constexpr std::array commandNames{" on", " off", " rgb", " video"};
-// All, one of each pair, and none.
-constexpr std::array commandSets{0b1111U, 0b0110U, 0b1001U, 0b0000U};
+// All, one without composite video, one of each pair, and none.
+constexpr std::array commandSets{0b1111U, 0b0111U, 0b0110U, 0b1001U, 0b0000U};
 
 constexpr std::array<std::int16_t, 2> lockoutOnTimes{0, 30};
 constexpr std::array<std::int16_t, 2> lockoutOffTimes{0, 120};

@@ -151,6 +151,12 @@ bool lacks(const Combination& c, unsigned command) {
   return c.power == host::powerDiscrete && !c.has(command);
 }
 
+/// In what a display without controlled power leaves in its presets.
+bool differ(const Combination& before, const Combination& now) {
+  return before.power != now.power || before.commands != now.commands ||
+         before.lockoutOn != now.lockoutOn;
+}
+
 const std::vector<KeptPlace>& keptPlaces() {
   const auto lockoutGone = [](const Combination& before, const Combination& now) {
     return before.hasLockout() && !now.hasLockout();
@@ -169,18 +175,18 @@ const std::vector<KeptPlace>& keptPlaces() {
   };
   static const std::vector<KeptPlace> places{
       {"Display Power On",
-       [](const Combination&, const Combination& now) {
-         return now.power == host::powerNone || lacks(now, 0);
+       [](const Combination& before, const Combination& now) {
+         return (now.power == host::powerNone && differ(before, now)) || lacks(now, 0);
        },
        "only a display whose power is controlled empties its presets"},
       {"Display Power Off",
-       [](const Combination&, const Combination& now) {
-         return now.power == host::powerNone || lacks(now, 1);
+       [](const Combination& before, const Combination& now) {
+         return (now.power == host::powerNone && before.power != host::powerNone) || lacks(now, 1);
        },
        "as above"},
       {"PWRTIMEOUT", lockoutGone, "nothing removes the lockout module, its times or its events"},
       {"PWRSENSE", sensingLeft, "nothing removes the sensing module"},
-      {"Receiver.System_Ready_Pulse 0",
+      {"Receiver.System_Ready_Pulse",
        [](const Combination& before, const Combination& now) {
          return before.contact != addin::contactUnused && now.contact == addin::contactUnused;
        },

@@ -35,6 +35,11 @@ class Reader {
       const std::string target = slot->device == 0 ? "" : nameOf(slot->device) + ".";
       put(nameOf(device.id) + " slot " + slot->name, target + slot->command);
     }
+    for (const auto& signal : device.signals) {
+      if (signal->enabledEvents == 0) continue;
+      put(nameOf(device.id) + "." + signal->row.output + " events",
+          std::to_string(signal->enabledEvents));
+    }
     for (const auto& [name, value] : device.properties) {
       put(nameOf(device.id) + " is " + name, value);
     }
@@ -60,6 +65,12 @@ class Reader {
     return text;
   }
 
+  std::string test(const host::StepCondition& test) const {
+    return nameOf(test.get_DeviceID()) + "." + test.get_SignalName() +
+           (test.get_StateName().empty() ? "=" : " " + test.get_StateName() + "=") +
+           std::to_string(test.get_Value());
+  }
+
   std::string step(const StepData& step) const {
     switch (step.kind) {
       case host::stepCallPreset:
@@ -67,9 +78,7 @@ class Reader {
       case host::stepDelay:
         return nameOf(step.target) + " waits " + step.value;
       case host::stepConditional:
-        return "if " + nameOf(step.condition->get_DeviceID()) + "." +
-               step.condition->get_SignalName() + "=" +
-               std::to_string(step.condition->get_Value()) + " { " + steps(*step.branch) + " }";
+        return "if " + test(*step.condition) + " { " + steps(*step.branch) + " }";
       default:
         return nameOf(step.target) + "." + step.signal + (step.value.empty() ? "" : "~") +
                step.value;

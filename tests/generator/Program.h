@@ -12,6 +12,7 @@ namespace tests {
 ///
 ///     "Display Power On"                    -> "Power Relay.Relay_Close; Power Relay waits 500"
 ///     "Receiver.RGB_Selected 0"             -> "Display Device.RGB_1~10"
+///     "Receiver.RGB_Selected events"        -> "7", those that are enabled
 ///     "Kestrum Interface.Display_Usage <-"  -> "Display Device.Lamp_Hours"
 ///     "PWRSENSE slot Power_Toggle"          -> "Display Device.POWER"
 ///     "Motion Detector is Timeout"          -> "600"
@@ -22,6 +23,7 @@ namespace tests {
 ///     Power Relay waits 500               a delay in hundredths of a second
 ///     call Display Power On
 ///     if Receiver.RGB_Selected=1 { ... }
+///     if Digital Input 2.dig_input_1 Is Open=0 { ... }
 using Program = std::map<std::string, std::string>;
 
 Program programOf(const trellisar::DocumentData& document);

@@ -8,6 +8,7 @@
 #include "forms/Components.h"
 #include "tests/generator/Room.h"
 #include "tests/support/ScriptedDesktop.h"
+#include "trellisar/ProgramCheck.h"
 
 namespace {
 
@@ -30,26 +31,35 @@ TEST_F(ProgramTest, panelsWithoutAProjectAreDisabledWhileTheRoomIsNotReady) {
   room.givenDisplay(host::powerDiscrete);
   room.addIn().put_PowerOnLockoutTime(30);
   room.addIn().put_PowerContactClosureOption(addin::contactContinue);
+  room.addIn().AddKestrum();
   room.addIn().AddFenlet();  // a project panel, which has no such step
   ASSERT_TRUE(room.build()) << room.builder().GetLastError();
   const std::string panel = room.document().get_Touchpanels()->Items().front()->get_Name();
   const std::string off = panel + ".Enabled~-2", on = panel + ".Enabled~-1";
-  EXPECT_EQ(room.at("PWRTIMEOUT.Warming_Up 0"), off);
+  const std::string state = "Kestrum Interface.Display_Power_State~";
+  EXPECT_EQ(room.at("PWRTIMEOUT.Warming_Up 0"), state + "2d; " + off);
   EXPECT_TRUE(room.at("PWRTIMEOUT.Warming_Up 1").ends_with("}; " + on));
-  EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 0"), "Receiver.Lock; " + off);
+  EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 0"), state + "3d; Receiver.Lock; " + off);
   EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 1"),
-            "if Digital Input 2.dig_input_1=1 { Receiver.Unlock; " + on + " }");
-  EXPECT_EQ(room.at("System Lock"), "Receiver.Lock; " + off);
-  EXPECT_EQ(room.at("System Unlock"), "Receiver.Unlock; " + on);
+            state +
+                "0d; if Digital Input 2.dig_input_1 Is Closed=1 { "
+                "if Kestrum Interface.System_Lock=0 { Receiver.Unlock; " +
+                on + " } }");
+  EXPECT_EQ(room.at("System Lock"),
+            "Receiver.Lock; " + off + "; Kestrum Interface.System_Locked~-1");
+  EXPECT_EQ(room.at("System Unlock"),
+            "Receiver.Unlock; " + on + "; Kestrum Interface.System_Unlocked~-2");
 }
 
 TEST_F(ProgramTest, eachInputReportsItsErrorsOnTheReceiverWithThreeInputs) {
-  for (const std::int16_t model : {host::modelReceiverOneInput, host::modelReceiverThreeInputs}) {
-    Room room;
+  Room room;
+  room.addIn().AddKestrum();
+  for (const std::int16_t model :
+       {host::modelReceiverOneInput, host::modelReceiverThreeInputs, host::modelReceiverOneInput}) {
     std::string message;
     room.document().ChangeControlSystem(model, "", 0, message);
-    room.addIn().AddKestrum();
     ASSERT_TRUE(room.build());
+    EXPECT_TRUE(trellisar::programErrors(room.data()).empty()) << model;
     for (const std::string input : {"Input1", "Input2", "Input3"}) {
       const auto text = [&](const std::string& severity, const std::string& what) {
         return model == host::modelReceiverOneInput

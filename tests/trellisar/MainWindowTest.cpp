@@ -325,13 +325,5 @@ TEST(Preferences, AreKeptAndTolerateADamagedFile) {
   EXPECT_EQ(trellisar::Preferences(file).defaultFolder(), "");
 }
 
-TEST_F(MainWindowTest, WhatTheHostDoesNotHaveYetSaysSo) {
-  openTemplate();
-  std::int32_t hwnd = 0;
-  EXPECT_THROW(window().Export(hwnd), host::Error);
-  EXPECT_THROW(window().GetUIMgr(), host::Error);
-  EXPECT_THROW(host.communication()->StartTransfer(0, 1, 2), host::Error);
-}
-
 }  // namespace
 }  // namespace tests

@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <cstdlib>
@@ -64,46 +65,132 @@ class Hand {
   }
 };
 
-void chooseDisplay(const Hand& hand, const QString& device) {
-  Hand::whenOpen<QDialog>([device](QDialog& dialog) {
-    auto& list = dynamic_cast<QAbstractItemView&>(Hand::inside(dialog, "lstDevices"));
-    const auto matches = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, device, 1,
-                                             Qt::MatchExactly);
-    list.scrollTo(matches.at(0));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(matches.at(0)).center());
-    Hand::click(Hand::inside(dialog, "cmdOK"));
-  });
-  Hand::click(hand.onPage(2, "cmdChoose"));
+void clickRow(QAbstractItemView& list, const QString& text) {
+  const auto matches =
+      list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly);
+  list.scrollTo(matches.at(0));
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(matches.at(0)).center());
 }
 
-void answerInTheWindow(const Hand& hand) {
-  const auto next = [&](int times) {
-    for (int i = 0; i < times; ++i) Hand::click(hand.find("cmdNext"));
-  };
-  next(1);
-  Hand::type(hand.onPage(1, "txtSystemName"), "Room 4");
-  next(1);
-  chooseDisplay(hand, "Bravonne P2200");
-  QWidget& selector = Hand::inside(hand.onPage(2, "ctlCommands(0)"), "cboCommands");
+void chooseDevice(QWidget& button, const QString& device) {
+  Hand::whenOpen<QDialog>([device](QDialog& dialog) {
+    clickRow(dynamic_cast<QAbstractItemView&>(Hand::inside(dialog, "lstDevices")), device);
+    Hand::click(Hand::inside(dialog, "cmdOK"));
+  });
+  Hand::click(button);
+}
+
+/// Looks for the command with the arrow keys, from the first one.
+void chooseCommand(QWidget& deviceCommands, const QString& command) {
+  auto& selector = dynamic_cast<QComboBox&>(Hand::inside(deviceCommands, "cboCommands"));
   Hand::click(selector);
   if (auto* popup = QApplication::activePopupWidget()) popup->close();
-  QTest::keyClick(&selector, Qt::Key_Down);
-  Hand::click(hand.onPage(2, "chkPowerRelay"));
-  Hand::type(hand.onPage(2, "txtDelay(0)"), "5");
-  Hand::type(hand.onPage(2, "txtDelay(1)"), "90");
-  next(2);
-  Hand::click(hand.onPage(4, "chkSecondOff"));
+  QTest::keyClick(&selector, Qt::Key_Home);
+  for (int i = 0; i < selector.count() && selector.currentText() != command; ++i) {
+    QTest::keyClick(&selector, Qt::Key_Down);
+  }
+}
+
+/// A person who answers page after page, with Next between them.
+class Answering {
+ public:
+  explicit Answering(const Hand& hand) : hand_(hand) {}
+
+  void next() {
+    Hand::click(hand_.find("cmdNext"));
+    ++step_;
+  }
+  QWidget& on(const QString& name) const { return hand_.onPage(step_, name); }
+  void click(const QString& name) const { Hand::click(on(name)); }
+  void type(const QString& name, const QString& text) const { Hand::type(on(name), text); }
+  void choose(const QString& name, const QString& command) const {
+    chooseCommand(on(name), command);
+  }
+  void addTransmitter(const QString& type) const {
+    clickRow(dynamic_cast<QAbstractItemView&>(on("listDevices")), type);
+    click("cmdAdd");
+  }
+  void renameTransmitter(const QString& from, const QString& to) const {
+    clickRow(dynamic_cast<QAbstractItemView&>(on("lvwTransmitters")), from);
+    click("cmdRename");
+    QWidget* editor = QApplication::focusWidget();
+    for (const QChar letter : to) {  // also those that no key of QTest bears
+      QTest::sendKeyEvent(QTest::Click, editor, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+    QTest::keyClick(editor, Qt::Key_Return);
+  }
+
+ private:
+  const Hand& hand_;
+  int step_ = 0;
+};
+
+void answerInTheWindow(const Hand& hand) {
+  Answering page(hand);
+  page.next();
+  page.type("txtSystemName", "Room 4");
+  page.next();  // the display
+  chooseDevice(page.on("cmdChoose"), "Bravonne P2200");
+  page.choose("ctlCommands(0)", "RGB_2");
+  page.choose("ctlCommands(1)", "[ Unassigned ]");
+  page.click("chkPowerRelay");
+  page.type("txtDelay(0)", "5");
+  page.type("txtDelay(1)", "90");
+  page.next();  // audio
+  page.click("optVolumeKnob(1)");
+  page.click("optMicrophone(1)");
+  page.click("chkMuteOnDigInp3");
+  page.next();  // power
+  page.click("chkSecondOff");
   QTest::keyClicks(QApplication::focusWidget(), "3");
+  page.next();  // lockout
+  page.type("txtPowerLockoutTime(1)", "0");
+  page.type("txtPowerLockoutTime(2)", "150");
+  page.click("chkContact");
+  page.click("optContact(1)");
+  page.next();  // screen and lift
+  page.click("chkInclude(0)");
+  chooseDevice(page.on("cmdChoose(0)"), "Fallowmere Roll 240");
+  page.type("txtPulseTimeOn(0)", "20");
+  page.type("txtPulseTimeOff(0)", "22");
+  page.click("chkInclude(1)");
+  chooseDevice(page.on("cmdChoose(1)"), "Hoistrel HL-60 Serial");
+  page.choose("ctlPowerOff(1)", "[ Unassigned ]");
+  page.next();  // transmitters
+  page.addTransmitter("Wall Plate Transmitter");
+  page.addTransmitter("Lectern Transmitter");
+  page.addTransmitter("Wall Plate Transmitter");
+  page.renameTransmitter("Input 1", QString::fromUtf8("Größe ½m"));
+  page.renameTransmitter("Input 3", QString::fromUtf8("äöüß5678"));
+  page.click("chkUse3OLReceiver");
+  page.next();  // the room
+  page.click("chkInclude(0)");
+  page.click("chkInclude(1)");
+  page.type("txtFenletPassword", "two  words");
+  page.click("chkOccupancy");
+  page.click("chkPowerTimeout");
+  page.type("txtPowerOffTimeout", "15");
+  Hand::click(hand.find("cmdNext"));
   Hand::click(hand.find("cmdSave"));
-  Hand::click(hand.find("cmdFinish"));
   Hand::whenOpen<QMessageBox>([](QMessageBox& box) { Hand::click(*box.button(QMessageBox::Yes)); });
   Hand::click(hand.find("cmdFinish"));
 }
 
 constexpr const char* sameAnswers = R"({
   "name": "Room 4",
-  "display": {"device": "Bravonne P2200", "rgb": "RGB_2", "relay": {"on_delay": 5, "off_delay": 90}},
-  "power": {"second_off": {"delay": 3}}
+  "display": {"device": "Bravonne P2200", "rgb": "RGB_2", "composite": "",
+              "relay": {"on_delay": 5, "off_delay": 90}},
+  "audio": {"volume_knob": "master", "microphone": "always", "mute_on_input_3": true},
+  "power": {"second_off": {"delay": 3}},
+  "lockout": {"on": 0, "off": 150, "contact": "continue"},
+  "screen": {"device": "Fallowmere Roll 240", "on_pulse": 20, "off_pulse": 22},
+  "lift": {"device": "Hoistrel HL-60 Serial", "off": ""},
+  "transmitters": [{"type": "Wall Plate Transmitter", "label": "Größe ½m"},
+                   {"type": "Lectern Transmitter"},
+                   {"type": "Wall Plate Transmitter", "label": "äöüß5678"}],
+  "three_input_receiver": true,
+  "room": {"kestrum": true, "fenlet": true, "fenlet_password": "two  words",
+           "occupancy": true, "power_off_after": 15}
 })";
 
 trellisar::Json listingOf(const fs::path& parent) {

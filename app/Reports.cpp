@@ -1,0 +1,34 @@
+#include "app/Reports.h"
+
+#include <iostream>
+
+#include "app/ExitStatus.h"
+#include "app/Report.h"
+#include "app/ReportPrinter.h"
+#include "host/Error.h"
+#include "trellisar/Report.h"
+#include "trellisar/SystemFile.h"
+
+namespace app {
+
+int writeReports(const ReportsOptions& options) {
+  trellisar::DocumentPtr document;
+  try {
+    document = trellisar::readSystemFile(options.systemFile, nullptr);
+  } catch (const host::Error& error) {
+    reportLine(error.description());
+    return exitStatus::wrongInput;
+  }
+  try {
+    auto files = trellisar::writeReports(*document, options.out);
+    const auto pdfs = writePdfReports(*document, options.out);
+    files.insert(files.end(), pdfs.begin(), pdfs.end());
+    for (const auto& file : files) std::cout << file.string() << '\n';
+    return exitStatus::ok;
+  } catch (const host::Error& error) {
+    reportLine(error.description());
+    return exitStatus::refused;
+  }
+}
+
+}  // namespace app

@@ -1,0 +1,85 @@
+#include "qt/Printing.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSaveFile>
+#include <QTextDocument>
+
+#include "forms/Error.h"
+
+namespace qt {
+namespace {
+
+constexpr int dotsPerInch = 300;
+constexpr qreal marginMillimetres = 15;
+
+QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+void preparePage(QPagedPaintDevice& paper) {
+  paper.setPageSize(QPageSize(QPageSize::A4));
+  paper.setPageMargins(
+      QMarginsF(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres),
+      QPageLayout::Millimeter);
+}
+
+void draw(const std::string& html, QPagedPaintDevice& paper) {
+  QTextDocument document;
+  document.documentLayout()->setPaintDevice(&paper);
+  document.setHtml(text(html));
+  document.print(&paper);
+}
+
+}  // namespace
+
+void printHtml(const std::string& title, const std::string& html) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(text(title));
+  preparePage(printer);
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  if (dialog.exec() != QDialog::Accepted) return;
+  draw(html, printer);
+  if (printer.printerState() == QPrinter::Error) {
+    throw forms::Error(forms::errors::invalidCall, "The printer \"" +
+                                                       printer.printerName().toStdString() +
+                                                       "\" did not take \"" + title + "\".");
+  }
+}
+
+void writePdf(const std::filesystem::path& path, const std::string& title,
+              const std::string& html) {
+  QSaveFile file(text(path.string()));
+  bool isWritten = file.open(QIODevice::WriteOnly);
+  if (isWritten) {
+    QPdfWriter paper(&file);
+    paper.setTitle(text(title));
+    paper.setResolution(dotsPerInch);
+    preparePage(paper);
+    draw(html, paper);
+    isWritten = file.commit();
+  }
+  if (!isWritten) {
+    throw forms::Error(
+        forms::errors::invalidCall,
+        "The file \"" + path.string() + "\" can't be written: " + file.errorString().toStdString());
+  }
+}
+
+struct OffscreenApplication::Impl {
+  int count = 1;
+  char name[7] = "orlena";
+  char* arguments[2] = {name, nullptr};
+  QGuiApplication application{count, arguments};
+};
+
+OffscreenApplication::OffscreenApplication() {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  impl_ = new Impl;
+}
+
+OffscreenApplication::~OffscreenApplication() { delete impl_; }
+
+}  // namespace qt

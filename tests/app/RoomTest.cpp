@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "tests/app/Program.h"
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+using Json = nlohmann::json;
+
+class OrlenaRoom : public testing::Test {
+ protected:
+  Outcome build(const std::string& answers, const std::vector<std::string>& options = {}) {
+    folder_.write("answers.json", answers);
+    std::vector<std::string> arguments{"build", "answers.json"};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return program_.run(arguments);
+  }
+
+  /// The listing of the room that the answers lead to.
+  Json listing(const std::string& answers) {
+    const Outcome built = build(answers, {"--replace"});
+    EXPECT_EQ(built.status, 0) << built.errors;
+    if (built.status != 0) return {};
+    return Json::parse(
+        program_.run({"show", built.output.substr(0, built.output.find('\n')), "--json"}).output);
+  }
+
+  TemporaryFolder folder_;
+  Program program_{folder_};
+};
+
+/// The names of a list's objects, with another of their texts in brackets.
+std::string namesAndTexts(const Json& list, const std::string& key) {
+  std::string all;
+  for (const Json& entry : list) {
+    const std::string text = entry[key].get<std::string>();
+    if (!text.empty()) all += entry["name"].get<std::string>() + " [" + text + "]\n";
+  }
+  return all;
+}
+
+bool holds(const Json& list, const std::string& name) {
+  return std::any_of(list.begin(), list.end(), [&](const Json& it) { return it["name"] == name; });
+}
+
+TEST_F(OrlenaRoom, namesItsTransmittersAfterAllOfThemAreThere) {
+  const Json room = listing(R"({"name": "Hall", "transmitters": [
+    {"type": "Table Box Transmitter"},
+    {"type": "Guest Transmitter", "label": "äöü ß 78"},
+    {"type": "Table Box Transmitter", "label": "Input"}]})");
+  EXPECT_EQ(namesAndTexts(room["devices"], "label"),
+            "Table Box Transmitter OL1 [Input 1]\n"
+            "Guest Transmitter OL2 [äöü ß 78]\n"
+            "Table Box Transmitter OL3 [Input]\n");
+  EXPECT_EQ(room["receiver"]["model"], 841);
+
+  const Json single = listing(R"({"name": "Hall", "transmitters": [
+    {"type": "Lectern Transmitter"}]})");
+  EXPECT_EQ(namesAndTexts(single["devices"], "label"), "Lectern Transmitter OL1 [Input]\n");
+  EXPECT_EQ(single["receiver"]["model"], 842);
+
+  const Json none = listing(R"({"name": "Hall", "transmitters": []})");
+  EXPECT_EQ(namesAndTexts(none["devices"], "label"), "");
+}
+
+TEST_F(OrlenaRoom, takesThePasswordWithoutTheBlanksAtItsEnds) {
+  const auto password = [&](const std::string& room) {
+    return listing(R"({"name": "Hall", "room": {)" + room + "}}")["settings"].dump();
+  };
+  const auto row = [](const std::string& value) { return "Fenlet Password=" + value + ";"; };
+  EXPECT_NE(
+      password(R"("fenlet": true, "fenlet_password": "  two  words ")").find(row("two  words")),
+      std::string::npos);
+  EXPECT_NE(password(R"("fenlet": true, "fenlet_password": "")").find(row("")), std::string::npos);
+  EXPECT_NE(password(R"("fenlet": true)").find(row("mossgate")), std::string::npos);
+  EXPECT_NE(password(R"("fenlet": false)").find(row("")), std::string::npos);
+}
+
+TEST_F(OrlenaRoom, takesAnswersThatOnlyClear) {
+  const Json room = listing(R"({
+    "name": "Hall", "display": {"device": "Orvistel F42"}, "lockout": {"contact": "unused"},
+    "audio": {"volume_knob": "program", "microphone": "when on", "mute_on_input_3": false},
+    "three_input_receiver": false,
+    "room": {"kestrum": false, "fenlet": false, "occupancy": true, "power_off_after": 0}})");
+  EXPECT_TRUE(holds(room["devices"], "Motion Detector"));
+  EXPECT_FALSE(holds(room["devices"], "Kestrum Interface"));
+  EXPECT_TRUE(room["touch_panels"].empty());
+}
+
+TEST_F(OrlenaRoom, isBuiltFromEachExample) {
+  for (const auto& file : fs::directory_iterator(fs::path(ORLENA_SOURCE_FOLDER) / "examples")) {
+    if (file.path().extension() != ".json") continue;
+    const Outcome outcome = program_.run({"build", file.path().string()});
+    EXPECT_EQ(outcome.status, 0) << file.path() << outcome.errors;
+  }
+}
+
+/// A copy of the shipped library without the device of this name.
+void writeLibraryWithout(const std::string& device, const fs::path& folder) {
+  fs::copy(fs::path(ORLENA_SOURCE_FOLDER) / "data/library", folder);
+  for (const auto& file : fs::directory_iterator(folder)) {
+    Json json = Json::parse(readWhole(file.path()));
+    if (!json.contains("devices")) continue;
+    Json kept = Json::array();
+    for (const Json& entry : json["devices"]) {
+      if (entry["name"] != device) kept.push_back(entry);
+    }
+    json["devices"] = kept;
+    writeFile(file.path(), json.dump());
+  }
+}
+
+/// The page's box stays ticked then, so that the answer would seem to be taken.
+TEST_F(OrlenaRoom, isRefusedWhereTheSystemDoesNotGetTheDevice) {
+  struct Case {
+    const char* device;
+    const char* answers;
+    const char* refusal;
+  };
+  const Case cases[] = {
+      {"Kestrum Interface", R"("room": {"kestrum": true})",
+       R"(answers.json: room.kestrum: the step "Room Options" did not take true)"},
+      {"Motion Detector", R"("room": {"occupancy": true})",
+       R"(answers.json: room.occupancy: the step "Room Options" did not take true)"},
+      {"Power Relay", R"("display": {"device": "Orvistel F42", "relay": {}})",
+       R"(answers.json: display.relay: the step "Display Device" did not take {})"},
+  };
+  for (const Case& missing : cases) {
+    writeLibraryWithout(missing.device, folder_ / "library");
+    const Outcome outcome = build(std::string(R"({"name": "Hall", )") + missing.answers + "}",
+                                  {"--library", "library"});
+    EXPECT_EQ(outcome.status, 1) << missing.device;
+    EXPECT_NE(outcome.errors.find(missing.refusal), std::string::npos) << outcome.errors;
+    EXPECT_FALSE(fs::exists(folder_ / "systems")) << missing.device;
+    fs::remove_all(folder_ / "library");
+  }
+}
+
+TEST_F(OrlenaRoom, ofTwoHundredIsBuiltBesideFiveThatAreBroken) {
+  const std::map<int, std::pair<std::string, std::string>> broken{
+      {3, {R"("lockout": {"contact": "opened"})", "lockout.contact: \"opened\" is none of "}},
+      {50, {R"("screen": {"device": "Hoistrel HL-30"})", "screen.device: \"Hoistrel HL-30\" is "}},
+      {51,
+       {R"("transmitters": [{"type": "Wall Plate Transmitter"}, {"type": "Wall"}])",
+        "transmitters[1].type: \"Wall\" is none of "}},
+      {120, {R"("room": {"fenlet_password": "x"})", "room.fenlet_password: is not asked for "}},
+      {199, {R"("audio": {"mute": true})", "audio.mute: is no key"}},
+  };
+  std::vector<std::string> arguments{"build", "--out", "out", "--jobs", "2"};
+  std::string paths;
+  for (int i = 0; i < 200; ++i) {
+    const std::string name = "Room " + std::to_string(i);
+    const auto fault = broken.find(i);
+    const std::string answers =
+        fault == broken.end() ? R"("display": {"device": "Orvistel F42"})" : fault->second.first;
+    folder_.write(name + ".json", R"({"name": ")" + name + "\", " + answers + "}");
+    arguments.push_back(name + ".json");
+    if (fault == broken.end()) {
+      paths += (folder_ / ("out/" + name + "/" + name + ".tsy")).string() + "\n";
+    }
+  }
+  const Outcome outcome = program_.run(arguments);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, paths);
+  for (const auto& [number, fault] : broken) {
+    const std::string line = "Room " + std::to_string(number) + ".json: " + fault.second;
+    EXPECT_NE(outcome.errors.find(line), std::string::npos) << outcome.errors;
+    EXPECT_FALSE(fs::exists(folder_ / ("out/Room " + std::to_string(number))));
+  }
+}
+
+}  // namespace
+}  // namespace app

@@ -1,0 +1,153 @@
+#include "tests/fuzz/Targets.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "addin/IAddIn.h"
+#include "addin/modGlobals.h"
+#include "app/Answers.h"
+#include "app/RunEnded.h"
+#include "common/AttributeText.h"
+#include "forms/Application.h"
+#include "forms/HeadlessDesktop.h"
+#include "forms/Paths.h"
+#include "host/Error.h"
+#include "receiver/Error.h"
+#include "receiver/Frame.h"
+#include "receiver/Messages.h"
+#include "trellisar/Archive.h"
+#include "trellisar/DeviceLibrary.h"
+#include "trellisar/Host.h"
+#include "trellisar/Json.h"
+#include "trellisar/Listing.h"
+#include "trellisar/ProgramCheck.h"
+#include "trellisar/SystemFile.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path data = fs::path(ORLENA_SOURCE_FOLDER) / "data";
+
+void require(bool holds, const char* what) {
+  if (!holds) throw std::logic_error(what);
+}
+
+/// A folder for the files of one process, which goes with it.
+class Folder {
+ public:
+  Folder() {
+    std::string pattern = (fs::temp_directory_path() / "orlena-fuzz-XXXXXX").string();
+    path_ = ::mkdtemp(pattern.data());
+  }
+  ~Folder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  fs::path write(const std::string& name, std::string_view bytes) const {
+    std::ofstream(path_ / name, std::ios::binary) << bytes;
+    return path_ / name;
+  }
+  const fs::path& path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+const Folder& folder() {
+  static const Folder made;
+  return made;
+}
+
+/// A host with the template open, and the add-in that works on it.
+struct World {
+  forms::HeadlessDesktop desktop;
+  forms::Application application{desktop, forms::fromMachinePath(data)};
+  trellisar::Host host{{.dataFolder = data}};
+  std::shared_ptr<addin::IAddIn> addIn = std::make_shared<addin::IAddIn>();
+
+  World() {
+    const auto file = data / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
+    addin::SetAddIn(addIn);
+    addin::SetDocument(host.mainWindow()->FileOpen(forms::fromMachinePath(file), false));
+    addin::SetLibraryManager(host.libraryManager());
+    addin::SetOwnerForm(host.mainWindow());
+  }
+};
+
+/// What was read is written and read again as the same settings.
+void settings(std::string_view bytes) {
+  World world;
+  auto& stored = world.host.document()->data().settings;
+  stored = {{"Orlena", std::string(bytes)}};
+  world.addIn->LoadAttributes();
+  world.addIn->SaveAttributes();
+  const auto first = stored;
+  world.addIn->LoadAttributes();
+  world.addIn->SaveAttributes();
+  require(stored == first, "the settings changed when they were read again");
+}
+
+void system(std::string_view bytes) {
+  try {
+    const auto document = trellisar::readSystemFile(folder().write("system.tsy", bytes), nullptr);
+    trellisar::listing(*document);
+    trellisar::readableText(*document);
+    trellisar::programErrors(*document);
+    const std::string text = trellisar::systemFileText(*document);
+    const auto again = trellisar::readSystemFile(folder().write("again.tsy", text), nullptr);
+    require(trellisar::systemFileText(*again) == text, "the system changed when it was read again");
+  } catch (const host::Error&) {
+  }
+}
+
+void library(std::string_view bytes) {
+  static const fs::path index = folder().write("index.json", R"({
+    "format": "trellisar-device-library", "version": 1, "files": ["devices.json"]})");
+  folder().write("devices.json", bytes);
+  try {
+    trellisar::DeviceLibrary(index.parent_path()).check();
+  } catch (const host::Error&) {
+  }
+}
+
+void answers(std::string_view bytes) {
+  try {
+    app::Answers::fromFile(folder().write("answers.json", bytes));
+  } catch (const app::RunEnded&) {
+  }
+}
+
+void archive(std::string_view bytes) {
+  const fs::path parent = folder().path() / "unpacked";
+  fs::create_directories(parent);
+  try {
+    trellisar::unpackArchive(folder().write("system.tsa", bytes), parent);
+  } catch (const host::Error&) {
+    require(fs::is_empty(parent), "a refused archive left something behind");
+  }
+  fs::remove_all(parent);
+}
+
+void protocol(std::string_view bytes) {
+  try {
+    const receiver::Frame frame = receiver::Frame::decode(bytes);
+    require(frame.encode() == bytes, "a frame changed when it was written again");
+    receiver::readMessage(frame);
+  } catch (const receiver::Error&) {
+  }
+}
+
+}  // namespace
+
+const std::map<std::string, FuzzTarget>& fuzzTargets() {
+  static const std::map<std::string, FuzzTarget> targets{
+      {"settings", settings}, {"system", system},   {"library", library},
+      {"answers", answers},   {"archive", archive}, {"protocol", protocol}};
+  return targets;
+}
+
+}  // namespace tests

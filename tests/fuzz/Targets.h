@@ -1,0 +1,16 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace tests {
+
+/// What is fed with any bytes: it may refuse them with the error that its callers expect, and with
+/// nothing else.
+using FuzzTarget = void (*)(std::string_view bytes);
+
+/// By name: settings, system, library, answers, archive, protocol.
+const std::map<std::string, FuzzTarget>& fuzzTargets();
+
+}  // namespace tests

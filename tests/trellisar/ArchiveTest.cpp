@@ -1,0 +1,201 @@
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+
+#include "forms/Paths.h"
+#include "host/Error.h"
+#include "tests/trellisar/World.h"
+#include "trellisar/Archive.h"
+#include "trellisar/FileIO.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+using trellisar::readFile;
+
+struct Entry {
+  std::string name;
+  std::string content;
+  std::string linkTo = {};
+};
+
+/// A zip file with exactly these entries.
+std::string zipOf(const std::vector<Entry>& entries) {
+  std::string bytes;
+  archive* zip = archive_write_new();
+  archive_write_set_format_zip(zip);
+  archive_write_set_bytes_in_last_block(zip, 1);
+  archive_write_open(
+      zip, &bytes, nullptr,
+      [](archive*, void* to, const void* block, std::size_t size) {
+        static_cast<std::string*>(to)->append(static_cast<const char*>(block), size);
+        return static_cast<la_ssize_t>(size);
+      },
+      nullptr);
+  for (const Entry& one : entries) {
+    archive_entry* entry = archive_entry_new();
+    archive_entry_set_pathname(entry, one.name.c_str());
+    archive_entry_set_filetype(entry, one.linkTo.empty() ? AE_IFREG : AE_IFLNK);
+    if (!one.linkTo.empty()) archive_entry_set_symlink(entry, one.linkTo.c_str());
+    archive_entry_set_perm(entry, 0644);
+    archive_entry_set_size(entry, static_cast<la_int64_t>(one.content.size()));
+    archive_write_header(zip, entry);
+    archive_write_data(zip, one.content.data(), one.content.size());
+    archive_entry_free(entry);
+  }
+  archive_write_close(zip);
+  archive_write_free(zip);
+  return bytes;
+}
+
+class ArchiveTest : public HostTest {
+ protected:
+  ArchiveTest() {
+    openTemplate();
+    data().name = "Büro";
+    data().folder = folder.inside("Büro\\");
+    addDisplay();
+    auto panel = window().AddInterface(host::modelFenlet, data().controlSystem, "");
+    EXPECT_TRUE(window().FileSaveAs(folder.inside("Büro\\Büro"), "Orlena"));
+    EXPECT_TRUE(window().CreateTouchpanels(panel));
+    bool cancelled = false;
+    EXPECT_TRUE(window().ShowCreateProgramDialog(cancelled));
+    fs::create_directory(place());
+  }
+
+  trellisar::MainWindowOperations& window() { return *host.mainWindow(); }
+  fs::path place() const { return folder.path() / "place"; }
+  fs::path inRoom(const std::string& name) const { return folder.path() / "Büro" / name; }
+  void exportTo(const std::string& name) {
+    desktop.expectSaveDialog("Export System", folder.inside(name));
+    std::int32_t hwnd = 0;
+    window().Export(hwnd);
+  }
+
+  /// What unpacking says of the bytes; empty when it takes them. A refusal leaves nothing behind.
+  std::string refusalOf(const std::string& bytes) {
+    const fs::path file = folder.path() / "Other.tsa";
+    writeFile(file, bytes);
+    try {
+      trellisar::unpackArchive(file, place());
+    } catch (const host::Error& error) {
+      EXPECT_TRUE(fs::is_empty(place())) << error.description();
+      return error.description();
+    }
+    fs::remove_all(place());
+    fs::create_directory(place());
+    return {};
+  }
+};
+
+TEST_F(ArchiveTest, HoldsTheWholeSystemAndGivesItBack) {
+  exportTo("Room");
+  const fs::path archive = folder.path() / "Room.tsa";
+  ASSERT_TRUE(fs::exists(archive)) << "the extension is added";
+  EXPECT_EQ(host.exportedFile(), archive);
+  const std::string test = "unzip -t '" + archive.string() + "' >/dev/null";
+  EXPECT_EQ(std::system(test.c_str()), 0);
+
+  const std::string title =
+      "Choose the folder in which the system of the archive gets its own folder:";
+  const auto first = host.document();
+  bool cancelled = false;
+  desktop.expectFolderDialog(title, "");
+  EXPECT_EQ(window().FileOpen(folder.inside("Room.tsa"), true, cancelled), nullptr);
+  EXPECT_TRUE(cancelled);
+  EXPECT_EQ(host.document(), first);
+  desktop.expectFolderDialog(title, folder.inside("place"));
+  ASSERT_NE(window().FileOpen(folder.inside("Room.tsa"), true, cancelled), nullptr);
+  EXPECT_EQ(host.document()->get_Path(), folder.inside("place\\Büro\\"));
+  EXPECT_TRUE(data().programIsCurrent);
+  for (const char* name : {"Büro.tsy", "Büro.tsp", "Fenlet.tpj"}) {
+    EXPECT_EQ(readFile(place() / "Büro" / name), readFile(inRoom(name))) << name;
+  }
+  EXPECT_TRUE(fs::exists(place() / "Büro" / "reports" / "Connection Sheet.html"));
+
+  EXPECT_THROW(trellisar::unpackArchive(archive, place()), host::Error) << "it is there already";
+}
+
+TEST_F(ArchiveTest, SameRoomGivesTheSameBytesInEveryTimeZone) {
+  const std::string bytes = trellisar::archiveOf(data());
+  ::setenv("TZ", "Asia/Tokyo", 1);
+  ::tzset();
+  EXPECT_EQ(trellisar::archiveOf(data()), bytes);
+  ::unsetenv("TZ");
+  ::tzset();
+}
+
+TEST_F(ArchiveTest, ExportThatCantBeIsToldAndReplacesNothing) {
+  desktop.expectMessageWith(forms::Icon::critical, "it does not exist");
+  exportTo("none\\Room.tsa");
+  writeFile(folder.path() / "Old.tsa", "old");
+  fs::remove(inRoom("Büro.tsp"));
+  desktop.expectMessageWith(forms::Icon::critical, "The system could not be exported.");
+  exportTo("Old.tsa");
+  EXPECT_EQ(readFile(folder.path() / "Old.tsa"), "old");
+  EXPECT_TRUE(host.exportedFile().empty());
+
+  trellisar::Host told({.dataFolder = dataFolder(),
+                        .library = shippedLibrary(),
+                        .exportFile = folder.path() / "Old.tsa"});
+  told.mainWindow()->FileOpen(forms::fromMachinePath(inRoom("Büro.tsy")), true);
+  desktop.expectMessageWith(forms::Icon::exclamation, "is there already");
+  std::int32_t hwnd = 0;
+  told.mainWindow()->Export(hwnd);
+}
+
+TEST_F(ArchiveTest, HostileArchivesAreRefused) {
+  const Entry system{"Room.tsy", readFile(inRoom("Büro.tsy"))};
+  std::vector<Entry> many(1001, system);
+  for (std::size_t i = 1; i < many.size(); ++i) many[i] = {"f" + std::to_string(i), ""};
+  const std::pair<std::vector<Entry>, const char*> cases[] = {
+      {{system, {"../evil", "x"}}, "\"../evil\" leads out of the system's folder"},
+      {{system, {"a/../../evil", "x"}}, "leads out of the system's folder"},
+      {{system, {"/tmp/evil", "x"}}, "leads out of the system's folder"},
+      {{system, {"..\\evil", "x"}}, "leads out of the system's folder"},
+      {{system, {"a//evil", "x"}}, "has no usable name"},
+      {{system, {"link", "", "/etc/passwd"}}, "is no plain file"},
+      {{system, {"A", "1"}, {"a", "2"}}, "\"a\" stands twice"},
+      {{system, {"a", "1"}, {"a/b", "2"}}, "a file stands where a folder should be"},
+      {{system, {"Hall.tsy", "{}"}}, "more than one system"},
+      {{{"deep/Room.tsy", system.content}}, "it holds no system"},
+      {{{"...tsy", system.content}}, "has no usable name"},
+      {{{"Room.tsy", "{}"}}, "Room.tsy: format: is missing"},
+      {{system}, "it lacks the compiled program \"Büro.tsp\""},
+      {{system, {"Büro.tsp", "trellisar-program 1 0 0\n"}},
+       "the compiled program \"Büro.tsp\" is damaged"},
+      {many, "more than 1,000 entries"},
+      {{system, {"bomb", std::string(129U << 20U, '0')}}, "more than 128 MB"},
+  };
+  for (const auto& [entries, why] : cases) {
+    const std::string refusal = refusalOf(zipOf(entries));
+    EXPECT_NE(refusal.find(why), std::string::npos) << why << "\nsaid: " << refusal;
+  }
+  EXPECT_NE(refusalOf("no zip at all").find("it is damaged or no archive"), std::string::npos);
+}
+
+TEST_F(ArchiveTest, DamagedAnywhereIsRefusedOrHarmless) {
+  const std::string whole = trellisar::archiveOf(data());
+  EXPECT_EQ(refusalOf(whole), "");
+  for (std::size_t at = 0; at < whole.size(); at += 1 + whole.size() / 97) {
+    EXPECT_NE(refusalOf(whole.substr(0, at)), "") << "cut at " << at;
+  }
+  // The directory at the end, in which the sizes and places of the entries stand.
+  const std::size_t directory = whole.find("PK\1\2");
+  ASSERT_NE(directory, std::string::npos);
+  std::string lying = whole;
+  lying[directory + 24] = static_cast<char>(lying[directory + 24] + 1);
+  EXPECT_NE(refusalOf(lying), "") << "an entry is smaller than the directory says";
+  for (std::size_t at = directory; at < whole.size(); at += 3) {
+    std::string changed = whole;
+    changed[at] = static_cast<char>(changed[at] ^ 0x55);
+    static_cast<void>(refusalOf(changed));
+  }
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,402 @@
+#include <optional>
+#include <thread>
+
+#include "forms/Form.h"
+#include "forms/ListView.h"
+#include "forms/ProgressBar.h"
+#include "forms/TextBox.h"
+#include "forms/User.h"
+#include "host/Error.h"
+#include "receiver/Client.h"
+#include "receiver/Network.h"
+#include "receiver/Server.h"
+#include "tests/trellisar/World.h"
+#include "trellisar/CompiledProgram.h"
+
+namespace tests {
+namespace {
+
+using forms::Icon;
+using Kind = receiver::Outcome::Kind;
+
+/// A receiver in a thread.
+class Running {
+ public:
+  explicit Running(const std::filesystem::path& folder, std::size_t connections = 64)
+      : server_({.listen = {"127.0.0.1", 0},
+                 .folder = folder,
+                 .frameTime = std::chrono::seconds(30),
+                 .connections = connections}),
+        thread_([this] { server_.run(); }) {}
+  ~Running() {
+    server_.stop();
+    thread_.join();
+  }
+
+  std::string address() const { return server_.address().text(); }
+  receiver::Holdings holdings() const {
+    receiver::Holdings holdings;
+    EXPECT_TRUE(receiver::query(server_.address(), holdings));
+    return holdings;
+  }
+
+ private:
+  receiver::Server server_;
+  std::thread thread_;
+};
+
+/// Lets others connect and never answers.
+class Silent {
+ public:
+  std::string address() const {
+    return "127.0.0.1:" + std::to_string(acceptor_.local_endpoint().port());
+  }
+
+ private:
+  asio::io_context context_;
+  asio::ip::tcp::acceptor acceptor_{context_, {asio::ip::make_address("127.0.0.1"), 0}};
+};
+
+/// Writes down what a bar shows, in hundredths.
+class BarView : public forms::View {
+ public:
+  void watch(forms::Control& bar) {
+    bar_ = dynamic_cast<forms::ProgressBar*>(&bar);
+    bar.attach(this);
+  }
+  void update() override { shown.push_back(100.0 * bar_->value() / bar_->maximum()); }
+  void detach() override {}
+
+  std::vector<double> shown;
+
+ private:
+  forms::ProgressBar* bar_ = nullptr;
+};
+
+class CommunicationTest : public HostTest {
+ protected:
+  CommunicationTest() {
+    openTemplate();
+    completed = link().OnTransferComplete.listen([this](std::int16_t) {
+      calls.push_back(application.activeForm() ? "completed behind a window" : "completed");
+      static_cast<void>(link().SetPassword(password));
+    });
+  }
+
+  trellisar::Communication& link() { return *host.communication(); }
+  std::int32_t handle() { return host.document()->get_SystemInfo()->get_UploadHandle(); }
+
+  void build() {
+    data().name = "Room";
+    data().folder = folder.inside("Room\\");
+    ASSERT_TRUE(host.mainWindow()->FileSaveAs(folder.inside("Room\\Room"), "Orlena"));
+    trellisar::storeCompiledProgram(data(), trellisar::compileProgram(data()));
+  }
+  void start(const std::string& address) {
+    link().setAddress(address);
+    link().StartTransfer(0, handle(), 2);
+    calls.push_back("started");
+  }
+  void upload(const std::string& address) {
+    start(address);
+    application.processEvents();
+  }
+  std::string startError(std::int32_t deviceHandle) {
+    try {
+      link().StartTransfer(0, deviceHandle, 2);
+    } catch (const host::Error& error) {
+      return error.description();
+    }
+    return "none";
+  }
+
+  forms::Control& control(const std::string& name) {
+    return application.activeForm()->control(name);
+  }
+  void type(const std::string& box, const std::string& text) {
+    user.replaceText(dynamic_cast<forms::TextBox&>(control(box)), text);
+  }
+  void click(const std::string& button) { user.click(control(button)); }
+  /// Clicks, and is told a text that holds this.
+  void clickRefused(const std::string& button, const std::string& text) {
+    desktop.expectMessageWith(Icon::exclamation, text);
+    click(button);
+  }
+  void inAddressBook(const std::function<void()>& acts) {
+    desktop.whenShown("AddressBookDialog", [&](forms::Form&) { acts(); });
+    host.mainWindow()->ShowAddressBook(0);
+  }
+  void inIPSettings(const std::function<void()>& acts) {
+    desktop.whenShown("IPSettingsDialog", [&](forms::Form&) { acts(); });
+    std::int32_t hwnd = 0;
+    link().ShowSetIPDialog(hwnd);
+  }
+  void addReceiver(const std::string& name, const std::string& address) {
+    type("txtName", name);
+    type("txtAddress", address);
+    click("cmdAdd");
+  }
+  void select(std::int32_t row) {
+    user.select(dynamic_cast<forms::ListView&>(control("lvwReceivers")), row);
+  }
+
+  forms::User user{application};
+  std::vector<std::string> calls;
+  std::string password = "1234";
+  forms::Subscription completed;
+};
+
+TEST_F(CommunicationTest, TransferEndsLaterAndThenThePasswordIsSet) {
+  build();
+  const Running running(folder.path() / "receiver");
+  *data().find(data().controlSystem)->findProperty("Volume Knob Control") = "1d";
+  start(running.address());
+  EXPECT_TRUE(link().isSending());
+  EXPECT_NE(startError(handle()).find("is being sent"), std::string::npos);
+  application.processEvents();
+  EXPECT_EQ(calls, (std::vector<std::string>{"started", "completed"}));
+  EXPECT_FALSE(link().isSending());
+  EXPECT_EQ(link().transferOutcome()->kind, Kind::done);
+  EXPECT_EQ(link().passwordOutcome()->kind, Kind::done);
+
+  const receiver::Holdings holdings = running.holdings();
+  EXPECT_EQ(holdings.program->name, "Room");
+  EXPECT_EQ(holdings.program->size, trellisar::storedProgram(data()).size());
+  EXPECT_TRUE(holdings.passwordSet);
+  EXPECT_EQ(holdings.properties,
+            (receiver::Properties{{"Volume Knob Control", "1d"}, {"Mic Mode Control", "0d"}}));
+
+  EXPECT_TRUE(link().SetPassword(""));
+  EXPECT_FALSE(running.holdings().passwordSet);
+  completed.end();
+  upload(running.address());
+  EXPECT_EQ(link().transferOutcome()->kind, Kind::done);
+  EXPECT_FALSE(link().passwordOutcome()) << "a closed wizard hears no end";
+}
+
+TEST_F(CommunicationTest, WindowShowsHowFarTheTransferIs) {
+  build();
+  const Running running(folder.path() / "receiver");
+  trellisar::storeCompiledProgram(data(), trellisar::withProgramHead(std::string(400000, 'x')));
+  BarView view;
+  application.runLater([&] { EXPECT_EQ(application.activeForm(), nullptr); });
+  start(running.address());
+  application.runLater([&] { view.watch(control("prgProgress")); });
+  application.processEvents();
+  EXPECT_EQ(calls.back(), "completed");
+  EXPECT_GE(view.shown.size(), 5u);
+  EXPECT_TRUE(std::ranges::is_sorted(view.shown));
+  EXPECT_LT(view.shown.back(), 100) << "it is all only when the receiver has stored it";
+}
+
+TEST_F(CommunicationTest, CancelledTransferIsToldAndCompletesNothing) {
+  build();
+  const Silent silent;
+  for (const bool byCloseBox : {false, true}) {
+    start(silent.address());
+    application.runLater([&] {
+      if (byCloseBox) {
+        EXPECT_FALSE(user.close(*application.activeForm()));
+      } else {
+        user.press(forms::keys::escape);
+      }
+    });
+    desktop.expectMessage("Trellisar",
+                          "The transfer to the receiver at " + silent.address() +
+                              " was cancelled. The receiver keeps the program that it had.",
+                          forms::Buttons::ok, Icon::exclamation);
+    application.processEvents();
+    EXPECT_EQ(link().transferOutcome()->kind, Kind::cancelled);
+    EXPECT_FALSE(link().passwordOutcome());
+  }
+  EXPECT_EQ(calls, (std::vector<std::string>{"started", "started"}));
+}
+
+TEST_F(CommunicationTest, FailedTransferIsToldAndTheNextOneWorks) {
+  build();
+  std::string gone;
+  {
+    const Silent silent;
+    gone = silent.address();
+  }
+  desktop.expectMessageWith(Icon::exclamation,
+                            "The system could not be sent to the receiver.\r\n\r\n");
+  upload(gone);
+  EXPECT_FALSE(link().SetPassword("1"));
+  EXPECT_NE(link().passwordOutcome()->message.find(gone), std::string::npos);
+
+  const Running busy(folder.path() / "busy", 0);
+  desktop.expectMessageWith(Icon::exclamation, busy.address());
+  upload(busy.address());
+  EXPECT_FALSE(link().SetPassword("1"));
+  EXPECT_EQ(link().transferOutcome()->kind, Kind::failed);
+
+  const Running running(folder.path() / "receiver");
+  password = std::string(200, 'x');
+  upload(running.address());
+  EXPECT_EQ(link().transferOutcome()->kind, Kind::done) << "a refused password leaves the program";
+  EXPECT_EQ(link().passwordOutcome()->kind, Kind::failed);
+  EXPECT_TRUE(running.holdings().program);
+  EXPECT_FALSE(running.holdings().passwordSet);
+  EXPECT_EQ(calls, (std::vector<std::string>{"started", "started", "started", "completed"}));
+}
+
+TEST_F(CommunicationTest, WhatHindersTheStartIsRaised) {
+  EXPECT_NE(startError(handle()).find("Build the system first"), std::string::npos);
+  build();
+  EXPECT_NE(startError(handle()).find("address book"), std::string::npos) << "no address at all";
+  EXPECT_FALSE(link().SetPassword(""));
+  EXPECT_NE(startError(9999).find("is not in the system \"Room\""), std::string::npos);
+  EXPECT_NE(startError(70000).find("is not in the system \"Room\""), std::string::npos);
+  link().SetDefaultAddress("tcp 1.2.3");
+  EXPECT_NE(startError(handle()).find("\"tcp 1.2.3\" is not the address"), std::string::npos);
+  EXPECT_THROW(link().setAddress("a b"), host::Error);
+  host.document()->Close();
+  EXPECT_NE(startError(1), "none");
+  EXPECT_FALSE(link().isSending());
+}
+
+TEST_F(CommunicationTest, HostThatIsGoneSendsNothing) {
+  build();
+  const Running running(folder.path() / "receiver");
+  {
+    trellisar::Host other({.dataFolder = dataFolder(), .library = shippedLibrary()});
+    ASSERT_TRUE(other.mainWindow()->FileOpen(folder.inside("Room\\Room.tsy"), false));
+    other.communication()->setAddress(running.address());
+    other.communication()->StartTransfer(0, other.document()->get_SystemInfo()->get_UploadHandle(),
+                                         2);
+  }
+  application.processEvents();
+  EXPECT_FALSE(running.holdings().program);
+}
+
+TEST_F(CommunicationTest, DefaultAddressCountsWhileTheUserHasGivenNone) {
+  EXPECT_EQ(link().address(), "");
+  link().SetDefaultAddress("tcp 192.168.1.20");
+  EXPECT_EQ(link().address(), "tcp 192.168.1.20");
+  trellisar::IPSettings settings;
+  settings.hostName = "hall";
+  host.preferences().setIPSettings(settings);
+  EXPECT_EQ(link().address(), "hall");
+  settings.address = "10.0.0.7";
+  host.preferences().setIPSettings(settings);
+  EXPECT_EQ(link().address(), "10.0.0.7");
+  host.preferences().setAddressBook({{{"Hall", "10.0.0.8"}, {"Lab", "10.0.0.9:5000"}}, 1});
+  EXPECT_EQ(link().address(), "10.0.0.9:5000");
+  link().setAddress("127.0.0.1:1");
+  EXPECT_EQ(link().address(), "127.0.0.1:1");
+  link().setAddress("");
+  EXPECT_EQ(link().address(), "10.0.0.9:5000");
+}
+
+TEST_F(CommunicationTest, AddressBookIsKeptWithTheReceiverInUse) {
+  const std::filesystem::path file = folder.path() / "preferences.json";
+  host.preferences() = trellisar::Preferences(file);
+  inAddressBook([&] {
+    EXPECT_FALSE(control("cmdRemove").isEnabled());
+    clickRefused("cmdAdd", "has no name");
+    type("txtName", " Hall ");
+    type("txtAddress", "10.0.0.256");
+    clickRefused("cmdOK", "\"10.0.0.256\" is not the address of a receiver");
+    EXPECT_TRUE(control("txtAddress").hasFocus());
+    type("txtAddress", "10.0.0.7");
+    click("cmdOK");
+  });
+  EXPECT_EQ(link().address(), "10.0.0.7") << "what was typed into the empty book is taken";
+
+  inAddressBook([&] {
+    type("txtName", "HALL");
+    clickRefused("cmdAdd", "\"HALL\" is in the list already");
+    clickRefused("cmdOK", "Click Add to put it there, or Change");
+    click("cmdChange");
+    addReceiver("Lab", "lab.example:5000");
+    addReceiver("Store", "[fe80::1]:5000");
+    select(1);
+    click("cmdUse");
+    click("cmdOK");
+  });
+  const trellisar::AddressBook expected = {
+      {{"HALL", "10.0.0.7"}, {"Lab", "lab.example:5000"}, {"Store", "[fe80::1]:5000"}}, 1};
+  EXPECT_EQ(trellisar::Preferences(file).addressBook(), expected);
+
+  inAddressBook([&] {
+    select(0);
+    click("cmdRemove");
+    user.press(forms::keys::escape);
+  });
+  EXPECT_EQ(host.preferences().addressBook(), expected) << "Cancel keeps the list";
+  inAddressBook([&] {
+    select(0);
+    click("cmdRemove");
+    click("cmdOK");
+  });
+  EXPECT_EQ(link().address(), "lab.example:5000") << "the one in use stays in use";
+  inAddressBook([&] {
+    click("cmdRemove");
+    click("cmdRemove");
+    EXPECT_TRUE(control("txtName").hasFocus());
+    click("cmdOK");
+  });
+  EXPECT_TRUE(trellisar::Preferences(file).addressBook().receivers.empty());
+}
+
+TEST_F(CommunicationTest, IPSettingsAreCheckedAndKept) {
+  const std::filesystem::path file = folder.path() / "preferences.json";
+  host.preferences() = trellisar::Preferences(file);
+  inIPSettings([&] {
+    type("txtMask", "255.255.255.0");
+    clickRefused("cmdOK", "without the receiver's IP address");
+    for (const char* wrong : {"10.0.0", "10.0.0.256", "0.0.0.1", "224.0.0.1", "hall"}) {
+      type("txtAddress", wrong);
+      clickRefused("cmdOK", std::string("\"") + wrong + "\" is not the IP address of a receiver");
+    }
+    type("txtAddress", "10.0.0.7");
+    type("txtGateway", "10.0.1.1");
+    clickRefused("cmdOK", "does not reach the gateway 10.0.1.1");
+    type("txtMask", "255.0.255.0");
+    clickRefused("cmdOK", "\"255.0.255.0\" is not a subnet mask");
+    type("txtMask", "");
+    clickRefused("cmdOK", "needs the network's subnet mask");
+    type("txtMask", "255.255.0.0");
+    type("txtHostName", "hall_1:80");
+    clickRefused("cmdOK", "\"hall_1:80\" is not a host name");
+    EXPECT_TRUE(control("txtHostName").hasFocus());
+    type("txtHostName", "hall-1");
+    click("cmdOK");
+  });
+  const trellisar::IPSettings expected{"10.0.0.7", "255.255.0.0", "10.0.1.1", "hall-1"};
+  EXPECT_EQ(trellisar::Preferences(file).ipSettings(), expected);
+  inIPSettings([&] {
+    type("txtAddress", "");
+    user.close(*application.activeForm());
+  });
+  EXPECT_EQ(host.preferences().ipSettings(), expected);
+}
+
+TEST_F(CommunicationTest, HelpOfBothDialogsAsksForTheTopic) {
+  std::vector<std::int32_t> topics;
+  const auto help = link().DisplayHelp.listen([&](std::int32_t topic) { topics.push_back(topic); });
+  const auto acts = [&] {
+    click("cmdHelp");
+    click("cmdCancel");
+  };
+  inAddressBook(acts);
+  inIPSettings(acts);
+  EXPECT_EQ(topics, (std::vector<std::int32_t>{host::helpFinishTab, host::helpFinishTab}));
+}
+
+TEST_F(CommunicationTest, PreferencesOfBeforeTheLinkAndDamagedOnesGiveNoAddress) {
+  const std::filesystem::path file = folder.path() / "preferences.json";
+  const std::string before =
+      R"({"format": "trellisar-preferences", "version": 1, "default_folder": "\\rooms",)"
+      R"( "recent_systems": [])";
+  writeFile(file, before + "}");
+  EXPECT_EQ(trellisar::Preferences(file).defaultFolder(), "\\rooms");
+  writeFile(file, before + R"(, "address_book": {"receivers": [{"name": "a", "address": "b"}],)"
+                           R"( "current": 1}})");
+  EXPECT_TRUE(trellisar::Preferences(file).addressBook().receivers.empty());
+  EXPECT_EQ(trellisar::Preferences(file).defaultFolder(), "") << "nothing is read by halves";
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,184 @@
+#include <algorithm>
+
+#include "forms/Form.h"
+#include "forms/ListBox.h"
+#include "forms/ProgressBar.h"
+#include "forms/User.h"
+#include "host/Error.h"
+#include "tests/trellisar/World.h"
+#include "trellisar/CompiledProgram.h"
+#include "trellisar/FileIO.h"
+#include "trellisar/Json.h"
+#include "trellisar/ProgramCheck.h"
+#include "trellisar/Provisioning.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+using trellisar::readFile;
+
+class CompileTest : public HostTest {
+ protected:
+  CompileTest() {
+    openTemplate();
+    display = addDisplay();
+    receiver = data().controlSystem;
+    append(*preset("Display Power On"), host::stepDigital, host::targetDevice, display, "Power_On",
+           "10");
+    const auto inner = branch(*preset("System Power On"), receiver, "Powered_On");
+    append(*inner, host::stepDelay, host::targetDevice, display, "", "500");
+    append(*inner, host::stepCallPreset, host::targetPreset, preset("Display Power On")->get_ID(),
+           "");
+    data().name = "Room";
+    data().folder = folder.inside("Room\\");
+    EXPECT_TRUE(host.mainWindow()->FileSaveAs(folder.inside("Room\\Room"), "Orlena"));
+  }
+
+  bool build() { return host.mainWindow()->ShowCreateProgramDialog(cancelled); }
+  fs::path inRoom(const std::string& name) const { return folder.path() / "Room" / name; }
+  trellisar::SignalData& signal(const std::string& output, const std::string& input) {
+    return *data().signal(*data().find(receiver), output, input, host::signalDigital);
+  }
+
+  std::int16_t display = 0;
+  std::int16_t receiver = 0;
+  bool cancelled = true;
+  forms::User user{application};
+};
+
+TEST_F(CompileTest, StoresTheProgramAndSaysSoInTheSavedFile) {
+  ASSERT_TRUE(build());
+  EXPECT_FALSE(cancelled);
+  const auto info = host.document()->get_SystemInfo();
+  EXPECT_TRUE(info->get_ProgramIsCurrent());
+  EXPECT_EQ(info->get_CompiledProgramFile(), folder.inside("Room\\Room.tsp"));
+  EXPECT_FALSE(host.document()->get_Modified());
+
+  const auto saved = trellisar::readSystemFile(inRoom("Room.tsy"), nullptr);
+  EXPECT_TRUE(saved->programIsCurrent);
+  EXPECT_EQ(trellisar::storedProgram(*saved), readFile(inRoom("Room.tsp")));
+  EXPECT_EQ(trellisar::compileProgram(*saved), readFile(inRoom("Room.tsp")))
+      << "the same system gives the same bytes";
+
+  std::string text = readFile(inRoom("Room.tsp"));
+  const auto program = trellisar::Json::parse(text.substr(text.find('\n')));
+  const auto& inner = program["presets"][0]["steps"][0];
+  EXPECT_EQ(inner["when"]["unit"], program["receiver"]);
+  EXPECT_EQ(inner["steps"][0].dump(), R"({"do":"wait","hundredths":500})");
+  EXPECT_EQ(inner["steps"][1].dump(), R"({"do":"call","preset":2})");
+  EXPECT_EQ(program["presets"][2]["name"], "Display Power On");
+  const std::size_t unit = program["presets"][2]["steps"][0]["unit"];
+  EXPECT_EQ(program["units"][unit]["name"], "Display Device");
+
+  text[text.size() / 2] ^= 1;
+  writeFile(inRoom("Room.tsp"), text);
+  EXPECT_THROW(static_cast<void>(trellisar::storedProgram(*saved)), host::Error);
+}
+
+TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {
+  const auto step = [this](const char* name, std::size_t place) -> trellisar::StepData& {
+    return *data().findPreset(name)->steps.at(place);
+  };
+  const std::int16_t relay = add("Power Relay", host::entryPowerRelay);
+  append(*preset("System Lock"), host::stepDigital, host::targetDevice, display, "Dance");
+  append(*preset("System Lock"), host::stepAnalog, host::targetDevice, display, "Power_On", "1d");
+  append(*preset("System Lock"), host::stepDigital, host::targetDevice, relay, "Relay_Open");
+  step("System Lock", 2).target = 999;
+  auto& inner = *step("System Power On", 0).branch;
+  inner.steps[1]->target = 999;
+  branch(*preset("System Unlock"), receiver, "No_Signal");
+  branch(*preset("System Unlock"), 999, "Powered_On");
+  branch(*preset("System Unlock"), receiver, "Powered_On");
+  step("System Unlock", 2).condition.reset();
+  append(*host.document()
+              ->get_Signals()
+              ->Find(receiver, "Powered_On", "", host::signalDigital)
+              ->GetEvent(host::eventLow)
+              ->get_Preset(),
+         host::stepDigital, host::targetDevice, receiver, "Sing");
+  auto& fed = signal("", "Lock");
+  fed.sourceType = host::sourceSignal;
+  fed.sourceDevice = display;
+  fed.sourceSignal = "Whistle";
+  const auto module = std::make_shared<trellisar::DeviceData>();
+  constexpr std::int16_t powerTimeout = 301;
+  module->definition = shippedLibrary()->findModule(powerTimeout);
+  module->shortName = "PWRTIMEOUT";
+  const auto added = trellisar::addModule(data(), data().find(display), *module);
+  added->slots.at(0)->command = "Power_On";
+  added->slots.at(1)->command = "Hum";
+
+  const std::vector<std::string> expected = {
+      "preset \"System Power On\", step 1.2: it calls a preset that is not in the system.",
+      "preset \"System Lock\", step 1: the device \"Display Device\" has no command \"Dance\".",
+      "preset \"System Lock\", step 2: the device \"Display Device\" has no command \"Power_On\".",
+      "preset \"System Lock\", step 3: its device is not in the system.",
+      "preset \"System Unlock\", step 1: it tests \"No_Signal\", which the device \"Receiver\" "
+      "does "
+      "not have.",
+      "preset \"System Unlock\", step 2: it tests a device that is not in the system.",
+      "preset \"System Unlock\", step 3: it has no condition.",
+      "event \"Powered_On\" of \"Receiver\" goes off, step 1: the device \"Receiver\" has no "
+      "command "
+      "\"Sing\".",
+      "source of \"Lock\" of \"Receiver\": the device \"Display Device\" has no signal "
+      "\"Whistle\".",
+      "module \"Display Device/PWRTIMEOUT\", slot \"Power_Off\": the device \"Display Device\" has "
+      "no "
+      "command \"Hum\".",
+  };
+  EXPECT_EQ(trellisar::programErrors(data()), expected);
+
+  const std::string old = readFile(inRoom("Room.tsy"));
+  std::vector<std::string> shown;
+  desktop.whenShown("CompileDialog", [&](forms::Form& form) {
+    auto& list = dynamic_cast<forms::ListBox&>(form.control("lstErrors"));
+    for (std::int32_t i = 0; i < list.count(); ++i) shown.push_back(list.text(i));
+    user.click(form.control("cmdClose"));
+  });
+  EXPECT_FALSE(build());
+  EXPECT_FALSE(cancelled);
+  EXPECT_EQ(shown, expected);
+  EXPECT_EQ(readFile(inRoom("Room.tsy")), old);
+  EXPECT_FALSE(fs::exists(inRoom("Room.tsp")));
+}
+
+TEST_F(CompileTest, CancelAndAFailedWriteLeaveEverythingAsItWas) {
+  ASSERT_TRUE(build());
+  append(*preset("System Lock"), host::stepDigital, host::targetDevice, receiver, "Lock");
+  const std::string system = readFile(inRoom("Room.tsy"));
+  const std::string program = readFile(inRoom("Room.tsp"));
+  application.runLater([&] { user.press(forms::keys::escape); });
+  EXPECT_FALSE(build());
+  EXPECT_TRUE(cancelled);
+
+  // A folder in the place of the system's file: the program can be written, the system can't.
+  fs::rename(inRoom("Room.tsy"), inRoom("Room.old"));
+  fs::create_directory(inRoom("Room.tsy"));
+  desktop.whenShown("CompileDialog", [&](forms::Form& form) {
+    EXPECT_NE(dynamic_cast<forms::ListBox&>(form.control("lstErrors"))
+                  .text(0)
+                  .find("a folder stands where the file"),
+              std::string::npos);
+    user.press(forms::keys::escape);
+  });
+  EXPECT_FALSE(build());
+  EXPECT_FALSE(cancelled);
+  EXPECT_FALSE(data().programIsCurrent);
+  EXPECT_EQ(readFile(inRoom("Room.old")), system);
+  EXPECT_EQ(readFile(inRoom("Room.tsp")), program);
+}
+
+TEST_F(CompileTest, ProgramThatStayedBehindIsMadeAnew) {
+  ASSERT_TRUE(build());
+  ASSERT_TRUE(host.mainWindow()->FileSaveAs(folder.inside("Hall\\Hall"), "Orlena"));
+  EXPECT_FALSE(data().programIsCurrent) << "the program lies in the old folder";
+  fs::remove(inRoom("Room.tsp"));
+  host.mainWindow()->FileOpen(folder.inside("Room\\Room.tsy"), true);
+  EXPECT_FALSE(data().programIsCurrent);
+  EXPECT_THROW(static_cast<void>(trellisar::storedProgram(data())), host::Error);
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,171 @@
+#include "trellisar/MainForm.h"
+
+#include "forms/Paths.h"
+#include "forms/User.h"
+#include "tests/trellisar/World.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An add-in that notes what it is asked to do.
+class NotingAddIn : public host::IAddInContract {
+ public:
+  std::string calls;
+  std::function<void()> whileRunning = [] {};
+  bool makesNew = true;
+
+  void IAddInContract_Load(const std::shared_ptr<host::Document>& clsDocument,
+                           const std::shared_ptr<host::LibraryManager>&,
+                           const std::shared_ptr<host::CommObject>&, const forms::ImageList&,
+                           const forms::ImageList&,
+                           const std::shared_ptr<host::OwnerForm>&) override {
+    calls += clsDocument ? "load " + clsDocument->get_Name() + ", " : "load nothing, ";
+  }
+  void IAddInContract_Run(const std::shared_ptr<host::OwnerForm>& oOwnerForm) override {
+    calls += oOwnerForm->get_Form() ? "run; " : "run without a window; ";
+    forms::Application::current().setTitle("Orlena");
+    whileRunning();
+    oOwnerForm->DestroyDoc();
+  }
+  std::string IAddInContract_Title() const override { return "Orlena"; }
+  std::string IAddInContract_ClassName() const override { return "Test.AddIn"; }
+  std::string IAddInContract_GroupName() const override { return "Rooms"; }
+  std::string IAddInContract_Description() const override { return "Makes rooms."; }
+  std::int16_t IAddInContract_Icon() const override { return host::pictureSmallAddIn; }
+  bool IAddInContract_PreviewAvailable() const override { return true; }
+  void IAddInContract_ShowPreview() override { calls += "preview; "; }
+  bool IAddInContract_ShowOnNewSystem() const override { return makesNew; }
+  std::string IAddInContract_GetHelpFile() const override { return ""; }
+  bool IAddInContract_EditInCorvaner() const override { return false; }
+  std::int16_t IAddInContract_StartupMode() const override { return 0; }
+  void IAddInContract_StartupMode(std::int16_t) override {}
+  void IAddInContract_UseOpenFile(bool bUseOpenFile) override {
+    calls += bUseOpenFile ? "open file, " : "new file, ";
+  }
+  std::int32_t IAddInContract_HwndAddIn() const override { return 0; }
+};
+
+class MainFormTest : public HostTest {
+ protected:
+  std::shared_ptr<NotingAddIn> addIn = std::make_shared<NotingAddIn>();
+  forms::User user{application};
+
+  void givenSaved(const std::string& name, const std::string& word = "Orlena") {
+    openTemplate();
+    EXPECT_TRUE(host.mainWindow()->FileSaveAs(folder.inside(name), word));
+    host.mainWindow()->DestroyDoc();
+  }
+
+  /// Shows the window and closes it with Escape after the script.
+  void inWindow(const std::function<void(trellisar::MainForm&)>& script) {
+    trellisar::MainForm form(host, {addIn});
+    desktop.whenShown("MainForm", [&](forms::Form&) {
+      script(form);
+      user.press(forms::keys::escape);
+    });
+    form.run();
+  }
+};
+
+TEST_F(MainFormTest, ListsAddInsAsTheyDescribeThemselvesAndStartsThem) {
+  inWindow([&](trellisar::MainForm& form) {
+    EXPECT_EQ(form.lvwAddIns.text(0, 0), "Orlena");
+    EXPECT_EQ(form.lvwAddIns.text(0, 1), "Rooms");
+    EXPECT_EQ(form.lvwAddIns.text(0, 2), "Yes");
+    EXPECT_EQ(form.lblDescription.caption(), "Makes rooms.");
+    EXPECT_FALSE(form.imgAddIn.picture().isEmpty());
+    EXPECT_FALSE(form.cmdEdit.isEnabled()) << "there is no system yet";
+    user.click(form.cmdPreview);
+    addIn->whileRunning = [&] { givenSaved("New Hall"); };
+    user.click(form.lvwAddIns);
+    user.press(forms::keys::enter);
+    EXPECT_EQ(addIn->calls, "preview; load nothing, new file, run; ");
+    EXPECT_EQ(application.title(), "Trellisar") << "the host's own again";
+    EXPECT_EQ(form.lvwRecent.text(0, 0), "New Hall");
+    EXPECT_EQ(form.lvwRecent.text(0, 1), folder.path().string());
+    EXPECT_NE(form.txtSystem.text().find("New Hall"), std::string::npos);
+  });
+  EXPECT_EQ(host.mainWindow()->get_Form(), nullptr);
+}
+
+TEST_F(MainFormTest, OneThatMakesNoNewSystemsIsNotStartedOnOne) {
+  addIn->makesNew = false;
+  inWindow([&](trellisar::MainForm& form) {
+    EXPECT_FALSE(form.cmdNew.isEnabled());
+    user.doubleClick(form.lvwAddIns, 0);
+    EXPECT_EQ(addIn->calls, "");
+  });
+}
+
+TEST_F(MainFormTest, EditsASystemWithTheAddInThatItBelongsTo) {
+  givenSaved("Hall");
+  givenSaved("Lobby");
+  givenSaved("Foreign", "Another");
+  inWindow([&](trellisar::MainForm& form) {
+    ASSERT_EQ(form.lvwRecent.rowCount(), 3);
+    user.select(form.lvwRecent, 1);
+    EXPECT_NE(form.txtSystem.text().find("Lobby"), std::string::npos);
+    EXPECT_EQ(form.lvwRecent.selectedRow(), 1) << "looking at a system leaves the order";
+    user.click(form.lvwRecent);
+    user.press(forms::keys::enter);
+    EXPECT_EQ(addIn->calls, "load Lobby, open file, run; ");
+    EXPECT_EQ(form.lvwRecent.text(0, 0), "Lobby");
+
+    addIn->calls.clear();
+    desktop.expectOpenDialog("Open System", folder.inside("Hall.tsy"));
+    user.click(form.cmdOpen);
+    EXPECT_EQ(addIn->calls, "load Hall, open file, run; ");
+
+    addIn->calls.clear();
+    desktop.expectOpenDialog("Open System", folder.inside("Foreign.tsy"));
+    desktop.expectMessageWith(forms::Icon::exclamation, "saved last by \"Another\"");
+    user.click(form.cmdOpen);
+    EXPECT_EQ(addIn->calls, "");
+    EXPECT_EQ(host.document(), nullptr);
+    EXPECT_NE(form.txtSystem.text().find("Foreign"), std::string::npos) << "it can be read";
+
+    desktop.expectOpenDialog("Open System", "");
+    user.click(form.cmdOpen);
+    EXPECT_EQ(form.lvwRecent.rowCount(), 3);
+  });
+}
+
+TEST_F(MainFormTest, ASystemThatIsGoneIsToldAndDroppedAndADamagedOneIsShownAsThat) {
+  givenSaved("Hall");
+  givenSaved("Gone");
+  writeFile(folder.path() / "Hall.tsy", "{");
+  fs::remove(folder.path() / "Gone.tsy");
+  inWindow([&](trellisar::MainForm& form) {
+    EXPECT_NE(form.txtSystem.text().find("no longer there"), std::string::npos);
+    desktop.expectMessageWith(forms::Icon::exclamation, "Gone.tsy\" is no longer there");
+    user.doubleClick(form.lvwRecent, 0);
+    ASSERT_EQ(form.lvwRecent.rowCount(), 1);
+    EXPECT_NE(form.txtSystem.text().find("can't be read"), std::string::npos);
+    desktop.expectMessageWith(forms::Icon::critical, "Hall.tsy");
+    user.click(form.cmdEdit);
+    EXPECT_EQ(addIn->calls, "");
+  });
+}
+
+TEST_F(MainFormTest, TabGoesInTheOrderOfReading) {
+  givenSaved("Hall");
+  inWindow([&](trellisar::MainForm& form) {
+    const std::vector<forms::Control*> order = {
+        &form.lvwAddIns, &form.cmdPreview, &form.cmdNew,         &form.lvwRecent, &form.cmdOpen,
+        &form.cmdEdit,   &form.txtSystem,  &form.cmdPreferences, &form.cmdClose};
+    for (const forms::Control* control : order) {
+      EXPECT_TRUE(control->hasFocus()) << control->name();
+      user.tab();
+    }
+    EXPECT_TRUE(form.lvwAddIns.hasFocus());
+    EXPECT_TRUE(user.pressAccelerator('r'));
+    EXPECT_TRUE(form.lvwRecent.hasFocus());
+    EXPECT_TRUE(form.cmdEdit.isDefault());
+    EXPECT_FALSE(form.cmdNew.isDefault());
+  });
+}
+
+}  // namespace
+}  // namespace tests

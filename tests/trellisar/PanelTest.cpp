@@ -1,0 +1,160 @@
+#include <algorithm>
+
+#include "forms/Form.h"
+#include "host/Error.h"
+#include "host/ErrorLog.h"
+#include "tests/trellisar/World.h"
+#include "trellisar/FileIO.h"
+#include "trellisar/PanelBuild.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+using trellisar::readPanelProject;
+
+class PanelTest : public HostTest {
+ protected:
+  PanelTest() {
+    openTemplate();
+    data().name = "Room";
+    data().folder = folder.inside("");
+    panel = window().AddInterface(host::modelFenlet, data().controlSystem, "");
+    manager->SetTemplatePrefix("[Orlena]");
+    manager->SetIncludeDefaultPages(false);
+    manager->SetIncludeSharedPages(false);
+    manager->get_Projects()->OnStartBuild.connect([this] { heard.push_back("start"); });
+    manager->get_ErrorLog()->OnAboutToAddError.connect(
+        [this](const std::shared_ptr<host::clsErrorItem>& item, bool&) {
+          heard.push_back(item->get_Message());
+        });
+  }
+
+  trellisar::MainWindowOperations& window() { return *host.mainWindow(); }
+  fs::path file() const { return folder.path() / "Fenlet.tpj"; }
+  std::vector<std::string> textsOf(const trellisar::PanelPage& page) const {
+    std::vector<std::string> texts;
+    for (const auto& object : page.objects) texts.push_back(object.text);
+    return texts;
+  }
+
+  std::shared_ptr<host::UIManager> manager = host.mainWindow()->GetUIMgr();
+  std::shared_ptr<host::Touchpanel> panel;
+  std::vector<std::string> heard;
+};
+
+TEST_F(PanelTest, ProjectIsMadeFromTheTemplateAndTheRoom) {
+  addDisplay();
+  ASSERT_TRUE(window().CreateTouchpanels(panel));
+  EXPECT_TRUE(panel->get_ProjectBuilt());
+  ASSERT_GE(heard.size(), 2u);
+  EXPECT_EQ(heard[0], "start");
+  EXPECT_EQ(heard[1], "Making the project of \"Fenlet\"");
+
+  auto project = readPanelProject(file());
+  ASSERT_EQ(project.pages.size(), 2u) << "no default and no shared page";
+  auto* page = project.findPage("[Equipment Room] [Receiver]");
+  ASSERT_NE(page, nullptr);
+  const auto texts = textsOf(*page);
+  const auto has = [&](const char* text) {
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+  };
+  EXPECT_TRUE(has("INPUT\r\nSELECTED"));
+  EXPECT_FALSE(has("INPUT 2\r\nSELECTED")) << "the receiver has one input";
+  EXPECT_FALSE(has("SCREEN\r\nUP")) << "there is no screen";
+  const auto on = std::find(texts.begin(), texts.end(), "DISPLAY\r\nON") - texts.begin();
+  EXPECT_EQ(page->objects[static_cast<std::size_t>(on)].command, "Power_On");
+  EXPECT_EQ(trellisar::readFile(file()), trellisar::panelProjectText(project));
+
+  manager->SetIncludeDefaultPages(true);
+  manager->SetIncludeSharedPages(true);
+  ASSERT_TRUE(window().CreateTouchpanels(panel));
+  EXPECT_EQ(readPanelProject(file()).pages.size(), 4u);
+}
+
+TEST_F(PanelTest, DeviceWithoutAStandardCommandGivesAWarningInTheList) {
+  const auto display = data().find(addDisplay());
+  const auto lacking = std::make_shared<trellisar::Definition>(*display->definition);
+  lacking->standardCommands.clear();
+  display->definition = lacking;
+  forms::Form form("frmAny");
+  host::ErrorLog control(form, "ctlErrorLog");
+  manager->get_ErrorLog()->put_AttachedControl(&control);
+  ASSERT_TRUE(window().CreateTouchpanels(panel));
+  ASSERT_EQ(control.Items().size(), 4u) << "no progress, and a warning for each button";
+  EXPECT_EQ(control.Items().front()->get_Message(),
+            "The button \"DISPLAY ON\" on the page \"[Equipment Room] [Receiver]\" does nothing: "
+            "the device \"Display Device\" does not support the standard command \"On\".");
+  manager->get_ErrorLog()->Clear();
+  EXPECT_FALSE(control.HasItems());
+  manager->get_ErrorLog()->put_AttachedControl(nullptr);
+  EXPECT_TRUE(window().CreateTouchpanels(panel));
+}
+
+TEST_F(PanelTest, TextsOfThePageInUseAreWrittenIntoTheProject) {
+  const auto tessra = [this] { return manager->get_TessraApp(); };
+  EXPECT_EQ(tessra()->GetAssignedProject(), nullptr);
+  EXPECT_THROW(tessra()->SaveProject(), host::Error);
+  ASSERT_TRUE(window().CreateTouchpanels(panel));
+  tessra()->SetCurrentProject(tessra()->GetAssignedProject());
+  EXPECT_FALSE(tessra()->SetUsePage("[Equipment Room] [receiver]"));
+  EXPECT_TRUE(tessra()->GetPageObjectList().empty());
+  ASSERT_TRUE(tessra()->SetUsePage("[Equipment Room] [Receiver]"));
+  std::int32_t edited = 0;
+  for (const auto& object : tessra()->GetPageObjectList()) {
+    if (object->get_Text() == "INPUT\r\nSELECTED") edited = object->get_ID();
+  }
+  tessra()->EditObject(edited, "LAPTOP\r\nSELECTED");
+  EXPECT_THROW(tessra()->EditObject(9999, ""), host::Error);
+  EXPECT_NE(readPanelProject(file()).findObject(edited)->text, "LAPTOP\r\nSELECTED");
+  tessra()->SaveProject();
+  tessra()->CloseCurrentProject();
+  EXPECT_EQ(readPanelProject(file()).findObject(edited)->text, "LAPTOP\r\nSELECTED");
+  EXPECT_THROW(tessra()->SetUsePage("[Room]"), host::Error);
+}
+
+TEST_F(PanelTest, ProjectThatCantBeMadeIsToldInTheList) {
+  const auto refusal = [this] {
+    heard.clear();
+    EXPECT_FALSE(window().CreateTouchpanels(panel));
+    EXPECT_FALSE(panel->get_ProjectBuilt());
+    EXPECT_EQ(manager->get_TessraApp()->GetAssignedProject(), nullptr);
+    return heard.back();
+  };
+  manager->SetTemplatePrefix("[Other]");
+  EXPECT_NE(refusal().find("has no page whose name begins with \"[Other]\""), std::string::npos);
+  manager->SetTemplatePrefix("[Orlena]");
+  data().folder = folder.inside("none\\");
+  EXPECT_NE(refusal().find("it does not exist"), std::string::npos);
+  constexpr std::int16_t plainTouchPanel = 52;
+  panel = window().AddInterface(plainTouchPanel, data().controlSystem, "");
+  EXPECT_NE(refusal().find("has no project template for panels of model 52"), std::string::npos);
+}
+
+TEST(PanelTemplates, TellTheFileAndPlaceOfWhatIsWrong) {
+  const TemporaryFolder folder;
+  const auto errorOf = [&](const std::string& objects) -> std::string {
+    writeFile(folder.path() / "Bad.json",
+              R"({"format": "trellisar-panel-template", "version": 1, "model_id": 51, "pages":
+                 [{"name": "A", "sort": "own", "objects": [)" +
+                  objects + "]}]}");
+    try {
+      static_cast<void>(trellisar::findPanelTemplate(folder.path(), host::modelFenlet));
+    } catch (const host::Error& error) {
+      return error.description();
+    }
+    return "none";
+  };
+  const std::string place = R"("text": "", "left": 0, "top": 0, "width": 9, "height": 9)";
+  const std::string good = R"({"id": 1, "kind": "text", )" + place + "}";
+  EXPECT_EQ(errorOf(good), "none");
+  EXPECT_NE(
+      errorOf(good + "," + good).find("Bad.json: pages[0].objects[1].id: the id stands twice"),
+      std::string::npos);
+  EXPECT_NE(errorOf(R"({"id": 1, "kind": "button", )" + place + R"(, "sends": {"device": ""}})")
+                .find("Bad.json: pages[0].objects[0].sends.command: is missing"),
+            std::string::npos);
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,132 @@
+#include "trellisar/Communication.h"
+
+#include <utility>
+
+#include "forms/Application.h"
+#include "forms/Guard.h"
+#include "forms/Numbers.h"
+#include "host/Error.h"
+#include "host/Numbers.h"
+#include "receiver/Client.h"
+#include "receiver/Error.h"
+#include "trellisar/CompiledProgram.h"
+#include "trellisar/IPSettingsDialog.h"
+#include "trellisar/MainWindowOperations.h"
+#include "trellisar/TransferDialog.h"
+
+namespace trellisar {
+namespace {
+
+constexpr std::int16_t receiversSentTo = 1;
+
+const DeviceData& deviceToSendTo(const DocumentData& document, std::int32_t handle) {
+  const bool isHandle = forms::fitsInt16(handle) && handle > 0;
+  const DevicePtr device =
+      isHandle ? document.findByHandle(static_cast<std::int16_t>(handle)) : nullptr;
+  if (device) return *device;
+  throw host::Error(host::errBadArgument,
+                    "The receiver that the program should be sent to is not in the system \"" +
+                        document.name + "\".");
+}
+
+receiver::Program programToSend(const DocumentData& document, std::int32_t handle) {
+  receiver::Program program;
+  program.name = document.name;
+  program.bytes = storedProgram(document);
+  for (const auto& [name, value] : deviceToSendTo(document, handle).properties) {
+    program.properties[name] = value;
+  }
+  return program;
+}
+
+}  // namespace
+
+Communication::Communication(std::shared_ptr<Session> session) : session_(std::move(session)) {}
+
+Communication::~Communication() = default;
+
+void Communication::StartTransfer(std::int16_t, std::int32_t lHandle, std::int16_t) {
+  session_->journal->note("StartTransfer " + std::to_string(lHandle));
+  if (isSending()) {
+    throw host::Error(host::errBadArgument,
+                      "A system is being sent to the receiver. Wait for its end or cancel it, then "
+                      "upload again.");
+  }
+  transferOutcome_.reset();
+  passwordOutcome_.reset();
+  try {
+    const receiver::Program program = programToSend(*session_->data(), lHandle);
+    dialog_ = std::make_unique<TransferDialog>(receiverAddress(), program);
+  } catch (const receiver::Error& error) {
+    throw host::Error(host::errBadArgument,
+                      std::string("The system can't be sent to the receiver. ") + error.what());
+  }
+  forms::Application::current().runLater([weak = weak_from_this()] {
+    if (const auto self = weak.lock()) self->runTransfer();
+  });
+}
+
+void Communication::runTransfer() {
+  {
+    const forms::AtEnd ended([this] { dialog_.reset(); });
+    transferOutcome_ = dialog_->run();
+  }
+  const receiver::Outcome outcome = *transferOutcome_;  // a listener may start the next one
+  switch (outcome.kind) {
+    case receiver::Outcome::Kind::done:
+      session_->journal->note("OnTransferComplete");
+      OnTransferComplete.raise(receiversSentTo);
+      break;
+    case receiver::Outcome::Kind::cancelled:
+      showFailure(outcome.message + " The receiver keeps the program that it had.");
+      break;
+    case receiver::Outcome::Kind::failed:
+      showFailure("The system could not be sent to the receiver.\r\n\r\n" + outcome.message);
+      break;
+  }
+}
+
+bool Communication::SetPassword(const std::string& strPassword) {
+  session_->journal->note(strPassword.empty() ? "SetPassword, empty" : "SetPassword");
+  forms::Application& application = forms::Application::current();
+  application.setMousePointer(forms::MousePointer::hourglass);
+  const forms::AtEnd waited([&] { application.setMousePointer(forms::MousePointer::standard); });
+  try {
+    passwordOutcome_ = receiver::setPassword(receiverAddress(), strPassword);
+  } catch (const receiver::Error& error) {
+    passwordOutcome_ = receiver::Outcome{receiver::Outcome::Kind::failed, error.what()};
+  }
+  return static_cast<bool>(*passwordOutcome_);
+}
+
+void Communication::ShowSetIPDialog(std::int32_t&) {
+  session_->journal->note("ShowSetIPDialog");
+  IPSettingsDialog(session_->preferences, [this] { DisplayHelp.raise(host::helpFinishTab); }).run();
+}
+
+void Communication::setAddress(const std::string& address) {
+  try {
+    if (!address.empty()) static_cast<void>(receiver::Address::parse(address));
+  } catch (const receiver::Error& error) {
+    throw host::Error(host::errBadArgument, error.what());
+  }
+  ownAddress_ = address;
+}
+
+std::string Communication::address() const {
+  if (!ownAddress_.empty()) return ownAddress_;
+  const Preferences& preferences = session_->preferences;
+  if (const NamedAddress* inUse = preferences.addressBook().inUse()) return inUse->address;
+  const std::string& place = preferences.ipSettings().place();
+  return place.empty() ? defaultAddress_ : place;
+}
+
+receiver::Address Communication::receiverAddress() const {
+  const std::string text = address();
+  if (!text.empty()) return receiver::Address::parse(text);
+  throw receiver::Error(
+      "No receiver's address is known. Open the communication settings and add the receiver to the "
+      "address book.");
+}
+
+}  // namespace trellisar

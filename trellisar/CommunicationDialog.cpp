@@ -1,0 +1,28 @@
+#include "trellisar/CommunicationDialog.h"
+
+#include <utility>
+
+#include "host/Numbers.h"
+#include "trellisar/MainWindowOperations.h"
+
+namespace trellisar {
+
+CommunicationDialog::CommunicationDialog(std::string name, const std::string& caption,
+                                         std::function<void()> help)
+    : Dialog(std::move(name), caption) {
+  setHelpContext(host::helpFinishTab);
+  cmdHelp.click.connect(std::move(help));
+}
+
+void CommunicationDialog::layOutAbove(forms::Twips width, forms::Pieces pieces) {
+  HostForm::layOutAbove({&cmdOK, &cmdCancel}, width, std::move(pieces), &cmdHelp);
+}
+
+bool CommunicationDialog::refuse(forms::TextBox& box, const std::string& message) {
+  showFailure(message);
+  box.setFocus();
+  box.selectAll();
+  return false;
+}
+
+}  // namespace trellisar

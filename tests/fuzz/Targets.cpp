@@ -8,10 +8,10 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "app/Answers.h"
+#include "app/Report.h"
 #include "app/RunEnded.h"
-#include "common/AttributeText.h"
+#include "app/UnattendedDesktop.h"
 #include "forms/Application.h"
-#include "forms/HeadlessDesktop.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
 #include "receiver/Error.h"
@@ -64,7 +64,8 @@ const Folder& folder() {
 
 /// A host with the template open, and the add-in that works on it.
 struct World {
-  forms::HeadlessDesktop desktop;
+  app::Report report{"fuzzing"};
+  app::UnattendedDesktop desktop{report};
   forms::Application application{desktop, forms::fromMachinePath(data)};
   trellisar::Host host{{.dataFolder = data}};
   std::shared_ptr<addin::IAddIn> addIn = std::make_shared<addin::IAddIn>();
@@ -98,7 +99,7 @@ void system(std::string_view bytes) {
     trellisar::readableText(*document);
     trellisar::programErrors(*document);
     const std::string text = trellisar::systemFileText(*document);
-    const auto again = trellisar::readSystemFile(folder().write("again.tsy", text), nullptr);
+    const auto again = trellisar::readSystemFile(folder().write("system.tsy", text), nullptr);
     require(trellisar::systemFileText(*again) == text, "the system changed when it was read again");
   } catch (const host::Error&) {
   }

@@ -203,7 +203,7 @@ void readInterface(JsonReader& reader, Definition& definition) {
 Json signalRows(const std::vector<SignalRow>& rows) {
   Json list = Json::array();
   for (const SignalRow& row : rows) {
-    Json item;
+    Json item = emptyObject(3);
     if (!row.input.empty() && !row.output.empty()) {
       item["input"] = row.input;
       item["output"] = row.output;
@@ -220,13 +220,16 @@ Json signalRows(const std::vector<SignalRow>& rows) {
 Json commandList(const std::vector<CommandDefinition>& commands) {
   Json list = Json::array();
   for (const CommandDefinition& command : commands) {
-    list.push_back({{"name", command.name}, {"kind", nameOf(command.type, commandKinds)}});
+    Json item = emptyObject(2);
+    item["name"] = command.name;
+    item["kind"] = nameOf(command.type, commandKinds);
+    list.push_back(std::move(item));
   }
   return list;
 }
 
 Json propertyJson(const PropertyDefinition& property) {
-  Json item;
+  Json item = emptyObject(6);
   item["name"] = property.name;
   item["value"] = property.value;
   item["type"] = nameOf(property.type, propertyTypes);
@@ -317,7 +320,7 @@ Definition readDefinition(JsonReader reader, Form form, const std::string& maker
 }
 
 Json definitionJson(const Definition& definition) {
-  Json json;
+  Json json = emptyObject(18);
   json["name"] = definition.name;
   json["description"] = definition.description;
   switch (definition.form) {

@@ -11,6 +11,8 @@ namespace {
   throw host::Error(host::errBadFile, file + ": " + what);
 }
 
+constexpr std::size_t usualKeys = 8;
+
 /// Builds the value while the parser reads, since the library's own builder lets a key stand twice.
 class Builder : public nlohmann::json_sax<Json> {
  public:
@@ -24,7 +26,7 @@ class Builder : public nlohmann::json_sax<Json> {
   bool string(string_t& value) override { return add(std::move(value)); }
   bool binary(binary_t&) override { return false; }
 
-  bool start_object(std::size_t) override { return open(Json::object()); }
+  bool start_object(std::size_t) override { return open(emptyObject(usualKeys)); }
   bool end_object() override { return close(); }
   bool start_array(std::size_t) override { return open(Json::array()); }
   bool end_array() override { return close(); }
@@ -110,15 +112,30 @@ Json parseJson(std::string_view text, const std::string& file, const JsonLimits&
   return builder.take();
 }
 
+Json emptyObject(std::size_t keys) {
+  Json object = Json::object();
+  object.get_ref<Json::object_t&>().reserve(keys);
+  return object;
+}
+
 std::string jsonText(const Json& json) {
   return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 const Json* JsonReader::find(const char* key) {
   if (!value_.is_object()) fail("must be an object");
-  known_.push_back(key);
-  const auto found = value_.find(key);
-  return found == value_.end() ? nullptr : &*found;
+  const auto& members = value_.get_ref<const Json::object_t&>();
+  asked_.resize(members.size());
+  // Files are mostly read in the order in which they were written.
+  for (std::size_t i = 0; i < members.size(); ++i) {
+    const std::size_t place = (expected_ + i) % members.size();
+    const auto& [name, value] = *(members.begin() + static_cast<std::ptrdiff_t>(place));
+    if (name != key) continue;
+    asked_[place] = true;
+    expected_ = place + 1;
+    return &value;
+  }
+  return nullptr;
 }
 
 JsonReader JsonReader::at(const char* key) {
@@ -128,11 +145,11 @@ JsonReader JsonReader::at(const char* key) {
 }
 
 void JsonReader::finish() const {
-  for (const auto& [key, value] : value_.items()) {
-    const auto isKey = [&name = key](const char* known) { return name == known; };
-    if (std::none_of(known_.begin(), known_.end(), isKey)) {
-      JsonReader(value, *this, key.c_str(), 0).fail("is no key that is known here");
-    }
+  std::size_t place = 0;
+  for (const auto& [key, value] : value_.get_ref<const Json::object_t&>()) {
+    const bool wasAsked = place < asked_.size() && asked_[place];
+    if (!wasAsked) JsonReader(value, *this, key.c_str(), 0).fail("is no key that is known here");
+    ++place;
   }
 }
 

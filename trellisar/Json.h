@@ -27,6 +27,9 @@ struct JsonLimits {
 /// Raises host::Error errBadFile, whose text begins with `file` and says what is wrong and where.
 Json parseJson(std::string_view text, const std::string& file, const JsonLimits& limits = {});
 
+/// An object without keys and with room for some: keys that move to a larger place are copied.
+Json emptyObject(std::size_t keys);
+
 /// The text of a file: two blanks for each level, a line feed at the end.
 std::string jsonText(const Json& json);
 
@@ -98,7 +101,8 @@ class JsonReader {
   const JsonReader* parent_ = nullptr;
   const char* key_ = nullptr;  // null: an element of an array
   std::size_t index_ = 0;
-  std::vector<const char*> known_;
+  std::vector<bool> asked_;   // for each key of an object, once one was asked for
+  std::size_t expected_ = 0;  // where the next key probably stands
 };
 
 }  // namespace trellisar

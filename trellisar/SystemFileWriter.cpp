@@ -32,7 +32,7 @@ class Definitions {
   Json json() const {
     Json list = Json::array();
     for (const DefinitionPtr& definition : list_) {
-      Json item;
+      Json item = emptyObject(3);
       item["form"] = formName(definition->form);
       if (definition->form != Definition::Form::module) item["maker"] = definition->maker;
       item["definition"] = definitionJson(*definition);
@@ -52,7 +52,7 @@ class Writer {
   Json write() {
     Json devices = list(document_.devices);
     Json panels = list(document_.panels);
-    Json json;
+    Json json = emptyObject(16);
     json["format"] = systemFileFormat;
     json["version"] = systemFileVersion;
     json["name"] = document_.name;
@@ -86,7 +86,7 @@ class Writer {
   std::int16_t known(std::int16_t id) const { return document_.find(id) ? id : std::int16_t{0}; }
 
   Json device(const DeviceData& device) {
-    Json json;
+    Json json = emptyObject(21);
     json["id"] = device.id;
     json["name"] = device.name;
     json["short_name"] = device.shortName;
@@ -114,7 +114,7 @@ class Writer {
   }
 
   Json panel(const DeviceData& panel) {
-    Json json;
+    Json json = emptyObject(9);
     json["id"] = panel.id;
     json["name"] = panel.name;
     json["parent"] = panel.parent;
@@ -130,9 +130,11 @@ class Writer {
   static Json standardCommands(const DeviceData& device) {
     Json list = Json::array();
     for (const auto& command : device.standardCommands) {
-      list.push_back({{"id", command->get_StandardID()},
-                      {"command", command->get_CommandName()},
-                      {"library_id", command->get_LibraryID()}});
+      Json item = emptyObject(3);
+      item["id"] = command->get_StandardID();
+      item["command"] = command->get_CommandName();
+      item["library_id"] = command->get_LibraryID();
+      list.push_back(std::move(item));
     }
     return list;
   }
@@ -154,7 +156,7 @@ class Writer {
   }
 
   Json signal(const SignalData& signal) const {
-    Json json;
+    Json json = emptyObject(9);
     json["output"] = signal.row.output;
     json["input"] = signal.row.input;
     json["type"] = signal.row.type;
@@ -188,7 +190,7 @@ class Writer {
   }
 
   Json condition(const host::StepCondition& condition) const {
-    Json json;
+    Json json = emptyObject(6);
     json["device"] = known(condition.get_DeviceID());
     json["type"] = condition.get_ConditionType();
     json["signal"] = condition.get_SignalName();
@@ -199,7 +201,7 @@ class Writer {
   }
 
   Json step(const StepData& step) const {
-    Json json;
+    Json json = emptyObject(6);
     json["kind"] = step.kind;
     if (step.kind == host::stepCallPreset) {
       json["preset"] = document_.findPreset(step.target)->name;
@@ -240,7 +242,7 @@ class Writer {
   Json bill() const {
     Json list = Json::array();
     for (const auto& entry : document_.bill) {
-      Json item;
+      Json item = emptyObject(3);
       item["key"] = entry->key;
       item["main"] = billLine(entry->main);
       item["parts"] = Json::array();
@@ -253,7 +255,7 @@ class Writer {
   Json presets() const {
     Json list = Json::array();
     for (const auto& preset : document_.presets) {
-      Json item;
+      Json item = emptyObject(3);
       item["name"] = preset->name;
       item["comment"] = preset->comment;
       item["steps"] = steps(*preset);

@@ -1,0 +1,24 @@
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+
+#include "trellisar/FileIO.h"
+
+/// The least that building a room takes as a process: it reads the template, the index of the
+/// library and a finished system, and writes that system's bytes to another place.
+int main(int argc, char** argv) {
+  if (argc != 5) {
+    std::fprintf(stderr, "bench_floor TEMPLATE.tsy INDEX.json FINISHED.tsy WRITTEN.tsy\n");
+    return 2;
+  }
+  try {
+    const auto read = trellisar::readFile(argv[1]).size() + trellisar::readFile(argv[2]).size();
+    const std::filesystem::path written = argv[4];
+    std::filesystem::create_directories(written.parent_path());
+    trellisar::replaceFile(written, trellisar::readFile(argv[3]));
+    return read > 0 ? 0 : 1;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,28 @@
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <exception>
+
+#include "app/Environment.h"
+#include "app/Report.h"
+#include "app/UnattendedDesktop.h"
+#include "bench/Figure.h"
+#include "forms/Application.h"
+#include "forms/Paths.h"
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+  try {
+    const app::Report report("bench");
+    app::UnattendedDesktop desktop(report);
+    const forms::Application application(desktop, forms::fromMachinePath(app::dataFolder()));
+    bench::registerFigures(bench::generatorFigures());
+    bench::registerFigures(bench::fileFigures());
+    bench::registerFigures(bench::processFigures());
+    return bench::runFigures() ? 0 : 1;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+}

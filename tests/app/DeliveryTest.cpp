@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "receiver/Client.h"
+#include "receiver/Server.h"
+#include "tests/app/Program.h"
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string example =
+    (fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "meeting-room.json").string();
+
+/// A receiver on the loopback, in a thread of its own.
+class Receiver {
+ public:
+  explicit Receiver(const fs::path& folder)
+      : server_({.listen = {"127.0.0.1", 0}, .folder = folder}),
+        thread_([this] { server_.run(); }) {}
+  ~Receiver() {
+    server_.stop();
+    thread_.join();
+  }
+  std::string address() const { return server_.address().text(); }
+  receiver::Holdings holdings() const {
+    receiver::Holdings holdings;
+    EXPECT_TRUE(receiver::query(server_.address(), holdings));
+    return holdings;
+  }
+
+ private:
+  receiver::Server server_;
+  std::thread thread_;
+};
+
+class Delivery : public testing::Test {
+ protected:
+  Outcome build(std::vector<std::string> arguments, const std::string& answers = example) {
+    arguments.insert(arguments.begin(), {"build", answers, "--out", "rooms"});
+    return program.run(arguments);
+  }
+
+  TemporaryFolder folder;
+  Program program{folder};
+};
+
+TEST_F(Delivery, exportsAndUploadsAfterTheSave) {
+  const Receiver receiver(folder / "receiver");
+  const Outcome built =
+      build({"--export", "archives/room.tsa", "--upload", "tcp " + receiver.address()});
+  EXPECT_EQ(built.status, 0) << built.errors;
+  EXPECT_TRUE(fs::exists(folder / "archives/room.tsa"));
+  EXPECT_EQ(receiver.holdings().program->name, "Meeting Room");
+
+  const std::string first = readWhole(folder / "archives/room.tsa");
+  const Outcome again = build({"--export", "archives/room.tsa", "--replace"});
+  EXPECT_EQ(again.status, 0) << again.errors;
+  EXPECT_EQ(readWhole(folder / "archives/room.tsa"), first) << "the same room, the same bytes";
+}
+
+TEST_F(Delivery, failureIsToldAndTheSystemStaysSaved) {
+  struct Case {
+    std::string name;
+    std::vector<std::string> arguments;
+    std::string answers, told;
+  };
+  const std::string bare = folder.write("bare.json", R"({"name": "Bare"})").string();
+  folder.write("taken.tsa", "mine");
+  for (const Case& c : {
+           Case{"nobody listens", {"--upload", "127.0.0.1:1"}, example, "not uploaded"},
+           Case{"no transmitter", {"--export", "a.tsa"}, bare, "No OL transmitters"},
+           Case{"archive is there", {"--export", "taken.tsa"}, example, "taken.tsa"},
+       }) {
+    fs::remove_all(folder / "rooms");
+    const Outcome built = build(c.arguments, c.answers);
+    EXPECT_EQ(built.status, 1) << c.name;
+    EXPECT_NE(built.errors.find(c.told), std::string::npos) << c.name << ": " << built.errors;
+    EXPECT_FALSE(fs::is_empty(folder / "rooms")) << c.name;
+  }
+  EXPECT_EQ(readWhole(folder / "taken.tsa"), "mine");
+  EXPECT_FALSE(fs::exists(folder / "a.tsa"));
+}
+
+TEST_F(Delivery, wrongCommandLineStartsNothing) {
+  for (const auto& arguments : std::vector<std::vector<std::string>>{
+           {"--upload", "host:port"}, {"--export", "a.tsa", example + "x"}}) {
+    EXPECT_EQ(build(arguments).status, 2) << arguments.front();
+    EXPECT_FALSE(fs::exists(folder / "rooms"));
+  }
+}
+
+TEST_F(Delivery, reportsAreWrittenFromASavedSystem) {
+  const Outcome built = build({});
+  ASSERT_EQ(built.status, 0) << built.errors;
+  const std::string system = built.output.substr(0, built.output.find('\n'));
+  EXPECT_EQ(program.run({"report", system, "--out", "papers"}).status, 0);
+  EXPECT_NE(readWhole(folder / "papers/Connection Sheet.html").find("Wall Plate Transmitter"),
+            std::string::npos);
+  EXPECT_EQ(program.run({"report", "nowhere.tsy"}).status, 2);
+}
+
+}  // namespace
+}  // namespace app

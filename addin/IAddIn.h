@@ -151,8 +151,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void SetLibraryFilter();
   bool BuildProgram(bool bShowWarnings, std::string& sError);
 
-  // From the finished room to the receiver: BuildAndUpload.cpp. `hwnd` is the window that asked;
-  // while one of the two chains runs, the Finish button is disabled. What goes wrong has been
+  // From the finished room to the receiver: BuildAndUpload.cpp. `hwnd` is the window that asked.
+  // While one of the two chains runs, the Finish button is disabled. What goes wrong has been
   // shown.
   /// True: there is a compiled program and it may be sent. A current one is left as it is.
   bool CreateProgram();

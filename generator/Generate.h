@@ -11,6 +11,8 @@
 
 namespace generator {
 
+struct LockNames;
+
 /// Turns the answers of the wizard into the room's control program: it reads the settings of the
 /// add-in and writes presets, signals and properties of the open document. What it writes it
 /// empties first, so that a run can be repeated; it never creates a named preset.
@@ -166,6 +168,7 @@ class Generate : public addin::ProgramBuilder {
   [[nodiscard]] bool BuildSystemLockPresets();
   [[nodiscard]] bool BuildSystemLock();
   [[nodiscard]] bool BuildSystemUnlock();
+  [[nodiscard]] bool BuildLockPreset(const LockNames& names);
 
   // The motion detector: MotionSensor.cpp.
   [[nodiscard]] bool BuildMotionSensor();

@@ -5,61 +5,66 @@
 #include "host/Numbers.h"
 
 namespace generator {
+
+struct LockNames {
+  const char* sPreset;
+  const char* sComment;
+  const char* sReceiverCommand;
+  bool bDisablePanels;
+  const char* sKestrumSignal;
+  const char* sKestrumLevel;
+};
+
 namespace {
 
-constexpr const char* sLockComment =
-    "Place additional steps here if you wish to lock other devices or interfaces.  Make sure if "
-    "you lock additional items that you also unlock them in the \"System Unlock\" "
-    "preset.\r\n\r\nYou can lock the system from a variety of events.  For example, the system "
-    "could be locked from Kestrum, at a specific time, when the system is powered off, etc.";
-constexpr const char* sUnlockComment =
-    "Place additional steps here if you wish to unlock other devices or interfaces.  Make sure "
-    "that any devices or interfaces that are locked in the \"System Lock\" preset get unlocked "
-    "here.";
+constexpr LockNames lock{
+    .sPreset = sSystemLockPreset,
+    .sComment =
+        "Place additional steps here if you wish to lock other devices or interfaces.  Make sure "
+        "if you lock additional items that you also unlock them in the \"System Unlock\" "
+        "preset.\r\n\r\nYou can lock the system from a variety of events.  For example, the system "
+        "could be locked from Kestrum, at a specific time, when the system is powered off, etc.",
+    .sReceiverCommand = sLockCommand,
+    .bDisablePanels = true,
+    .sKestrumSignal = "System_Locked",
+    .sKestrumLevel = host::levelHigh,
+};
 
-void StartAnew(host::Preset& preset, const char* sComment) {
-  preset.ClearSteps();
-  if (preset.get_Comment().empty()) preset.put_Comment(sComment);
-}
+constexpr LockNames unlock{
+    .sPreset = sSystemUnlockPreset,
+    .sComment =
+        "Place additional steps here if you wish to unlock other devices or interfaces.  Make sure "
+        "that any devices or interfaces that are locked in the \"System Lock\" preset get unlocked "
+        "here.",
+    .sReceiverCommand = sUnlockCommand,
+    .bDisablePanels = false,
+    .sKestrumSignal = "System_Unlocked",
+    .sKestrumLevel = host::levelLow,
+};
 
 }  // namespace
 
 bool Generate::BuildSystemLockPresets() { return BuildSystemLock() && BuildSystemUnlock(); }
 
-//  System Lock
-//    Lock                  receiver
-//    Enabled low           each panel
-//    System_Locked high    Kestrum
-bool Generate::BuildSystemLock() {
-  const auto preset = FindSequence(sSystemLockPreset);
-  if (!preset) return false;
-  const addin::IAddIn& settings = addin::gAddIn();
-  StartAnew(*preset, sLockComment);
-  if (settings.get_ReceiverID() != 0) {
-    AppendStep(*preset, Command(settings.get_ReceiverID(), sLockCommand));
-  }
-  static_cast<void>(AddInterfaceEnableSteps(/*bDisable=*/true, preset));
-  if (settings.get_KestrumID() > 0) {
-    AppendStep(*preset, Level(settings.get_KestrumID(), "System_Locked", host::levelHigh));
-  }
-  return true;
-}
+bool Generate::BuildSystemLock() { return BuildLockPreset(lock); }
+bool Generate::BuildSystemUnlock() { return BuildLockPreset(unlock); }
 
-//  System Unlock
-//    Unlock                receiver
-//    Enabled high          each panel
-//    System_Unlocked low   Kestrum
-bool Generate::BuildSystemUnlock() {
-  const auto preset = FindSequence(sSystemUnlockPreset);
+//  System Lock                        System Unlock
+//    Lock                 receiver      Unlock                receiver
+//    Enabled low          each panel    Enabled high          each panel
+//    System_Locked high   Kestrum       System_Unlocked low   Kestrum
+bool Generate::BuildLockPreset(const LockNames& names) {
+  const auto preset = FindSequence(names.sPreset);
   if (!preset) return false;
   const addin::IAddIn& settings = addin::gAddIn();
-  StartAnew(*preset, sUnlockComment);
+  preset->ClearSteps();
+  if (preset->get_Comment().empty()) preset->put_Comment(names.sComment);
   if (settings.get_ReceiverID() != 0) {
-    AppendStep(*preset, Command(settings.get_ReceiverID(), sUnlockCommand));
+    AppendStep(*preset, Command(settings.get_ReceiverID(), names.sReceiverCommand));
   }
-  static_cast<void>(AddInterfaceEnableSteps(/*bDisable=*/false, preset));
+  static_cast<void>(AddInterfaceEnableSteps(names.bDisablePanels, preset));
   if (settings.get_KestrumID() > 0) {
-    AppendStep(*preset, Level(settings.get_KestrumID(), "System_Unlocked", host::levelLow));
+    AppendStep(*preset, Level(settings.get_KestrumID(), names.sKestrumSignal, names.sKestrumLevel));
   }
   return true;
 }

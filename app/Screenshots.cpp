@@ -6,20 +6,29 @@
 #include <functional>
 #include <map>
 #include <system_error>
+#include <utility>
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
 #include "app/ExitStatus.h"
 #include "app/Report.h"
+#include "app/ReportPrinter.h"
 #include "forms/Application.h"
+#include "forms/DropDownList.h"
 #include "forms/ListBox.h"
 #include "forms/Paths.h"
 #include "forms/TextBox.h"
+#include "forms/ToolBar.h"
 #include "forms/User.h"
 #include "forms/UserControl.h"
 #include "qt/QtDesktop.h"
+#include "receiver/Server.h"
 #include "trellisar/AddIns.h"
+#include "trellisar/CompileDialog.h"
+#include "trellisar/Document.h"
 #include "trellisar/MainForm.h"
+#include "trellisar/SystemFile.h"
+#include "trellisar/TransferDialog.h"
 
 namespace app {
 namespace {
@@ -46,16 +55,23 @@ class DrawnDesktop : public qt::QtDesktop {
 
   const std::string& failure() const { return failure_; }
 
+  /// The script of a form comes when the form has done its own work, and not at all to one that
+  /// has closed by then.
   void runModal(forms::Form& form, forms::Form* owner) override {
-    runLater([this, &form] { run(form); });
+    bool started = false;
+    const auto subscription = form.activated.listen([&] {
+      if (form.isVisible() && !std::exchange(started, true)) {
+        runLater([this, &form] { play(form); });
+      }
+    });
     QtDesktop::runModal(form, owner);
   }
   forms::Answer showMessage(const forms::MessageBox& message) override {
     return forms::defaultAnswer(message.buttons);
   }
 
- private:
-  void run(forms::Form& form) {
+  /// Acts on the form, which then closes.
+  void play(forms::Form& form) {
     try {
       scripts_.at(form.name())(form);
     } catch (const std::exception& error) {
@@ -64,6 +80,7 @@ class DrawnDesktop : public qt::QtDesktop {
     if (form.isVisible()) form.hide();
   }
 
+ private:
   fs::path folder_;
   std::map<std::string, Script> scripts_;
   std::string failure_;
@@ -72,13 +89,22 @@ class DrawnDesktop : public qt::QtDesktop {
 /// A walk through the wizard that stops for a picture in every state that a step has.
 class Walk {
  public:
-  Walk(forms::Application& application, DrawnDesktop& desktop)
-      : user_(application), desktop_(desktop) {
+  Walk(forms::Application& application, DrawnDesktop& desktop, trellisar::Host& host)
+      : user_(application), desktop_(desktop), host_(host) {
     desktop_.act("frmAddIn", [this](forms::Form& wizard) { go(wizard); });
     desktop_.act("DeviceDialog", [this](forms::Form& dialog) { choose(dialog); });
     desktop_.act("DeviceProperties",
                  [this](forms::Form& dialog) { desktop_.draw(dialog, "device-properties"); });
     desktop_.act("frmPreview", [this](forms::Form& form) { desktop_.draw(form, preview_); });
+    desktop_.act("ReportsDialog", [this](forms::Form& dialog) { drawReports(dialog); });
+    for (const auto& [form, name] :
+         {std::pair{"frmBuildPanels", "panels"}, std::pair{"RealTimeDialog", "audio-settings"},
+          std::pair{"frmVideoTestPattern", "test-pattern"},
+          std::pair{"AddressBookDialog", "address-book"},
+          std::pair{"IPSettingsDialog", "ip-settings"},
+          std::pair{"CompileDialog", "compile-errors"}}) {
+      desktop_.act(form, [this, name](forms::Form& shown) { desktop_.draw(shown, name); });
+    }
   }
 
  private:
@@ -88,6 +114,7 @@ class Walk {
   static constexpr int options = 6;
   static constexpr int transmitters = 7;
   static constexpr int room = 8;
+  static constexpr int finish = 9;
 
   void go(forms::Form& wizard) {
     wizard_ = &wizard;
@@ -105,6 +132,8 @@ class Walk {
     drawOptions();
     drawTransmitters();
     drawRoom();
+    drawFinish();
+    drawCompileErrors();
   }
 
   void drawDisplay() {
@@ -171,14 +200,48 @@ class Walk {
     draw("8-room-included");
   }
 
+  /// With a display that has no standard command, so that the panel window has something to tell.
+  void drawFinish() {
+    enterStep(display);
+    chooseDisplay("Quenlowe K55 Hotel");
+    enterStep(finish);
+    for (const char* button : {"cmdExport", "cmdReports", "cmdSettings", "cmdTestPattern"}) {
+      click(finish, button);
+    }
+    host_.preferences().setAddressBook(
+        {{{"Lecture Hall", "tcp 192.168.4.20"}, {"Seminar Room 2", "seminar-2.campus:41800"}}});
+    click(finish, "tbrComm");
+    user_.choose(dynamic_cast<forms::ToolBar&>(page(finish).control("tbrComm")), "IP");
+  }
+
+  void drawReports(forms::Form& dialog) {
+    auto& reports = dynamic_cast<forms::DropDownList&>(dialog.control("cboReport"));
+    for (std::int32_t place = 0; place < reports.count(); ++place) {
+      user_.select(reports, place);
+      desktop_.draw(dialog, "report-" + std::to_string(place + 1));
+    }
+  }
+
+  /// The saved system, with nothing at its receiver any more that its program is for.
+  void drawCompileErrors() {
+    const auto broken =
+        trellisar::readSystemFile(host_.document()->data().ownFile, host_.library());
+    while (broken->devices.size() > 1) {
+      broken->forget(broken->devices.back());
+      broken->devices.pop_back();
+    }
+    trellisar::CompileDialog(broken).run();
+  }
+
   forms::UserControl& tabs() const {
     return dynamic_cast<forms::UserControl&>(wizard_->control("ctlTabs"));
   }
 
-  void click(int step, const std::string& control) {
-    auto& page = dynamic_cast<forms::UserControl&>(tabs().control("ctl" + std::to_string(step)));
-    user_.click(page.control(control));
+  forms::UserControl& page(int step) const {
+    return dynamic_cast<forms::UserControl&>(tabs().control("ctl" + std::to_string(step)));
   }
+
+  void click(int step, const std::string& control) { user_.click(page(step).control(control)); }
 
   /// Goes back as far as it can and then forward to the step.
   void enterStep(int step) {
@@ -206,6 +269,7 @@ class Walk {
 
   forms::User user_;
   DrawnDesktop& desktop_;
+  trellisar::Host& host_;
   forms::Form* wizard_ = nullptr;
   std::string device_;
   std::string preview_;
@@ -225,6 +289,7 @@ class TemporarySystems {
     std::error_code failure;
     fs::remove_all(folder_, failure);
   }
+  const fs::path& folder() const { return folder_; }
   TemporarySystems(const TemporarySystems&) = delete;
   TemporarySystems& operator=(const TemporarySystems&) = delete;
 
@@ -256,6 +321,19 @@ void drawMainWindow(DrawnDesktop& desktop, trellisar::Host& host) {
   draw("main-missing", "");
 }
 
+/// On its way to a receiver that listens and never answers.
+void drawTransfer(DrawnDesktop& desktop, const fs::path& folder) {
+  const receiver::Server silent({.listen = {"127.0.0.1", 0}, .folder = folder});
+  trellisar::TransferDialog dialog(silent.address(), {"Lecture Hall", "program", {}});
+  desktop.act("TransferDialog", [&](forms::Form& form) {
+    dialog.prgProgress.setMaximum(3);
+    dialog.prgProgress.setValue(2);
+    desktop.draw(form, "transfer");
+  });
+  desktop.runLater([&] { desktop.play(dialog); });  // while the transfer is at its work
+  static_cast<void>(dialog.run());
+}
+
 }  // namespace
 
 int drawSteps(const fs::path& folder) {
@@ -265,9 +343,12 @@ int drawSteps(const fs::path& folder) {
   char* arguments[] = {name, nullptr};
   DrawnDesktop desktop(1, arguments, folder);
   forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
-  trellisar::Host host({.dataFolder = dataFolder()});
-  const Walk walk(application, desktop);
+  trellisar::Host host({.dataFolder = dataFolder(),
+                        .exportFile = systems.folder() / "Room.tsa",
+                        .printer = reportPrinter()});
+  const Walk walk(application, desktop, host);
   drawMainWindow(desktop, host);
+  drawTransfer(desktop, systems.folder() / "receiver");
   AddIn(host).runOnNewSystem();
   if (desktop.failure().empty()) return exitStatus::ok;
   reportLine(desktop.failure());

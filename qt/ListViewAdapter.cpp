@@ -2,6 +2,7 @@
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeWidget>
 #include <algorithm>
 
@@ -70,9 +71,22 @@ void ListViewAdapter::showRows() {
     if (row == tree_->topLevelItemCount()) tree_->addTopLevelItem(new QTreeWidgetItem);
     different |= showRow(*tree_->topLevelItem(row), row);
   }
-  if (!different) return;
-  for (int column = 0; column + 1 < tree_->columnCount(); ++column)
-    tree_->resizeColumnToContents(column);
+  if (different) {
+    for (int column = 0; column + 1 < tree_->columnCount(); ++column)
+      tree_->resizeColumnToContents(column);
+  }
+  if (different || tree_->width() != fittedWidth_) fitLastColumn();
+}
+
+/// The last column takes the room that is left, and can be scrolled to where that is not enough.
+void ListViewAdapter::fitLastColumn() {
+  fittedWidth_ = tree_->width();
+  const int last = tree_->columnCount() - 1;
+  const int needed = static_cast<QAbstractItemView*>(tree_)->sizeHintForColumn(last);
+  const bool fits = needed <= tree_->viewport()->width() - tree_->header()->sectionPosition(last);
+  tree_->header()->setStretchLastSection(fits);
+  if (!fits) tree_->header()->resizeSection(last, needed);
+  tree_->doItemsLayout();  // shows or hides the scroll bar at once
 }
 
 bool ListViewAdapter::showRow(QTreeWidgetItem& item, std::int32_t row) {
@@ -137,6 +151,7 @@ bool ListViewAdapter::doubleClicked(QWidget& part, QMouseEvent& event) {
 
 ListViewAdapter::KeyUse ListViewAdapter::useOf(QKeyEvent& event) {
   if (editor_) return KeyUse::form;
+  if (scrollSideways(event)) return KeyUse::nobody;
   const int rowHeight = std::max(1, tree_->sizeHintForRow(0));
   const std::int32_t row = keys_.placeFor(
       event, {list_.rowCount(), list_.selectedRow(), tree_->viewport()->height() / rowHeight,
@@ -144,6 +159,14 @@ ListViewAdapter::KeyUse ListViewAdapter::useOf(QKeyEvent& event) {
   if (row < 0) return KeyUse::form;
   if (row != list_.selectedRow()) act([&](forms::User& user) { user.select(list_, row); });
   return KeyUse::nobody;
+}
+
+bool ListViewAdapter::scrollSideways(const QKeyEvent& event) {
+  QScrollBar& bar = *tree_->horizontalScrollBar();
+  const bool left = event.key() == Qt::Key_Left;
+  if (bar.maximum() == 0 || (!left && event.key() != Qt::Key_Right)) return false;
+  bar.triggerAction(left ? QScrollBar::SliderSingleStepSub : QScrollBar::SliderSingleStepAdd);
+  return true;
 }
 
 /// An open editor edits by itself; what ends it is the form's.

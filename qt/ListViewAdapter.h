@@ -34,12 +34,15 @@ class ListViewAdapter : public Adapter {
   bool showRow(QTreeWidgetItem& item, std::int32_t row);
   void showEditor();
   void openEditor();
+  void fitLastColumn();
+  bool scrollSideways(const QKeyEvent& event);
 
   forms::ListView& list_;
   QTreeWidget* tree_;
   QPointer<QLineEdit> editor_;
   QTimer slowClick_;
   ListKeys keys_;
+  int fittedWidth_ = 0;  // that the last column was fitted to
 };
 
 }  // namespace qt

@@ -12,6 +12,7 @@ TextViewAdapter::TextViewAdapter(forms::TextView& view, const Place& place)
       view_(view),
       edit_(static_cast<QPlainTextEdit*>(widget())) {
   edit_->setReadOnly(true);
+  edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // every line is wrapped
   edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   watch(edit_->viewport());
 }

@@ -36,6 +36,8 @@ frmBuildPanels::frmBuildPanels() : Form("frmBuildPanels") {
   ctlErrorLog.SetLogOptions(true, true);
   frameInfo.setVisible(false);
   cmdClose.setVisible(false);
+  cmdClose.setDefault(true);
+  cmdClose.setCancel(true);
   cmdSave.setVisible(false);
   cmdSave.setToolTip("Save Log to File...");
   LayOut();
@@ -84,6 +86,7 @@ void frmBuildPanels::EndRun() {
   }
   frameInfo.setVisible(true);
   cmdSave.setVisible(true);
+  cmdClose.setFocus();
 }
 
 /// The work can't be broken off.
@@ -139,14 +142,14 @@ void frmBuildPanels::LayOut() {
   lblGenerating.setBounds({lMargin, 840, 6000, 255});
   ctlErrorLog.setBounds({lMargin, 1110, 0, 3300});
   frameInfo.setBorder(false);
-  frameInfo.setBounds({lMargin, 4560, 9120, 1140});
+  frameInfo.setBounds({lMargin, 4560, 9150, 1140});
   ctlImage.setBounds({90, 90, 480, 480});
-  lblInfo.setBounds({660, 90, 8370, 960});
+  lblInfo.setBounds({660, 90, 8400, 960});
   lblBorder.setBorder(true);
-  lblBorder.setBounds({0, 0, 9120, 1140});
+  lblBorder.setBounds({0, 0, 9150, 1140});
   cmdSave.setBounds({lMargin, 5880, 1500, 420});
   cmdClose.setBounds({0, 5880, 1500, 420});
-  cmdHelp.setBounds({7860, 5880, 1500, 420});
+  cmdHelp.setBounds({7890, 5880, 1500, 420});
   setSize(sizeOfWindow);
   Form_Resize();
 }

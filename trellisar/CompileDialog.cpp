@@ -11,9 +11,18 @@
 namespace trellisar {
 namespace {
 
-constexpr forms::Twips dialogWidth = 7800;
+constexpr forms::Twips dialogWidth = 8700;
 constexpr forms::Twips progressHeight = 300;
 constexpr forms::Twips listHeight = 2400;
+
+std::string textOfErrors(std::size_t count) {
+  if (count == 1) {
+    return "The program could not be built because of an error. Correct it and build the system "
+           "again.";
+  }
+  return "The program could not be built because of " + std::to_string(count) +
+         " errors. Correct them and build the system again.";
+}
 
 }  // namespace
 
@@ -27,10 +36,11 @@ CompileDialog::CompileDialog(DocumentPtr document)
   activated.connect([this] {
     if (!std::exchange(started_, true)) work();
   });
-  lblState.setCaption("Checking the program of \"" + document_->name + "\"...");
+  lblState.setCaption(textOfErrors(1000));  // the longest, which gets the room
   layOutAbove({&cmdCancel, &cmdClose}, dialogWidth,
               {forms::rest(lblState), forms::rest(prgProgress, progressHeight),
                forms::item(lblErrors), forms::rest(lstErrors, listHeight)});
+  lblState.setCaption("Checking the program of \"" + document_->name + "\"...");
 }
 
 bool CompileDialog::run() {
@@ -78,12 +88,7 @@ void CompileDialog::compile() {
 }
 
 void CompileDialog::showErrors(const std::vector<std::string>& errors) {
-  lblState.setCaption(errors.size() == 1
-                          ? "The program could not be built because of an error. Correct it and "
-                            "build the system again."
-                          : "The program could not be built because of " +
-                                std::to_string(errors.size()) +
-                                " errors. Correct them and build the system again.");
+  lblState.setCaption(textOfErrors(errors.size()));
   for (const std::string& error : errors) lstErrors.add(error);
   cmdClose.setVisible(true);
   cmdClose.setCancel(true);

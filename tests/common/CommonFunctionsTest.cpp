@@ -20,40 +20,22 @@ class CommonFunctionsTest : public testing::Test {
   forms::Application application{desktop, "\\program"};
 };
 
-std::string repeated(const std::string& text, int count) {
-  std::string result;
-  for (int i = 0; i < count; ++i) result += text;
-  return result;
-}
-
 TEST_F(CommonFunctionsTest, nameRuleThatIsBrokenFirstDecides) {
   const std::string digit = "Names cannot begin with digits 0-9.";
   const std::string empty = "Names must have at least one character, excluding the extension.";
   const std::string tooLong = "Names cannot exceed 50 characters.";
   const std::string illegal =
       "Names can not contain the characters ;:,'\\/*?\"<>|[] or any extended ASCII characters.";
-  struct Case {
-    std::string name, fault;
-  };
-  const std::vector<Case> cases{
-      {"Room 4 - (blue) #1", ""},
-      {repeated("x", 50), ""},
-      {repeated("\u4e2d", 50), ""},
-      {"", empty},
-      {" ", ""},
-      {"1:" + repeated("x", 60), digit},
-      {repeated("x", 51), tooLong},
-      {repeated(":", 51), tooLong},
-      {"Room\\4", illegal},
-      {"Room [4]", illegal},
-      {"Caf\u00e9", illegal},
-      {"Room\u0080", illegal},
-      {"Room \u0153", ""},
-  };
-  for (const Case& c : cases) {
+  using Case = std::pair<std::string, std::string>;
+  for (const auto& [name, fault] :
+       {Case{"Room 4 - (blue) #1", ""}, Case{std::string(50, 'x'), ""}, Case{"", empty},
+        Case{" ", ""}, Case{"1:" + std::string(60, 'x'), digit},
+        Case{std::string(51, 'x'), tooLong}, Case{std::string(51, ':'), tooLong},
+        Case{"Room\\4", illegal}, Case{"Room [4]", illegal}, Case{"Caf\u00e9", illegal},
+        Case{"Room\u0080", illegal}, Case{"Room \u0153", ""}}) {
     std::string message;
-    EXPECT_EQ(common::CheckValidName(c.name, false, message), c.fault.empty()) << c.name;
-    EXPECT_EQ(message, c.fault) << c.name;
+    EXPECT_EQ(common::CheckValidName(name, false, message), fault.empty()) << name;
+    EXPECT_EQ(message, fault) << name;
   }
 }
 
@@ -66,66 +48,39 @@ TEST_F(CommonFunctionsTest, nameWithExtraCharacterIsRefusedAndShown) {
   EXPECT_EQ(message, text);
 }
 
-TEST_F(CommonFunctionsTest, firstCharacterIsFoundByItsPlaceInCharacters) {
-  std::int32_t pos = -1;
-  EXPECT_TRUE(common::FindFirstChar("xy", "\u4e2d\u4e2dy", pos, false));
-  EXPECT_EQ(pos, 3);
-  EXPECT_FALSE(common::FindFirstChar("xy", "\u00e9", pos, false));
-  EXPECT_EQ(pos, 3);
-  EXPECT_TRUE(common::IsAllDigits(""));
-  EXPECT_FALSE(common::IsAllDigits("12a"));
-}
-
 TEST_F(CommonFunctionsTest, valueInsideIsTheWholeNumberThatWasTyped) {
-  struct Case {
-    std::string text, value;
-  };
-  const std::vector<Case> cases{
-      {" 30 ", "30"}, {"2.5", "2"}, {"3.5", "4"},          {"7 s", "7"},    {"", "0"},
-      {"soon", "0"},  {"-0", "0"},  {"1234567", "123456"}, {"1e3", "1000"}, {"\u4e2d5", "0"}};
-  for (const Case& c : cases) {
+  using Case = std::pair<std::string, std::string>;
+  for (const auto& [text, value] :
+       {Case{" 30 ", "30"}, Case{"2.5", "2"}, Case{"3.5", "4"}, Case{"7 s", "7"}, Case{"", "0"},
+        Case{"soon", "0"}, Case{"-0", "0"}, Case{"1234567", "123456"}, Case{"1e3", "1000"},
+        Case{"\u4e2d5", "0"}}) {
     bool outOfRange = true;
-    EXPECT_EQ(common::CheckValueRange(c.text, {.sLabel = "It", .iMax = 200000}, outOfRange),
-              c.value)
-        << c.text;
-    EXPECT_FALSE(outOfRange) << c.text;
+    const common::ValueRange range{.sLabel = "It", .iMax = 200000};
+    EXPECT_EQ(common::CheckValueRange(text, range, outOfRange), value) << text;
+    EXPECT_FALSE(outOfRange) << text;
   }
 }
 
 TEST_F(CommonFunctionsTest, valueOutsideIsToldAndKeptOrReset) {
   struct Case {
-    std::string text;
-    common::ValueRange range;
-    std::string message, value;
-    bool outOfRange;
+    std::string text, message, value;
+    common::ValueRange range{.sLabel = "The delay", .iMax = 999};
   };
   const std::vector<Case> cases{
-      {"-1",
-       {.sLabel = "The delay", .iMax = 999},
-       "The delay cannot be negative.\r\nPlease set another value.",
-       "-1",
-       true},
+      {"-1", "The delay cannot be negative.\r\nPlease set another value.", "-1"},
       {"abc",
-       {.sLabel = "The delay", .iMin = 1, .iMax = 999},
        "The delay is set too low (The minimum is 1).\r\nPlease set another value.",
        "0",
-       true},
+       {.sLabel = "The delay", .iMin = 1, .iMax = 999}},
       {"1000",
-       {.sLabel = "The delay", .iMax = 999, .bReset = true, .iResetValue = 5},
        "The delay is set too high (The maximum is 999).\r\nThe value will be reset to 5.",
        "5",
-       false},
-      {"9e9999",
-       {.sLabel = "The delay", .iMax = 999, .bReset = true},
-       "The delay is set too high (The maximum is 999).\r\nThe value will be reset to 0.",
-       "0",
-       false},
-  };
+       {.sLabel = "The delay", .iMax = 999, .bReset = true, .iResetValue = 5}}};
   for (const Case& c : cases) {
-    bool outOfRange = !c.outOfRange;
+    bool outOfRange = c.range.bReset;
     desktop.expectMessage("Orlena", c.message);
     EXPECT_EQ(common::CheckValueRange(c.text, c.range, outOfRange), c.value) << c.text;
-    EXPECT_EQ(outOfRange, c.outOfRange) << c.text;
+    EXPECT_EQ(outOfRange, !c.range.bReset) << c.text;
   }
   bool outOfRange = false;
   EXPECT_EQ(common::CheckValueRange("-5", {.iMax = 9, .bShowMessage = false}, outOfRange), "-5");
@@ -153,11 +108,6 @@ TEST_F(CommonFunctionsTest, sortingKeepsTheOrderOfEqualItems) {
   EXPECT_EQ(sorted("a-c ab -b", {.sIgnoreText = "-"}), "ab a-c -b");
   EXPECT_EQ(sorted("b a", {.bKeyed = true}), "a b");
   EXPECT_THROW(sorted("a b A", {.bKeyed = true}), forms::Error);
-}
-
-TEST_F(CommonFunctionsTest, pixelsBeyondTheTypeAreHeld) {
-  EXPECT_EQ(common::PixelsToTwipsX(801), 12015);
-  EXPECT_EQ(common::PixelsToTwipsY(3000), 32767);
 }
 
 }  // namespace

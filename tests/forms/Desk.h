@@ -18,6 +18,7 @@
 #include "forms/TextBox.h"
 #include "forms/User.h"
 #include "forms/UserControl.h"
+#include "tests/support/Errors.h"
 #include "tests/support/ScriptedDesktop.h"
 
 namespace tests {

@@ -34,6 +34,7 @@ TEST_F(FormTest, LifeOfAForm) {
     desktop.whenShown("main", [&](forms::Form&) {
       EXPECT_GT(window.windowHandle(), 0);
       EXPECT_EQ(application.activeForm(), &window);
+      EXPECT_THROW(window.showModal(nullptr), forms::Error);
       window.setSize({9705, 7500});
       window.keeps = true;
       EXPECT_FALSE(user.close(window));
@@ -95,12 +96,6 @@ TEST_F(FormTest, EndOfTheWaitFromInside) {
     EXPECT_FALSE(window.isVisible());
     EXPECT_TRUE(application.openForms().empty());
   }
-}
-
-TEST_F(FormTest, FormThatIsShownAlready) {
-  Window window("main", journal);
-  onForm(window, [&](forms::Form&) { EXPECT_THROW(window.showModal(nullptr), forms::Error); });
-  EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(FormTest, ErrorThatLeavesAHandlerIsShownAndTheProgramGoesOn) {
@@ -165,17 +160,6 @@ TEST_F(FormTest, LaterTasksRunAfterWhatIsRunning) {
   journal.push_back("now");
   application.processEvents();
   EXPECT_EQ(journal, (Journal{"now", "first", "second"}));
-}
-
-TEST_F(FormTest, ApplicationsOfAThread) {
-  forms::Form form("form");
-  onForm(form, [&](forms::Form&) {
-    forms::Application inner(desktop, "\\inner\\");
-    EXPECT_EQ(&forms::Application::current(), &inner);
-    EXPECT_EQ(inner.folder(), "\\inner");
-    EXPECT_EQ(inner.activeForm(), nullptr);
-  });
-  EXPECT_EQ(&forms::Application::current(), &application);
 }
 
 }  // namespace

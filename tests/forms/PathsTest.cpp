@@ -1,11 +1,7 @@
 #include "forms/Paths.h"
 
-#include <stdlib.h>
-
-#include <filesystem>
-#include <fstream>
-
 #include "tests/forms/Desk.h"
+#include "tests/support/Files.h"
 
 namespace tests {
 namespace {
@@ -14,17 +10,11 @@ class PathsTest : public Desk {
  protected:
   PathsTest() {
     std::filesystem::create_directories(root / "Lab \u00e4" / "Panels");
-    std::ofstream(root / "Lab \u00e4" / "Lab.tsy") << "{}";
+    writeFile(root / "Lab \u00e4" / "Lab.tsy", "{}");
     application.changeFolder(forms::fromMachinePath(root));
   }
-  ~PathsTest() override { std::filesystem::remove_all(root); }
-
-  static std::filesystem::path uniqueFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "formsXXXXXX").string();
-    return mkdtemp(name.data());
-  }
-
-  std::filesystem::path root = uniqueFolder();
+  TemporaryFolder folder;
+  std::filesystem::path root = folder.path();
 };
 
 TEST_F(PathsTest, BecomeTheMachines) {
@@ -46,50 +36,27 @@ TEST_F(PathsTest, CurrentFolderIsTheApplicationsOwn) {
   EXPECT_EQ(application.currentFolder(), before + "\\Lab \u00e4");
   EXPECT_TRUE(application.findsFile("Lab.tsy"));
   EXPECT_EQ(std::filesystem::current_path(), machines);
-  try {
-    application.changeFolder("Panels\\missing");
-    ADD_FAILURE();
-  } catch (const forms::Error& error) {
-    EXPECT_EQ(error.number(), forms::errors::pathNotFound);
-  }
+  EXPECT_EQ(raisedBy([&] { application.changeFolder("Panels\\missing"); }).number(),
+            forms::errors::pathNotFound);
   EXPECT_EQ(application.currentFolder(), before + "\\Lab \u00e4");
   application.changeFolder("\\");
   EXPECT_EQ(application.currentFolder(), "\\");
 }
 
 TEST_F(PathsTest, FindsFilesAndFolders) {
-  struct Case {
-    const char* path;
-    bool file;
-    bool folder;
-  };
-  for (const Case& c : {Case{"Lab \u00e4\\Lab.tsy", true, false},
-                        {"Lab \u00e4\\*.tsy", true, false},
-                        {"Lab \u00e4\\L?b.*", true, false},
-                        {"Lab \u00e4\\*a*b*y", true, false},
-                        {"Lab \u00e4\\*.tsa", false, false},
-                        {"Lab \u00e4\\Lab?.tsy", false, false},
-                        {"Lab \u00e4\\Pan*", false, false},
-                        {"missing\\*", false, false},
-                        {"Lab \u00e4\\Panels", false, true},
-                        {"Lab \u00e4\\Panels\\", false, true},
-                        {"Lab \u00e4\\Lab.tsy\\x", false, false},
-                        {"", false, false}}) {
-    EXPECT_EQ(application.findsFile(c.path), c.file) << c.path;
-    EXPECT_EQ(application.findsFolder(c.path), c.folder) << c.path;
+  using Case = std::tuple<const char*, bool, bool>;  // whether it is a file, and a folder
+  for (const auto& [path, file, isFolder] :
+       {Case{"Lab \u00e4\\Lab.tsy", true, false}, Case{"Lab \u00e4\\*.tsy", true, false},
+        Case{"Lab \u00e4\\L?b.*", true, false}, Case{"Lab \u00e4\\*a*b*y", true, false},
+        Case{"Lab \u00e4\\*.tsa", false, false}, Case{"Lab \u00e4\\Lab?.tsy", false, false},
+        Case{"Lab \u00e4\\Pan*", false, false}, Case{"missing\\*", false, false},
+        Case{"Lab \u00e4\\Panels", false, true}, Case{"Lab \u00e4\\Panels\\", false, true},
+        Case{"Lab \u00e4\\Lab.tsy\\x", false, false}, Case{"", false, false}}) {
+    EXPECT_EQ(application.findsFile(path), file) << path;
+    EXPECT_EQ(application.findsFolder(path), isFolder) << path;
   }
   const std::string tooLong(5000, 'x');
   EXPECT_FALSE(application.findsFile(tooLong) || application.findsFolder(tooLong));
-}
-
-TEST_F(PathsTest, PictureFromAFile) {
-  EXPECT_EQ(application.loadPicture("Lab \u00e4\\Lab.tsy").file(), root / "Lab \u00e4" / "Lab.tsy");
-  try {
-    (void)application.loadPicture("Lab \u00e4\\None.bmp");
-    ADD_FAILURE();
-  } catch (const forms::Error& error) {
-    EXPECT_EQ(error.number(), forms::errors::fileNotFound);
-  }
 }
 
 }  // namespace

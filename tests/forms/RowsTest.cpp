@@ -90,22 +90,6 @@ TEST_F(RowsTest, NothingOverlapsOrIsCutOffInAnyFont) {
   }
 }
 
-TEST_F(RowsTest, PlacesAndSizes) {
-  Sheet sheet(8.25);
-  sheet.layOutIn({0, 0, 6900, 7000});
-  EXPECT_EQ(sheet.on.bounds().left, sheet.off.bounds().left) << "columns";
-  EXPECT_EQ(sheet.on.bounds().width, 600);
-  EXPECT_GT(sheet.description.bounds().height, sheet.onUnit.bounds().height) << "broken into lines";
-  EXPECT_GT(sheet.check.bounds().left, sheet.image.bounds().left) << "indented";
-  EXPECT_EQ(sheet.frame.bounds().width, 6900);
-  EXPECT_GE(sheet.right.bounds().left - sheet.left.bounds().right(), 600);
-  EXPECT_EQ(sheet.hint.bounds().top - sheet.left.bounds().bottom(),
-            sheet.left.bounds().top - sheet.frame.bounds().bottom())
-      << "a gap in a row is not high";
-  EXPECT_EQ(sheet.link.bounds().top, sheet.hint.bounds().top) << "in one place";
-  EXPECT_EQ(sheet.link.bounds().width, naturalSize(sheet.link).width);
-}
-
 TEST_F(RowsTest, HiddenControlsKeepTheirPlace) {
   Sheet shown(8.25);
   Sheet hidden(8.25);
@@ -113,22 +97,6 @@ TEST_F(RowsTest, HiddenControlsKeepTheirPlace) {
   hidden.description.setVisible(false);
   EXPECT_EQ(shown.layOutIn({0, 0, 6900, 7000}), hidden.layOutIn({0, 0, 6900, 7000}));
   EXPECT_EQ(shown.hint.bounds(), hidden.hint.bounds());
-}
-
-TEST_F(RowsTest, FixedMeasureWithoutAScreen) {
-  struct Case {
-    const char* text;
-    Twips width;
-    Size size;
-  };
-  for (const Case& c : {Case{"", 0, {0, 195}},
-                        {"four", 0, {360, 195}},
-                        {"one two three", 630, {630, 390}},
-                        {"one\r\ntwo  x", 0, {540, 390}},
-                        {"indivisible", 180, {990, 195}},
-                        {"\u00e4\u00f6", 0, {180, 195}}}) {
-    EXPECT_EQ(desktop.textSize(c.text, Font(), c.width), c.size) << c.text;
-  }
 }
 
 }  // namespace

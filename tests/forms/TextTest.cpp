@@ -11,17 +11,15 @@ namespace tests {
 namespace {
 
 TEST(NumbersTest, LeadingNumber) {
-  struct Case {
-    const char* text;
-    double number;
-  };
-  for (const Case& c :
-       {Case{"", 0},    {"abc", 0},    {"  12", 12}, {"-5", -5}, {"+7x", 7},     {"1.5", 1.5},
-        {"1.5.2", 1.5}, {".5", 0.5},   {"5.", 5},    {".", 0},   {"-", 0},       {"- 5", 0},
-        {"1,5", 1},     {"1e3", 1000}, {"1e", 1},    {"1e+", 1}, {"2E-1s", 0.2}, {"0x10", 0},
-        {"&H10", 0},    {"12 3", 12},  {"\t12", 0},  {"inf", 0}, {"nan", 0},     {"1e-999", 0},
-        {"90s", 90},    {"-0", 0}}) {
-    EXPECT_EQ(forms::leadingNumber(c.text), c.number) << '"' << c.text << '"';
+  using Case = std::pair<const char*, double>;
+  for (const auto& [text, number] :
+       {Case{"", 0},      Case{"abc", 0},     Case{"  12", 12}, Case{"-5", -5},    Case{"+7x", 7},
+        Case{"1.5", 1.5}, Case{"1.5.2", 1.5}, Case{".5", 0.5},  Case{"5.", 5},     Case{".", 0},
+        Case{"-", 0},     Case{"- 5", 0},     Case{"1,5", 1},   Case{"1e3", 1000}, Case{"1e", 1},
+        Case{"1e+", 1},   Case{"2E-1s", 0.2}, Case{"0x10", 0},  Case{"&H10", 0},   Case{"12 3", 12},
+        Case{"\t12", 0},  Case{"inf", 0},     Case{"nan", 0},   Case{"1e-999", 0}, Case{"90s", 90},
+        Case{"-0", 0}}) {
+    EXPECT_EQ(forms::leadingNumber(text), number) << '"' << text << '"';
   }
   EXPECT_FALSE(std::signbit(forms::leadingNumber("-0")));
   EXPECT_EQ(forms::leadingNumber("1e999"), std::numeric_limits<double>::max());
@@ -30,27 +28,15 @@ TEST(NumbersTest, LeadingNumber) {
 }
 
 TEST(NumbersTest, RoundedAndHeldInTheirTypes) {
-  struct Case {
-    double value;
-    std::int16_t held;
-    bool fits;
-  };
-  for (const Case& c : {Case{0.5, 0, true},
-                        {1.5, 2, true},
-                        {2.5, 2, true},
-                        {-0.5, 0, true},
-                        {-1.5, -2, true},
-                        {-2.5, -2, true},
-                        {2.4999, 2, true},
-                        {2.5001, 3, true},
-                        {32767.4, 32767, true},
-                        {32767.5, 32767, false},
-                        {-32768.5, -32768, true},
-                        {-32769, -32768, false},
-                        {1e300, 32767, false},
-                        {std::numeric_limits<double>::quiet_NaN(), 0, false}}) {
-    EXPECT_EQ(forms::toInt16(c.value), c.held) << c.value;
-    EXPECT_EQ(forms::fitsInt16(c.value), c.fits) << c.value;
+  using Case = std::tuple<double, std::int16_t, bool>;
+  for (const auto& [value, held, fits] :
+       {Case{0.5, 0, true}, Case{1.5, 2, true}, Case{2.5, 2, true}, Case{-0.5, 0, true},
+        Case{-1.5, -2, true}, Case{-2.5, -2, true}, Case{2.4999, 2, true}, Case{2.5001, 3, true},
+        Case{32767.4, 32767, true}, Case{32767.5, 32767, false}, Case{-32768.5, -32768, true},
+        Case{-32769, -32768, false}, Case{1e300, 32767, false},
+        Case{std::numeric_limits<double>::quiet_NaN(), 0, false}}) {
+    EXPECT_EQ(forms::toInt16(value), held) << value;
+    EXPECT_EQ(forms::fitsInt16(value), fits) << value;
   }
   EXPECT_EQ(forms::toInt32(1e300), 2147483647);
   EXPECT_EQ(forms::toInt32(-2147483649.0), std::numeric_limits<std::int32_t>::min());
@@ -84,37 +70,26 @@ TEST(TextTest, CountsCodePoints) {
 }
 
 TEST(TextTest, BytesThatAreNoUtf8CountAsOneEach) {
-  struct Case {
-    const char* what;
-    const char* text;
-    std::int32_t length;
-  };
-  for (const Case& c : {Case{"stray continuation", "a\x80z", 3},
-                        {"overlong", "\xC0\xAF", 2},
-                        {"surrogate", "\xED\xA0\x80", 3},
-                        {"above the last", "\xF4\x90\x80\x80", 4},
-                        {"cut off", "\xE2\x82", 2},
-                        {"broken off by a letter", "\xE2\x82z", 3}}) {
-    EXPECT_EQ(forms::length(c.text), c.length) << c.what;
-    EXPECT_EQ(forms::toCodePoints(c.text).find(char32_t{0xFFFD}) != std::u32string::npos, true)
-        << c.what;
+  using Case = std::tuple<const char*, const char*, std::int32_t>;
+  for (const auto& [what, text, length] :
+       {Case{"stray continuation", "a\x80z", 3}, Case{"overlong", "\xC0\xAF", 2},
+        Case{"surrogate", "\xED\xA0\x80", 3}, Case{"above the last", "\xF4\x90\x80\x80", 4},
+        Case{"cut off", "\xE2\x82", 2}, Case{"broken off by a letter", "\xE2\x82z", 3}}) {
+    EXPECT_EQ(forms::length(text), length) << what;
+    EXPECT_NE(forms::toCodePoints(text).find(char32_t{0xFFFD}), std::u32string::npos) << what;
   }
 }
 
 TEST(TextTest, Case) {
-  struct Case {
-    const char* upper;
-    const char* lower;
-  };
-  for (const Case& c : {Case{"POWER [1]", "power [1]"},
-                        {"\u00c4\u00d8\u0178", "\u00e4\u00f8\u00ff"},
-                        {"\u0141\u010c\u017d", "\u0142\u010d\u017e"},
-                        {"\u0391\u03a9\u038c", "\u03b1\u03c9\u03cc"},
-                        {"\u0416\u0401", "\u0436\u0451"},
-                        {"\u00d7\u00f7\u00df", "\u00d7\u00f7\u00df"}}) {
-    EXPECT_EQ(forms::lowerCase(c.upper), c.lower);
-    EXPECT_EQ(forms::upperCase(c.lower), c.upper);
-    EXPECT_TRUE(forms::equalsIgnoringCase(c.upper, c.lower));
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [upper, lower] :
+       {Case{"POWER [1]", "power [1]"}, Case{"\u00c4\u00d8\u0178", "\u00e4\u00f8\u00ff"},
+        Case{"\u0141\u010c\u017d", "\u0142\u010d\u017e"},
+        Case{"\u0391\u03a9\u038c", "\u03b1\u03c9\u03cc"}, Case{"\u0416\u0401", "\u0436\u0451"},
+        Case{"\u00d7\u00f7\u00df", "\u00d7\u00f7\u00df"}}) {
+    EXPECT_EQ(forms::lowerCase(upper), lower);
+    EXPECT_EQ(forms::upperCase(lower), upper);
+    EXPECT_TRUE(forms::equalsIgnoringCase(upper, lower));
   }
   EXPECT_LT(forms::compareIgnoringCase("alpha", "Beta"), 0);
   EXPECT_GT(forms::compareIgnoringCase("B", "a"), 0);

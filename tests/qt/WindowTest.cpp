@@ -3,8 +3,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
-#include <filesystem>
-#include <fstream>
 
 #include "forms/CommandButton.h"
 #include "forms/Components.h"
@@ -13,6 +11,7 @@
 #include "forms/TextBox.h"
 #include "forms/UserControl.h"
 #include "tests/qt/Screen.h"
+#include "tests/support/Files.h"
 
 namespace tests {
 namespace {
@@ -117,22 +116,16 @@ TEST_F(WindowTest, SizesGoBothWays) {
 }
 
 TEST_F(WindowTest, MessagesAreAnsweredByTheirButtonsAndByEscapeWhereItMayAnswer) {
-  struct Case {
-    forms::Buttons buttons;
-    Qt::Key key;
-    forms::Answer answer;
-  };
-  const Case cases[] = {
-      {forms::Buttons::ok, Qt::Key_Escape, forms::Answer::ok},
-      {forms::Buttons::okCancel, Qt::Key_Escape, forms::Answer::cancel},
-      {forms::Buttons::okCancel, Qt::Key_Return, forms::Answer::ok},
-      {forms::Buttons::yesNoCancel, Qt::Key_Escape, forms::Answer::cancel},
-      {forms::Buttons::yesNo, Qt::Key_Return, forms::Answer::yes},
-  };
+  using Case = std::tuple<forms::Buttons, Qt::Key, forms::Answer>;
   show(form, [&] {
-    for (const Case& one : cases) {
-      whenBoxOpens([&](QMessageBox& box) { QTest::keyClick(box.defaultButton(), one.key); });
-      EXPECT_EQ(application.messageBox("Text", one.buttons), one.answer);
+    for (const auto& [buttons, pressed, answer] :
+         {Case{forms::Buttons::ok, Qt::Key_Escape, forms::Answer::ok},
+          Case{forms::Buttons::okCancel, Qt::Key_Return, forms::Answer::ok},
+          Case{forms::Buttons::yesNoCancel, Qt::Key_Escape, forms::Answer::cancel},
+          Case{forms::Buttons::yesNo, Qt::Key_Return, forms::Answer::yes}}) {
+      whenBoxOpens(
+          [end = pressed](QMessageBox& box) { QTest::keyClick(box.defaultButton(), end); });
+      EXPECT_EQ(application.messageBox("Text", buttons), answer);
     }
     whenBoxOpens([&](QMessageBox& box) {
       EXPECT_EQ(box.windowTitle(), "Program");
@@ -145,20 +138,6 @@ TEST_F(WindowTest, MessagesAreAnsweredByTheirButtonsAndByEscapeWhereItMayAnswer)
     });
     EXPECT_EQ(application.messageBox("<b>one</b>\r\n\r\ntwo", forms::Buttons::yesNo),
               forms::Answer::no);
-  });
-}
-
-TEST_F(WindowTest, AnErrorThatLeavesAHandlerIsAMessage) {
-  form.button.click.connect([] { throw forms::Error(5, "No such device."); });
-  show(form, [&] {
-    QString text;
-    whenBoxOpens([&](QMessageBox& box) {
-      text = box.text();
-      box.accept();
-    });
-    click(form.button);
-    EXPECT_EQ(text, "No such device.");
-    EXPECT_TRUE(form.isVisible());
   });
 }
 
@@ -185,9 +164,11 @@ TEST_F(WindowTest, ControlsComeGoAndMoveWhileTheFormIsShown) {
   forms::unregister("test.Selector");
 }
 
-TEST_F(WindowTest, AClickMayEndWhatHadTheFocus) {
+TEST_F(WindowTest, AClickMayEndWhatHadTheFocusAndWhatAFrameHeldStays) {
   auto frame = std::make_unique<forms::Frame>(form, "short", "Short");
-  auto box = std::make_unique<forms::TextBox>(*frame, "inner");
+  auto box = std::make_unique<forms::TextBox>(*frame, "ended");
+  forms::TextBox inner(*frame, "inner");
+  inner.setBounds({2000, 1200, 1000, 315});
   frame->setBounds({2000, 2200, 2000, 900});
   box->setBounds({100, 300, 1000, 315});
   form.button.click.connect([&] {
@@ -201,21 +182,10 @@ TEST_F(WindowTest, AClickMayEndWhatHadTheFocus) {
     click(form.button);
     EXPECT_FALSE(isSeen("short"));
     EXPECT_EQ(focus(form), "button");
-  });
-}
-
-TEST_F(WindowTest, WhatAFrameHeldStaysWhenTheFrameGoes) {
-  auto frame = std::make_unique<forms::Frame>(form, "short", "Short");
-  forms::TextBox box(*frame, "inner");
-  box.setBounds({2000, 2200, 1000, 315});
-  show(form, [&] {
-    frame.reset();
-    settle();
-    EXPECT_TRUE(isSeen("inner"));
-    EXPECT_EQ(widget(box).parentWidget(), &window(form));
-    click(box);
+    EXPECT_EQ(widget(inner).parentWidget(), &window(form));
+    click(inner);
     type("x");
-    EXPECT_EQ(box.text(), "x");
+    EXPECT_EQ(inner.text(), "x");
   });
 }
 
@@ -235,37 +205,11 @@ TEST_F(WindowTest, ScreenReadersAreToldWhatIsWhat) {
   });
 }
 
-TEST_F(WindowTest, ATextHasRoomInTheSizeThatWasMeasuredForIt) {
-  const forms::Font font;
-  const std::string text = "The delay between the relay and the display, in seconds";
-  const forms::Size line = desktop().textSize(text, font, 0);
-  const forms::Size broken = desktop().textSize(text, font, line.width / 2);
-  EXPECT_LE(broken.width, line.width / 2 + 30);
-  EXPECT_GE(broken.height, 2 * line.height);
-  EXPECT_EQ(desktop().textSize(text, font, line.width), line);
-  EXPECT_EQ(desktop().textSize("one\r\ntwo", font, 0).height, 2 * line.height);
-  EXPECT_GT(desktop().textSize(text, {"Tahoma", 8.25, true, false}, 0).width, line.width);
-}
-
-TEST_F(WindowTest, AScreenshotIsOfTheFormAsItIsNow) {
-  const auto file = std::filesystem::temp_directory_path() / "screenshot-of-a-form.png";
-  EXPECT_FALSE(desktop().saveScreenshot(form, file));
-  show(form, [&] {
-    form.setBackColor(0x000000FF);
-    ASSERT_TRUE(desktop().saveScreenshot(form, file));
-    const QImage image(QString::fromStdString(file.string()));
-    EXPECT_EQ(image.size(), window(form).size());
-    EXPECT_EQ(image.pixelColor(image.width() - 1, image.height() - 1), QColor(255, 0, 0));
-  });
-  std::filesystem::remove(file);
-}
-
 TEST_F(WindowTest, F1ShowsTheTopicOfWhatHasTheFocus) {
-  const auto folder = std::filesystem::temp_directory_path() / "help-of-a-form";
-  std::filesystem::create_directories(folder / "help");
-  std::ofstream(folder / "help" / "12.md") << "# Names\n";
-  std::string helpFile = (folder / "program.hlp").string();
-  std::replace(helpFile.begin(), helpFile.end(), '/', '\\');
+  const TemporaryFolder folder;
+  std::filesystem::create_directories(folder.path() / "help");
+  writeFile(folder.path() / "help" / "12.md", "# Names\n");
+  const std::string helpFile = folder.inside("program.hlp");
   form.frame.setHelpContext(7);
   form.box.setHelpContext(12);
   show(form, [&] {
@@ -277,19 +221,6 @@ TEST_F(WindowTest, F1ShowsTheTopicOfWhatHasTheFocus) {
     EXPECT_EQ(std::count_if(windows.begin(), windows.end(), isHelp), 1);
     desktop().closeAllHelp();
   });
-  std::filesystem::remove_all(folder);
-}
-
-TEST_F(WindowTest, TheProgramsArgumentsOutliveTheCall) {
-  EXPECT_EQ(QCoreApplication::arguments(), QStringList{"test"});
-}
-
-TEST_F(WindowTest, TasksForLaterRunAfterWhatRunsNow) {
-  std::string journal;
-  desktop().runLater([&] { journal += "later "; });
-  journal += "now ";
-  desktop().processEvents();
-  EXPECT_EQ(journal, "now later ");
 }
 
 }  // namespace

@@ -2,40 +2,39 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <filesystem>
 #include <optional>
-#include <string>
-#include <string_view>
 #include <thread>
 
-#include "receiver/Address.h"
 #include "receiver/Client.h"
+#include "receiver/Digest.h"
 #include "receiver/Messages.h"
 #include "receiver/Network.h"
 #include "receiver/Server.h"
 #include "receiver/Transfer.h"
+#include "tests/support/Files.h"
 
 namespace tests {
 
 using namespace std::chrono_literals;
 
-/// A folder that goes with the object.
-class Folder {
- public:
-  Folder();
-  ~Folder();
-  std::filesystem::path path;
-};
+/// Listens on a free port of the loopback.
+inline receiver::Server::Options optionsFor(const TemporaryFolder& folder) {
+  return {.listen = {"127.0.0.1", 0}, .folder = folder.path()};
+}
 
 /// A receiver in a thread of this process.
 class Running {
  public:
-  explicit Running(const receiver::Server::Options& options);
-  ~Running();
+  explicit Running(const receiver::Server::Options& options)
+      : server_(std::in_place, options), thread_([this] { server_->run(); }) {}
+  ~Running() { stop(); }
   /// Ends it, waits, and gives its folder free.
-  void stop();
-
+  void stop() {
+    if (!thread_.joinable()) return;
+    server_->stop();
+    thread_.join();
+    server_.reset();
+  }
   receiver::Address address() const { return server_->address(); }
   const std::string& warning() const { return server_->warning(); }
 
@@ -44,25 +43,49 @@ class Running {
   std::thread thread_;
 };
 
-/// Listens on a free port of the loopback.
-receiver::Server::Options optionsFor(const Folder& folder);
-
 /// A connection that sends what it is told, byte for byte.
 class Wire {
  public:
-  explicit Wire(const receiver::Address& address);
+  explicit Wire(const receiver::Address& address) : socket_(context_) {
+    socket_.connect({asio::ip::make_address(address.host), address.port});
+  }
 
-  void send(std::string_view bytes);
-  void send(const receiver::Message& message);
+  void send(std::string_view bytes) {
+    // The other side may have closed already; what it answered is still to be read.
+    asio::error_code ignored;
+    asio::write(socket_, asio::buffer(bytes), ignored);
+  }
+  void send(const receiver::Message& message) { send(receiver::writeMessage(message).encode()); }
   /// The other side sees the end of what is sent.
-  void endSending();
-  /// The next answer; fails the test without one.
-  receiver::Message answer();
+  void endSending() { socket_.shutdown(asio::ip::tcp::socket::shutdown_send); }
+  /// The next answer; a connection that ends before it fails the test.
+  receiver::Message answer() {
+    std::string bytes(receiver::Frame::headerSize, '\0');
+    asio::read(socket_, asio::buffer(bytes));
+    const auto header = receiver::Frame::decodeHeader(bytes);
+    receiver::Frame frame{header.type, std::string(header.length, '\0')};
+    asio::read(socket_, asio::buffer(frame.payload));
+    return receiver::readMessage(frame);
+  }
   /// Sends and gives the answer.
-  receiver::Message ask(const receiver::Message& message);
+  receiver::Message ask(const receiver::Message& message) {
+    send(message);
+    return answer();
+  }
+  /// The reason of the refusal that is answered; empty for another answer.
+  std::string refusal() {
+    const receiver::Message message = answer();
+    const auto* refusal = std::get_if<receiver::Refusal>(&message);
+    return refusal ? refusal->reason : "";
+  }
   /// Whether the other side has closed, once it has.
-  bool isClosed();
-  void close();
+  bool isClosed() {
+    char byte = 0;
+    asio::error_code error;
+    asio::read(socket_, asio::buffer(&byte, 1), error);
+    return static_cast<bool>(error);
+  }
+  void close() { socket_.close(); }
 
  private:
   asio::io_context context_;
@@ -70,19 +93,45 @@ class Wire {
 };
 
 /// Names and bytes that depend on the number.
-receiver::Program givenProgram(int number, std::size_t size = 50000);
-receiver::AnnounceProgram announcementOf(const receiver::Program& program);
+inline receiver::Program givenProgram(int number, std::size_t size = 50000) {
+  receiver::Program program{"Room " + std::to_string(number), "", {}};
+  for (std::size_t i = 0; i < size; ++i) {
+    program.bytes.push_back(static_cast<char>((i * 7 + static_cast<std::size_t>(number)) % 251));
+  }
+  program.properties = {{"Volume Knob Control", std::to_string(number) + "d"},
+                        {"Mic Mode Control", "0d"}};
+  return program;
+}
+
+inline receiver::AnnounceProgram announcementOf(const receiver::Program& program) {
+  return {{program.name, program.bytes.size(), receiver::Digest::of(program.bytes)},
+          program.properties};
+}
 
 /// What the receiver holds; fails the test when it does not answer.
-receiver::Holdings holdingsOf(const receiver::Address& address);
+inline receiver::Holdings holdingsOf(const receiver::Address& address) {
+  receiver::Holdings holdings;
+  const receiver::Outcome outcome = receiver::query(address, holdings);
+  EXPECT_TRUE(outcome) << outcome.message;
+  return holdings;
+}
+
 /// Whether it holds exactly this program.
-bool holds(const receiver::Address& address, const receiver::Program& program);
+inline bool holds(const receiver::Address& address, const receiver::Program& program) {
+  const receiver::Holdings holdings = holdingsOf(address);
+  const receiver::AnnounceProgram expected = announcementOf(program);
+  return holdings.program == expected.program && holdings.properties == expected.properties;
+}
 
 /// Sends to the end.
-receiver::Outcome sent(const receiver::Address& address, const receiver::Program& program,
-                       receiver::TimeLimits limits = {});
-
-/// The reason of a refusal; empty for another answer.
-std::string reasonOf(const receiver::Message& message);
+inline receiver::Outcome sent(const receiver::Address& address, const receiver::Program& program,
+                              receiver::TimeLimits limits = {}) {
+  receiver::Outcome end{receiver::Outcome::Kind::failed, "The end was not told."};
+  const auto note = [&](const receiver::Outcome& outcome) { end = outcome; };
+  receiver::Transfer transfer(address, program, {.progress = {}, .ended = note}, limits);
+  while (transfer.poll(50ms)) {
+  }
+  return end;
+}
 
 }  // namespace tests

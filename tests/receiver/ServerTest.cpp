@@ -1,6 +1,4 @@
 #include <atomic>
-#include <thread>
-#include <vector>
 
 #include "tests/receiver/Running.h"
 
@@ -15,13 +13,13 @@ class ServerTest : public testing::Test {
   std::string refusalOf(std::string_view bytes) {
     Wire wire(running.address());
     wire.send(bytes);
-    const std::string reason = reasonOf(wire.answer());
+    const std::string reason = wire.refusal();
     wire.endSending();
     EXPECT_TRUE(wire.isClosed());
     return reason;
   }
 
-  Folder folder;
+  TemporaryFolder folder;
   Running running{optionsFor(folder)};
   receiver::Program program = givenProgram(1);
 };
@@ -29,20 +27,13 @@ class ServerTest : public testing::Test {
 TEST_F(ServerTest, BadFrameIsRefusedWithItsReason) {
   ASSERT_TRUE(sent(running.address(), program));
   const std::string good = receiver::writeMessage(receiver::Query()).encode();
-  struct Case {
-    const char* expected;
-    std::size_t place;
-    char byte;
-  };
-  for (const Case& c : {Case{"not a frame", 0, 'X'},
-                        {"version 2", 4, 2},
-                        {"unknown type 99", 5, 99},
-                        {"comes from a receiver", 5, 64},
-                        {"reserved", 6, 1},
-                        {"too long", 9, 2}}) {
+  using Case = std::tuple<const char*, std::size_t, char>;
+  for (const auto& [expected, place, byte] :
+       {Case{"not a frame", 0, 'X'}, Case{"version 2", 4, 2}, Case{"unknown type 99", 5, 99},
+        Case{"comes from a receiver", 5, 64}, Case{"reserved", 6, 1}, Case{"too long", 9, 2}}) {
     std::string bytes = good;
-    bytes[c.place] = c.byte;
-    EXPECT_NE(refusalOf(bytes).find(c.expected), std::string::npos) << c.expected;
+    bytes[place] = byte;
+    EXPECT_NE(refusalOf(bytes).find(expected), std::string::npos) << expected;
   }
   // More than the receiver is going to read: the reason must arrive all the same.
   std::string flood = good;
@@ -60,7 +51,7 @@ TEST_F(ServerTest, FrameThatIsCutShortIsRefused) {
     Wire wire(running.address());
     wire.send(std::string_view(bytes).substr(0, length));
     wire.endSending();
-    EXPECT_NE(reasonOf(wire.answer()).find("middle of a frame"), std::string::npos) << length;
+    EXPECT_NE(wire.refusal().find("middle of a frame"), std::string::npos) << length;
   }
   EXPECT_FALSE(holdingsOf(running.address()).passwordSet);
 }
@@ -70,20 +61,18 @@ TEST_F(ServerTest, WrongTransferIsRefused) {
   const receiver::Chunk whole{program.bytes};
   receiver::Chunk changed = whole;
   changed.bytes[777] = '!';
-  struct Case {
-    const char* expected;
-    std::vector<Message> messages;
-  };
-  for (const Case& c : {Case{"before its description", {whole}},
-                        {"no program to be stored", {receiver::Commit()}},
-                        {"still being sent", {announced, announced}},
-                        {"More bytes", {announced, whole, receiver::Chunk{"x"}}},
-                        {"not complete", {announced, receiver::Commit()}},
-                        {"hash", {announced, changed, receiver::Commit()}}}) {
+  using Case = std::pair<const char*, std::vector<Message>>;
+  for (const auto& [expected, messages] :
+       {Case{"before its description", {whole}},
+        Case{"no program to be stored", {receiver::Commit()}},
+        Case{"still being sent", {announced, announced}},
+        Case{"More bytes", {announced, whole, receiver::Chunk{"x"}}},
+        Case{"not complete", {announced, receiver::Commit()}},
+        Case{"hash", {announced, changed, receiver::Commit()}}}) {
     Wire wire(running.address());
-    Message answer;
-    for (const Message& message : c.messages) answer = wire.ask(message);
-    EXPECT_NE(reasonOf(answer).find(c.expected), std::string::npos) << c.expected;
+    for (std::size_t i = 0; i + 1 < messages.size(); ++i) wire.ask(messages[i]);
+    wire.send(messages.back());
+    EXPECT_NE(wire.refusal().find(expected), std::string::npos) << expected;
   }
   EXPECT_EQ(holdingsOf(running.address()), receiver::Holdings());
 }
@@ -106,10 +95,6 @@ TEST_F(ServerTest, ConnectionsDoNotWaitForEachOther) {
   }
   for (auto& sender : senders) sender.join();
   EXPECT_EQ(arrived, 4);
-  bool one = false;
-  for (int i = 0; i < 4; ++i) one |= holds(running.address(), givenProgram(10 + i, 200000));
-  EXPECT_TRUE(one);
-
   EXPECT_EQ(hashing.answer(), Message(receiver::Accepted()));
   halfProgram.ask(receiver::Chunk{program.bytes});
   EXPECT_EQ(halfProgram.ask(receiver::Commit()), Message(receiver::Accepted()));
@@ -118,7 +103,7 @@ TEST_F(ServerTest, ConnectionsDoNotWaitForEachOther) {
 }
 
 TEST_F(ServerTest, SilentConnectionIsClosedAndOneTooManyRefused) {
-  Folder other;
+  TemporaryFolder other;
   auto options = optionsFor(other);
   options.frameTime = 200ms;
   options.connections = 2;
@@ -127,9 +112,9 @@ TEST_F(ServerTest, SilentConnectionIsClosedAndOneTooManyRefused) {
   Wire slow(impatient.address());
   slow.send("OL");
   Wire third(impatient.address());
-  EXPECT_NE(reasonOf(third.answer()).find("too many"), std::string::npos);
+  EXPECT_NE(third.refusal().find("too many"), std::string::npos);
   for (Wire* wire : {&silent, &slow}) {
-    EXPECT_NE(reasonOf(wire->answer()).find("Nothing came"), std::string::npos);
+    EXPECT_NE(wire->refusal().find("Nothing came"), std::string::npos);
     wire->close();
   }
 }
@@ -144,8 +129,8 @@ TEST_F(ServerTest, PasswordIsSetCheckedAndCleared) {
   EXPECT_FALSE(receiver::setPassword(address, std::string(200, 'x')));
   EXPECT_FALSE(receiver::setPassword(address, "line\nfeed"));
   Wire wire(address);
-  EXPECT_NE(reasonOf(wire.ask(receiver::SetPassword{"admin", "x"})).find("user"),
-            std::string::npos);
+  wire.send(receiver::SetPassword{"admin", "x"});
+  EXPECT_NE(wire.refusal().find("user"), std::string::npos);
 
   running.stop();
   Running again(optionsFor(folder));
@@ -162,9 +147,6 @@ TEST_F(ServerTest, PropertiesOfTheProgramAreChanged) {
   EXPECT_FALSE(receiver::setProperties(address, {{"Mic Mode Control", "1d"}, {"Bass", "1d"}}));
   program.properties["Volume Knob Control"] = "5d";
   EXPECT_TRUE(holds(address, program));
-  running.stop();
-  Running again(optionsFor(folder));
-  EXPECT_TRUE(holds(again.address(), program));
 }
 
 }  // namespace

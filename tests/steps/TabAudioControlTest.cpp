@@ -1,55 +1,46 @@
-#include <gtest/gtest.h>
-
-#include "forms/CheckBox.h"
-#include "forms/OptionButton.h"
-#include "tests/wizard/Wizard.h"
+#include "tests/steps/StepTest.h"
 
 namespace {
 
-using tests::Wizard;
+class TabAudioControlTest : public tests::StepTest {
+ protected:
+  TabAudioControlTest() : StepTest("Audio Control") {}
 
-/// Volume, microphone and muting as digits.
-std::string shown(const Wizard& wizard) {
-  const auto chosen = [&](const char* name) {
-    return std::to_string(static_cast<int>(wizard.control<forms::OptionButton>(name).isChosen()));
-  };
-  return chosen("optVolumeKnob(1)") + chosen("optMicrophone(1)") +
-         std::to_string(wizard.control<forms::CheckBox>("chkMuteOnDigInp3").value());
-}
+  /// Volume, microphone and muting as digits.
+  std::string shown() {
+    return std::to_string(isChosen("optVolumeKnob(1)")) +
+           std::to_string(isChosen("optMicrophone(1)")) +
+           std::to_string(isChecked("chkMuteOnDigInp3"));
+  }
+  std::string stored() {
+    return std::to_string(addIn->get_VolumeKnobControl()) +
+           std::to_string(addIn->get_MicModeControl()) +
+           std::to_string(addIn->get_bMuteOnDigInp3());
+  }
+};
 
-std::string stored(const Wizard& wizard) {
-  return std::to_string(static_cast<int>(wizard.addIn->get_VolumeKnobControl())) +
-         std::to_string(static_cast<int>(wizard.addIn->get_MicModeControl())) +
-         std::to_string(wizard.addIn->get_bMuteOnDigInp3());
-}
-
-TEST(TabAudioControlTest, EachClickStoresItsOwnAnswerAndFillingStoresNone) {
-  struct Case {
-    const char* control;
-    const char* after;
-  };
-  Wizard wizard;
-  wizard.run([&] {
-    wizard.goTo("Audio Control");
-    EXPECT_EQ(shown(wizard), "000");
-    EXPECT_TRUE(wizard.control<forms::OptionButton>("optMicrophone(0)").isChosen());
+TEST_F(TabAudioControlTest, EachClickStoresItsOwnAnswerAndFillingStoresNone) {
+  using Case = std::pair<const char*, const char*>;
+  onStep([&] {
+    EXPECT_EQ(shown(), "000");
+    EXPECT_TRUE(isChosen("optMicrophone(0)"));
     for (const auto& [control, after] :
          {Case{"optVolumeKnob(1)", "100"}, Case{"optMicrophone(1)", "110"},
           Case{"chkMuteOnDigInp3", "111"}, Case{"optVolumeKnob(0)", "011"},
           Case{"optMicrophone(0)", "001"}, Case{"chkMuteOnDigInp3", "000"}}) {
-      wizard.document().MarkUnchanged();
-      wizard.click(control);
-      EXPECT_EQ(stored(wizard), after) << control;
-      EXPECT_EQ(shown(wizard), after) << control;
-      EXPECT_TRUE(wizard.document().get_Modified()) << control;
+      document().MarkUnchanged();
+      click(control);
+      EXPECT_EQ(stored(), after) << control;
+      EXPECT_EQ(shown(), after) << control;
+      EXPECT_TRUE(isModified()) << control;
     }
-    wizard.addIn->put_VolumeKnobControl(true);
-    wizard.addIn->put_MicModeControl(true);
-    wizard.addIn->put_bMuteOnDigInp3(1);
-    wizard.document().MarkUnchanged();
-    wizard.step("Audio Control").call("SetData");
-    EXPECT_EQ(shown(wizard), "111");
-    EXPECT_FALSE(wizard.document().get_Modified());
+    addIn->put_VolumeKnobControl(true);
+    addIn->put_MicModeControl(true);
+    addIn->put_bMuteOnDigInp3(1);
+    document().MarkUnchanged();
+    fill();
+    EXPECT_EQ(shown(), "111");
+    EXPECT_FALSE(isModified());
   });
 }
 

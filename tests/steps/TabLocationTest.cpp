@@ -1,152 +1,110 @@
-#include <gtest/gtest.h>
-
-#include <fstream>
-
-#include "forms/Paths.h"
-#include "forms/TextBox.h"
-#include "tests/wizard/Wizard.h"
+#include "tests/steps/StepTest.h"
 
 namespace {
 
 using forms::Icon;
 using forms::TextBox;
-using tests::Wizard;
 
-constexpr const char* digitMessage = "Names cannot begin with digits 0-9.";
-
-class TabLocationTest : public testing::Test {
+class TabLocationTest : public tests::StepTest {
  protected:
-  void run(const std::function<void()>& script) {
-    wizard.run([&] {
-      wizard.goTo("Name and Location");
-      script();
-    });
-  }
+  TabLocationTest() : StepTest("Name and Location") {}
 
-  TextBox& name() { return wizard.control<TextBox>("txtSystemName"); }
-  std::string location() { return wizard.text("txtLocation"); }
+  TextBox& name() { return control<TextBox>("txtSystemName"); }
+  std::string location() { return text("txtLocation"); }
   std::string folder(const std::string& system) {
-    return forms::fromMachinePath(wizard.systemsFolder()) + "\\" + system;
+    return forms::fromMachinePath(systemsFolder()) + "\\" + system;
   }
-  void expectNameMessage(const std::string& text) {
-    wizard.desktop.expectMessage("Orlena", text, forms::Buttons::ok, Icon::information);
-  }
-  int callsOf(const std::string& operation) {
-    int count = 0;
-    for (const auto& call : wizard.host->journal().calls()) {
-      if (call.starts_with(operation)) ++count;
-    }
-    return count;
-  }
-
-  Wizard wizard;
+  void expectNameMessage(const std::string& text) { expectMessage(text, Icon::information); }
 };
 
 TEST_F(TabLocationTest, FolderFollowsTheName) {
-  run([&] {
+  onStep([&] {
     EXPECT_EQ(location(), folder("My Orlena System"));
-    wizard.enter("txtSystemName", "Board Room ");
+    enter("txtSystemName", "Board Room ");
     EXPECT_EQ(location(), folder("Board Room\\"));
-    EXPECT_EQ(wizard.control("txtLocation").toolTip(), folder(""));
-    EXPECT_TRUE(wizard.document().get_Modified());
-    wizard.clickInWindow("cmdSave");
-    EXPECT_TRUE(std::filesystem::exists(wizard.systemFile("Board Room")));
-    EXPECT_EQ(wizard.document().get_Name(), "Board Room");
-    EXPECT_EQ(wizard.document().get_Path(), folder("Board Room\\"));
+    EXPECT_EQ(control("txtLocation").toolTip(), folder(""));
+    EXPECT_TRUE(isModified());
+    clickInWindow("cmdSave");
+    EXPECT_TRUE(std::filesystem::exists(systemFile("Board Room")));
+    EXPECT_EQ(document().get_Name(), "Board Room");
+    EXPECT_EQ(document().get_Path(), folder("Board Room\\"));
     EXPECT_EQ(name().text(), "Board Room ");
   });
 }
 
 TEST_F(TabLocationTest, RefusedNameComesBackWithItsCaret) {
-  run([&] {
-    wizard.enter("txtSystemName", "");
-    expectNameMessage(digitMessage);
-    wizard.user.type(name(), "1");
+  const std::string illegal =
+      "Names can not contain the characters ;:,'\\/*?\"<>|[] or any extended ASCII characters.";
+  onStep([&] {
+    enter("txtSystemName", "");
+    expectNameMessage("Names cannot begin with digits 0-9.");
+    user.type(name(), "1");
     EXPECT_EQ(name().text(), "");
 
-    wizard.user.type(name(), "Rom");
+    user.type(name(), "Rom");
     name().select(2, 0);
-    expectNameMessage(
-        "Names can not contain the characters ;:,'\\/*?\"<>|[] or any extended ASCII characters.");
-    wizard.user.type(name(), "*");
+    expectNameMessage(illegal);
+    user.type(name(), "*");
     EXPECT_EQ(name().text(), "Rom");
     EXPECT_EQ(name().selectionStart(), 2);
-    wizard.user.type(name(), "\\o");
+    user.type(name(), "\\o");
     EXPECT_EQ(name().text(), "Room");
 
-    expectNameMessage(
-        "Names can not contain the characters ;:,'\\/*?\"<>|[] or any extended ASCII characters.");
-    wizard.enter("txtSystemName", "a\\b");
+    expectNameMessage(illegal);
+    enter("txtSystemName", "a\\b");
     EXPECT_EQ(name().text(), "Room");
     EXPECT_EQ(location(), folder("Room\\"));
   });
 }
 
-TEST_F(TabLocationTest, LongestNameIsFiftyCharacters) {
-  run([&] {
-    wizard.enter("txtSystemName", std::string(60, 'n'));
-    EXPECT_EQ(name().text(), std::string(50, 'n'));
-  });
-}
-
 TEST_F(TabLocationTest, EmptyNameKeepsTheParentFolderAndAsksForAName) {
-  run([&] {
+  onStep([&] {
     for (int i = 0; i < 3; ++i) {
-      wizard.enter("txtSystemName", "");
+      enter("txtSystemName", "");
       EXPECT_EQ(location(), folder("\\"));
-      wizard.user.type(name(), "a");
+      user.type(name(), "a");
       EXPECT_EQ(location(), folder("a\\"));
     }
-    wizard.enter("txtSystemName", "");
+    enter("txtSystemName", "");
     expectNameMessage("Please enter a system name to continue.");
-    wizard.desktop.expectMessageWith(Icon::exclamation, "");
-    wizard.clickInWindow("cmdNext");
-    EXPECT_EQ(wizard.currentStep(), "Name and Location");
+    desktop.expectMessageWith(Icon::exclamation, "");
+    next();
+    EXPECT_EQ(currentStep(), "Name and Location");
     EXPECT_TRUE(name().hasFocus());
-    wizard.user.type(name(), "Room");
+    user.type(name(), "Room");
   });
 }
 
 TEST_F(TabLocationTest, AcceptedFolderIsNotAskedForAgain) {
-  run([&] {
-    wizard.enter("txtSystemName", "Room");
-    wizard.clickInWindow("cmdNext");
+  onStep([&] {
+    enter("txtSystemName", "Room");
+    leave();
     EXPECT_EQ(callsOf("CreateProjectFolder"), 1);
-    wizard.clickInWindow("cmdBack");
-    wizard.clickInWindow("cmdNext");
-    wizard.clickInWindow("cmdSave");
+    next();
+    clickInWindow("cmdSave");
     EXPECT_EQ(callsOf("CreateProjectFolder"), 1);
-    ASSERT_EQ(wizard.host->openSystems().size(), 1U);
-    EXPECT_EQ(wizard.host->openSystems().front().first, folder("Room\\"));
+    ASSERT_EQ(host->openSystems().size(), 1U);
+    EXPECT_EQ(host->openSystems().front().first, folder("Room\\"));
   });
 }
 
 TEST_F(TabLocationTest, BrowsedFolderTakesTheNameAndMovesTheRegistration) {
   const tests::TemporaryFolder elsewhere;
-  run([&] {
+  onStep([&] {
     const std::string parent = forms::fromMachinePath(elsewhere.path());
-    wizard.desktop.expectFolderDialog("Save your system in this folder:", "");
-    wizard.click("cmdBrowse");
+    desktop.expectFolderDialog("Save your system in this folder:", "");
+    click("cmdBrowse");
     EXPECT_EQ(location(), folder("My Orlena System"));
 
-    wizard.desktop.expectFolderDialog("Save your system in this folder:", parent);
-    wizard.click("cmdBrowse");
-    EXPECT_EQ(wizard.desktop.lastFolderDialog().initialFolder, folder("My Orlena System"));
+    desktop.expectFolderDialog("Save your system in this folder:", parent);
+    click("cmdBrowse");
+    EXPECT_EQ(desktop.lastFolderDialog().initialFolder, folder("My Orlena System"));
     EXPECT_EQ(location(), parent + "\\My Orlena System\\");
-    wizard.host->journal().clear();
-    wizard.clickInWindow("cmdNext");
+    host->journal().clear();
+    next();
     EXPECT_EQ(callsOf("CreateProjectFolder"), 0);
     EXPECT_EQ(callsOf("ResetApplicationStatus"), 1);
     EXPECT_EQ(callsOf("SetApplicationStatus"), 1);
-  });
-}
-
-TEST_F(TabLocationTest, TabStopsFollowTheStep) {
-  run([&] {
-    EXPECT_TRUE(name().tabStop());
-    TextBox& box = name();
-    wizard.clickInWindow("cmdNext");
-    EXPECT_FALSE(box.tabStop());
   });
 }
 

@@ -1,38 +1,22 @@
-#include <gtest/gtest.h>
+#include "tests/steps/StepTest.h"
 
-#include <filesystem>
-
-#include "forms/CheckBox.h"
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
-#include "forms/Paths.h"
-#include "host/Numbers.h"
-#include "host/iTab.h"
-#include "tests/wizard/Wizard.h"
 
 namespace {
 
-using forms::CheckBox;
-using forms::Icon;
 using forms::ListBox;
 using forms::ListView;
-using tests::Wizard;
 
-constexpr const char* stepName = "Orlena Transmitters";
 constexpr const char* tooLong = "Transmitter names cannot be greater than 8 characters.";
 constexpr const char* tooShort = "Transmitter names must be at least one character long.";
 
-class TabOriginationTest : public testing::Test {
+class TabOriginationTest : public tests::StepTest {
  protected:
-  void run(const std::function<void()>& script) {
-    wizard.run([&] {
-      wizard.goTo(stepName);
-      script();
-    });
-  }
+  TabOriginationTest() : StepTest("Orlena Transmitters") {}
 
-  ListBox& types() { return wizard.control<ListBox>("listDevices"); }
-  ListView& list() { return wizard.control<ListView>("lvwTransmitters"); }
+  ListBox& types() { return control<ListBox>("listDevices"); }
+  ListView& list() { return control<ListView>("lvwTransmitters"); }
   /// The first word of a type is its short name here.
   std::int32_t placeOf(const std::string& type) {
     for (std::int32_t i = 0; i < types().count(); ++i) {
@@ -41,16 +25,14 @@ class TabOriginationTest : public testing::Test {
     return -1;
   }
   void add(const std::string& type) {
-    wizard.user.select(types(), placeOf(type));
-    wizard.click("cmdAdd");
+    user.select(types(), placeOf(type));
+    click("cmdAdd");
   }
   void given(const std::vector<std::string>& rows) {
-    while (list().rowCount() > 0) wizard.click("cmdDelete");
+    while (list().rowCount() > 0) click("cmdDelete");
     for (const std::string& type : rows) add(type);
   }
-  void rename(std::int32_t row, const std::string& label) {
-    wizard.user.editLabel(list(), row, label);
-  }
+  void rename(std::int32_t row, const std::string& label) { user.editLabel(list(), row, label); }
   /// The rows as "label=type", in the order of their ports, which are checked.
   std::string rows() {
     std::string all;
@@ -61,61 +43,48 @@ class TabOriginationTest : public testing::Test {
     }
     return all;
   }
-  void leave() {
-    wizard.clickInWindow("cmdNext");
-    wizard.clickInWindow("cmdBack");
-  }
-  std::int16_t receiverModel() { return wizard.document().get_ControlSystem()->get_ModelID(); }
   std::int32_t receiverPart() {
-    const auto bill = wizard.document().get_Reports()->get_BillOfMaterials();
-    return bill->Item(wizard.document().get_ControlSystem()->get_DeviceHandle())
+    const auto bill = document().get_Reports()->get_BillOfMaterials();
+    return bill->Item(document().get_ControlSystem()->get_DeviceHandle())
         ->get_MainItem()
         .get_PartID();
   }
-  long callsOf(const std::string& operation) {
-    const auto& calls = wizard.host->journal().calls();
-    return std::count_if(calls.begin(), calls.end(),
-                         [&](const auto& call) { return call.starts_with(operation); });
-  }
-
-  Wizard wizard;
 };
 
 TEST_F(TabOriginationTest, AddingNumbersTheRowsUpToThree) {
-  run([&] {
-    EXPECT_EQ(types().text(0), "Floor Box Transmitter");
+  onStep([&] {
     EXPECT_EQ(types().selected(), 0);
-    for (const char* button : {"cmdRename", "cmdDelete", "cmdUp", "cmdDown"}) {
-      EXPECT_FALSE(wizard.control(button).isEnabled()) << button;
-    }
+    EXPECT_EQ(states({"cmdRename", "cmdDelete", "cmdUp", "cmdDown"}), "....");
     add("Wall");
     EXPECT_EQ(rows(), "Input=Wall");
-    EXPECT_TRUE(wizard.control("cmdDelete").isEnabled());
-    EXPECT_FALSE(wizard.control("cmdUp").isEnabled());
-    EXPECT_TRUE(wizard.document().get_Modified());
+    EXPECT_TRUE(isEnabled("cmdDelete") && !isEnabled("cmdUp") && isModified());
     add("Table");
     EXPECT_EQ(rows(), "Input 1=Wall, Input 2=Table");
-    wizard.user.doubleClick(types(), placeOf("Lectern"));
+    user.doubleClick(types(), placeOf("Lectern"));
     EXPECT_EQ(rows(), "Input 1=Wall, Input 2=Table, Input 3=Lectern");
     EXPECT_EQ(list().selectedRow(), 2);
-    EXPECT_FALSE(wizard.control("cmdAdd").isEnabled());
-    wizard.user.doubleClick(types(), placeOf("Lectern"));
+    EXPECT_FALSE(isEnabled("cmdAdd"));
+    user.doubleClick(types(), placeOf("Lectern"));
     EXPECT_EQ(list().rowCount(), 3);
 
     given({"Wall"});
     rename(0, "Podium");
     add("Wall");
     EXPECT_EQ(rows(), "Podium=Wall, Input 2=Wall");
+    EXPECT_FALSE(text("lblDescription").empty());
+    types().add("Withdrawn Transmitter");
+    add("Withdrawn");
+    EXPECT_EQ(text("lblDescription"), "No OL transmitter assigned to this input.");
+    EXPECT_FALSE(isVisible("img"));
+    EXPECT_EQ(list().rowCount(), 2);
   });
 }
 
 TEST_F(TabOriginationTest, DefaultLabelsStayWithTheirPortsAndOwnOnesGoWithTheirRows) {
   struct Case {
     std::vector<std::string> types;
-    std::int32_t renamed;  // -1: none
-    std::int32_t selected;
-    const char* button;
-    const char* rows;
+    std::int32_t renamed, selected;  // renamed -1: none
+    const char *button, *rows;
     std::int32_t selectedAfter;
   };
   const std::vector<std::string> two{"Wall", "Table"};
@@ -132,93 +101,89 @@ TEST_F(TabOriginationTest, DefaultLabelsStayWithTheirPortsAndOwnOnesGoWithTheirR
       {two, 0, 1, "cmdUp", "Input 1=Table, Own=Wall", 0},
       {three, 2, 2, "cmdUp", "Input 1=Wall, Own=Floor, Input 3=Table", 1},
   };
-  run([&] {
+  onStep([&] {
     for (const Case& it : cases) {
       given(it.types);
       if (it.renamed >= 0) rename(it.renamed, "Own");
-      wizard.user.select(list(), it.selected);
-      wizard.document().MarkUnchanged();
-      wizard.click(it.button);
+      user.select(list(), it.selected);
+      document().MarkUnchanged();
+      click(it.button);
       const auto what = std::string(it.button) + " " + std::to_string(it.selected);
       EXPECT_EQ(rows(), it.rows) << what;
       EXPECT_EQ(list().selectedRow(), it.selectedAfter) << what;
-      EXPECT_EQ(wizard.document().get_Modified(), std::string(it.button) == "cmdDelete") << what;
+      EXPECT_EQ(isModified(), std::string(it.button) == "cmdDelete") << what;
     }
     given({"Wall"});
-    wizard.click("cmdDelete");
-    EXPECT_FALSE(wizard.control("cmdDelete").isEnabled());
+    click("cmdDelete");
+    EXPECT_FALSE(isEnabled("cmdDelete"));
   });
 }
 
 TEST_F(TabOriginationTest, LabelIsTrimmedCutAndNeverEmpty) {
   struct Case {
-    const char* typed;
-    const char* label;
-    const char* message;
+    const char *typed, *label, *message;
   };
-  run([&] {
+  onStep([&] {
     given({"Wall"});
     for (const auto& [typed, label, message] :
          {Case{" Rostrum ", "Rostrum", nullptr}, Case{"12345678", "12345678", nullptr},
           Case{"123456789", "12345678", tooLong}, Case{"Stühle \u00fc", "Stühle \u00fc", nullptr},
           Case{"   ", "Stühle \u00fc", tooShort}, Case{"", "Stühle \u00fc", tooShort}}) {
-      if (message) {
-        wizard.desktop.expectMessage("Orlena", message, forms::Buttons::ok, Icon::information);
-      }
+      if (message) expectMessage(message, forms::Icon::information);
       rename(0, typed);
       EXPECT_EQ(list().text(0, 0), label) << typed;
     }
-    wizard.click("cmdRename");
+    click("cmdRename");
     EXPECT_TRUE(list().isEditing());
     EXPECT_TRUE(list().hasFocus());
-    wizard.user.labelText(list(), "Cart");
-    wizard.clickInWindow("cmdNext");
-    EXPECT_EQ(wizard.device("Wall Plate Transmitter OL1")->get_Label(), "Cart");
+    user.labelText(list(), "Cart");
+    next();
+    EXPECT_EQ(device("Wall Plate Transmitter OL1")->get_Label(), "Cart");
   });
 }
 
 TEST_F(TabOriginationTest, SystemFollowsTheListWhenTheStepIsLeft) {
-  run([&] {
+  onStep([&] {
     given({"Wall", "Table"});
-    EXPECT_FALSE(wizard.device("Wall Plate Transmitter OL1"));
+    EXPECT_FALSE(device("Wall Plate Transmitter OL1"));
     leave();
-    const std::int16_t wall = wizard.addIn->get_OriginationPointID(1);
-    EXPECT_EQ(wizard.device("Wall Plate Transmitter OL1")->get_ID(), wall);
-    EXPECT_EQ(wizard.device("Table Box Transmitter OL2")->get_Label(), "Input 2");
+    const std::int16_t wall = addIn->get_OriginationPointID(1);
+    EXPECT_EQ(device("Wall Plate Transmitter OL1")->get_ID(), wall);
+    EXPECT_EQ(device("Table Box Transmitter OL2")->get_Label(), "Input 2");
     rename(0, "Desk");
     leave();
-    EXPECT_EQ(wizard.addIn->get_OriginationPointID(1), wall);
-    EXPECT_EQ(wizard.device("Wall Plate Transmitter OL1")->get_Label(), "Desk");
+    EXPECT_EQ(addIn->get_OriginationPointID(1), wall);
+    EXPECT_EQ(device("Wall Plate Transmitter OL1")->get_Label(), "Desk");
 
-    wizard.click("cmdDown");
+    click("cmdDown");
     leave();
-    EXPECT_FALSE(wizard.device("Wall Plate Transmitter OL1"));
-    EXPECT_EQ(wizard.device("Wall Plate Transmitter OL2")->get_Label(), "Desk");
-    EXPECT_EQ(wizard.device("Table Box Transmitter OL1")->get_Label(), "Input 1");
-    wizard.document().MarkUnchanged();
-    wizard.step(stepName).call("SetData");
+    EXPECT_FALSE(device("Wall Plate Transmitter OL1"));
+    EXPECT_EQ(device("Wall Plate Transmitter OL2")->get_Label(), "Desk");
+    EXPECT_EQ(device("Table Box Transmitter OL1")->get_Label(), "Input 1");
+    document().MarkUnchanged();
+    fill();
     EXPECT_EQ(rows(), "Input 1=Table, Desk=Wall");
     EXPECT_EQ(list().selectedRow(), 0);
-    EXPECT_FALSE(wizard.document().get_Modified());
-    wizard.click("cmdDelete");
-    wizard.click("cmdDelete");
+    EXPECT_FALSE(isModified());
+    click("cmdDelete");
+    click("cmdDelete");
     leave();
     for (std::int16_t port = 1; port <= 3; ++port) {
-      EXPECT_EQ(wizard.addIn->get_OriginationPointID(port), 0);
+      EXPECT_EQ(addIn->get_OriginationPointID(port), 0);
     }
-    EXPECT_FALSE(wizard.device("Wall Plate Transmitter OL2"));
+    EXPECT_FALSE(device("Wall Plate Transmitter OL2"));
   });
 }
 
 TEST_F(TabOriginationTest, ReceiverFollowsTheNumberOfInputs) {
   const std::string one = "Receiver is OL-RX1/OL-RXV1/OL-RXV1-M";
   const std::string three = "Receiver is OL-RX3/OL-RXV3/OL-RXV3-M";
-  run([&] {
-    const auto expectReceiver = [&](const std::string& text, std::int16_t model) {
-      EXPECT_EQ(wizard.text("lblInfo"), text);
+  onStep([&] {
+    const auto expectReceiver = [&](const std::string& info, std::int16_t model) {
+      EXPECT_EQ(text("lblInfo"), info);
       leave();
-      EXPECT_EQ(receiverModel(), model);
-      const auto models = wizard.host->libraryManager()->get_Models();
+      EXPECT_EQ(document().get_ControlSystem()->get_ModelID(), model);
+      const auto models = host->libraryManager()->get_Models();
       EXPECT_EQ(receiverPart(), models->Item(0, model)->get_PartID());
     };
     given({"Wall"});
@@ -227,41 +192,22 @@ TEST_F(TabOriginationTest, ReceiverFollowsTheNumberOfInputs) {
     add("Wall");
     expectReceiver(three, host::modelReceiverThreeInputs);
     EXPECT_EQ(callsOf("ChangeControlSystem"), 1);
-    wizard.click("cmdDelete");
-    wizard.document().MarkUnchanged();
-    wizard.click("chkUse3OLReceiver");
-    EXPECT_TRUE(wizard.document().get_Modified());
+    click("cmdDelete");
+    document().MarkUnchanged();
+    click("chkUse3OLReceiver");
+    EXPECT_TRUE(isModified());
     expectReceiver(three, host::modelReceiverThreeInputs);
     EXPECT_EQ(callsOf("ChangeControlSystem"), 1);
-    EXPECT_EQ(wizard.addIn->get_bUse3OLReceiver(), 0);  // the save alone writes it
-    host::AsTab(wizard.step(stepName)).iTab_SaveData();
-    EXPECT_EQ(wizard.addIn->get_bUse3OLReceiver(), 1);
-    wizard.click("chkUse3OLReceiver");
+    EXPECT_EQ(addIn->get_bUse3OLReceiver(), 0);  // the save alone writes it
+    save();
+    EXPECT_EQ(addIn->get_bUse3OLReceiver(), 1);
+    click("chkUse3OLReceiver");
     expectReceiver(one, host::modelReceiverOneInput);
-    wizard.document().MarkUnchanged();
-    wizard.step(stepName).call("SetData");
-    EXPECT_TRUE(wizard.control<CheckBox>("chkUse3OLReceiver").isChecked());
-    EXPECT_EQ(wizard.text("lblInfo"), three);
-    EXPECT_FALSE(wizard.document().get_Modified());
-  });
-}
-
-TEST_F(TabOriginationTest, TypeShowsItsDescriptionAndThePictureThatIsThere) {
-  run([&] {
-    const auto folder = forms::toMachinePath(wizard.host->libraryManager()->get_PicturesFolder());
-    for (std::int32_t i = 0; i < types().count(); ++i) {
-      wizard.user.select(types(), i);
-      EXPECT_FALSE(wizard.text("lblDescription").empty());
-      EXPECT_EQ(wizard.control("img").isVisible(),
-                std::filesystem::exists(folder / (types().text(i) + ".bmp")))
-          << types().text(i);
-    }
-    types().add("Withdrawn Transmitter");
-    wizard.user.select(types(), types().count() - 1);
-    EXPECT_EQ(wizard.text("lblDescription"), "No OL transmitter assigned to this input.");
-    EXPECT_FALSE(wizard.control("img").isVisible());
-    wizard.click("cmdAdd");
-    EXPECT_EQ(list().rowCount(), 0);
+    document().MarkUnchanged();
+    fill();
+    EXPECT_TRUE(isChecked("chkUse3OLReceiver"));
+    EXPECT_EQ(text("lblInfo"), three);
+    EXPECT_FALSE(isModified());
   });
 }
 

@@ -1,62 +1,32 @@
-#include <gtest/gtest.h>
-
-#include "forms/CheckBox.h"
-#include "forms/OptionButton.h"
-#include "forms/TextBox.h"
-#include "host/iTab.h"
-#include "tests/wizard/Wizard.h"
+#include "tests/steps/StepTest.h"
 
 namespace {
 
-using forms::CheckBox;
-using forms::OptionButton;
-using forms::TextBox;
-using tests::Wizard;
-
-constexpr const char* stepName = "Power On/Off Lockout";
 constexpr const char* withControl = "Bravonne P2200";
-constexpr const char* withoutControl = "Talmerick Nocturne";
 
-class TabPowerOnOffLockoutTest : public testing::Test {
+class TabPowerOnOffLockoutTest : public tests::StepTest {
  protected:
-  void run(const std::string& display, const std::function<void()>& script) {
-    wizard.run([&] {
-      enterWith(display);
-      script();
-    });
-  }
-  void enterWith(const std::string& display) {
-    wizard.goTo("Display Device");
-    if (!display.empty()) wizard.chooseDisplay(display);
-    wizard.goTo(stepName);
-  }
-  void fill() { wizard.step(stepName).call("SetData"); }
-  bool isVisible(const char* name) { return wizard.control(name).isVisible(); }
-  bool isChosen(const char* name) { return wizard.control<OptionButton>(name).isChosen(); }
-  std::int16_t option() { return wizard.addIn->get_PowerContactClosureOption(); }
+  TabPowerOnOffLockoutTest() : StepTest("Power On/Off Lockout") {}
 
-  Wizard wizard;
+  std::int16_t option() { return addIn->get_PowerContactClosureOption(); }
 };
 
 TEST_F(TabPowerOnOffLockoutTest, AsksOnlyWhereThePowerIsControlled) {
-  run("", [&] {
-    const auto expectHint = [&](const std::string& text) {
-      EXPECT_TRUE(isVisible("frameInfo"));
-      EXPECT_FALSE(isVisible("frameDevice"));
-      EXPECT_FALSE(isVisible("fraContact"));
-      EXPECT_EQ(wizard.text("lblInfo"), text);
+  const std::vector<std::string> frames{"frameInfo", "frameDevice", "fraContact"};
+  onStep([&] {
+    const auto expectHint = [&](const std::string& hint) {
+      EXPECT_EQ(states(frames), "o--");
+      EXPECT_EQ(text("lblInfo"), hint);
     };
     expectHint(
         "Before configuring Power Lockout add a Display Device on the \"Display Device\" "
         "step.");
     for (const char* display : {withControl, "Quenlowe K32"}) {
       enterWith(display);
-      EXPECT_FALSE(isVisible("frameInfo")) << display;
-      EXPECT_TRUE(isVisible("frameDevice")) << display;
-      EXPECT_TRUE(isVisible("fraContact")) << display;
+      EXPECT_EQ(states(frames), "-oo") << display;
     }
-    wizard.click("chkContact");
-    enterWith(withoutControl);
+    click("chkContact");
+    enterWith("Talmerick Nocturne");
     expectHint(
         "Before configuring Power Lockout configure Power Control for the Display Device "
         "on the \"Power Control\" step.");
@@ -65,79 +35,62 @@ TEST_F(TabPowerOnOffLockoutTest, AsksOnlyWhereThePowerIsControlled) {
 }
 
 TEST_F(TabPowerOnOffLockoutTest, TimeIsReadByEveryWayOutOfItsBox) {
-  struct Case {
-    const char* typed;
-    const char* shown;
-  };
-  run(withControl, [&] {
-    EXPECT_EQ(wizard.text("txtPowerLockoutTime(1)"), "30");
-    EXPECT_EQ(wizard.text("txtPowerLockoutTime(2)"), "120");
-    for (const auto& [typed, shown] :
-         {Case{"-45", "45"}, Case{"2.5", "2"}, Case{"3.5", "4"}, Case{"x", "0"},
-          Case{"1234", "123"}, Case{"9e9", "32767"}, Case{"", "0"}}) {
-      wizard.enter("txtPowerLockoutTime(1)", typed);
-      wizard.user.press(forms::keys::enter);
-      EXPECT_EQ(wizard.text("txtPowerLockoutTime(1)"), shown) << typed;
-      EXPECT_EQ(std::to_string(wizard.addIn->get_PowerOnLockoutTime()), shown) << typed;
+  onStep(withControl, [&] {
+    EXPECT_EQ(text("txtPowerLockoutTime(1)"), "30");
+    EXPECT_EQ(text("txtPowerLockoutTime(2)"), "120");
+    using Case = std::pair<const char*, int>;
+    for (const auto& [typed, time] :
+         {Case{"-45", 45}, Case{"2.5", 2}, Case{"x", 0}, Case{"1234", 123}, Case{"9e9", 32767}}) {
+      hold("txtPowerLockoutTime(1)", typed);
+      EXPECT_EQ(text("txtPowerLockoutTime(1)"), std::to_string(time));
+      EXPECT_EQ(addIn->get_PowerOnLockoutTime(), time);
     }
-    wizard.enter("txtPowerLockoutTime(2)", "77");
-    wizard.user.moveFocus(wizard.control("txtPowerLockoutTime(1)"));
-    EXPECT_EQ(wizard.addIn->get_PowerOffLockoutTime(), 77);
-    wizard.enter("txtPowerLockoutTime(1)", "55");
-    host::AsTab(wizard.step(stepName)).iTab_SaveData();
-    EXPECT_EQ(wizard.addIn->get_PowerOnLockoutTime(), 55);
+    enter("txtPowerLockoutTime(2)", "77");
+    user.moveFocus(control("txtPowerLockoutTime(1)"));
+    EXPECT_EQ(addIn->get_PowerOffLockoutTime(), 77);
+    enter("txtPowerLockoutTime(1)", "55");
+    save();
+    EXPECT_EQ(addIn->get_PowerOnLockoutTime(), 55);
 
-    wizard.document().MarkUnchanged();
-    wizard.clickInWindow("cmdNext");
-    EXPECT_FALSE(wizard.document().get_Modified());
-    wizard.clickInWindow("cmdBack");
-    wizard.control<TextBox>("txtPowerLockoutTime(1)").setText("11");  // no focus moves
-    wizard.control<TextBox>("txtPowerLockoutTime(2)").setText("22");
-    wizard.clickInWindow("cmdNext");
-    EXPECT_EQ(wizard.addIn->get_PowerOnLockoutTime(), 11);
-    EXPECT_EQ(wizard.addIn->get_PowerOffLockoutTime(), 22);
-    EXPECT_TRUE(wizard.document().get_Modified());
+    document().MarkUnchanged();
+    leave();
+    EXPECT_FALSE(isModified());
+    control<forms::TextBox>("txtPowerLockoutTime(1)").setText("11");  // no focus moves
+    control<forms::TextBox>("txtPowerLockoutTime(2)").setText("22");
+    next();
+    EXPECT_EQ(addIn->get_PowerOnLockoutTime(), 11);
+    EXPECT_EQ(addIn->get_PowerOffLockoutTime(), 22);
+    EXPECT_TRUE(isModified());
   });
 }
 
-TEST_F(TabPowerOnOffLockoutTest, ContactOptionFollowsItsBoxAndButtons) {
-  run(withControl, [&] {
-    EXPECT_FALSE(wizard.control("optContact(0)").isEnabled());
-    wizard.document().MarkUnchanged();
-    wizard.click("chkContact");
+TEST_F(TabPowerOnOffLockoutTest, ContactOptionFollowsItsBoxAndButtonsAndFillingChangesNothing) {
+  const std::vector<std::string> contact{"chkContact", "optContact(0)", "optContact(1)"};
+  onStep(withControl, [&] {
+    EXPECT_EQ(states(contact), "o..");
+    document().MarkUnchanged();
+    click("chkContact");
     EXPECT_EQ(option(), addin::contactPowerOff);
-    EXPECT_TRUE(isChosen("optContact(0)"));
-    EXPECT_TRUE(wizard.document().get_Modified());
-    wizard.click("optContact(1)");
+    EXPECT_EQ(states(contact), "xxo");
+    EXPECT_TRUE(isModified());
+    click("optContact(1)");
     EXPECT_EQ(option(), addin::contactContinue);
-    wizard.click("chkContact");
+    click("chkContact");
     EXPECT_EQ(option(), addin::contactUnused);
-    EXPECT_FALSE(isChosen("optContact(0)"));
-    EXPECT_FALSE(isChosen("optContact(1)"));
-    wizard.click("chkContact");
-    EXPECT_EQ(option(), addin::contactPowerOff);
-  });
-}
+    EXPECT_EQ(states(contact), "o..");
 
-TEST_F(TabPowerOnOffLockoutTest, FillingTheStepShowsTheOptionAndChangesNothing) {
-  run(withControl, [&] {
-    for (const auto stored :
-         {addin::contactContinue, addin::contactPowerOff, addin::contactUnused}) {
-      wizard.addIn->put_PowerContactClosureOption(stored);
-      wizard.document().MarkUnchanged();
+    using Case = std::pair<std::int16_t, const char*>;
+    for (const auto& [stored, shown] :
+         {Case{addin::contactContinue, "xx"}, Case{addin::contactPowerOff, "xo"},
+          Case{addin::contactUnused, "o."},
+          Case{std::int16_t{7}, "xx"}}) {  // as a file that was edited by hand may say
+      addIn->put_PowerContactClosureOption(stored);
+      document().MarkUnchanged();
       fill();
-      const bool used = stored != addin::contactUnused;
-      EXPECT_EQ(wizard.control<CheckBox>("chkContact").isChecked(), used);
-      EXPECT_EQ(wizard.control("optContact(1)").isEnabled(), used);
-      EXPECT_EQ(isChosen("optContact(1)"), stored == addin::contactContinue);
+      EXPECT_EQ(states({"chkContact", "optContact(1)"}), shown) << stored;
       EXPECT_EQ(option(), stored);
-      EXPECT_FALSE(wizard.document().get_Modified());
+      EXPECT_FALSE(isModified());
     }
-    wizard.addIn->put_PowerContactClosureOption(7);  // as a file that was edited by hand may say
-    fill();
-    EXPECT_TRUE(isChosen("optContact(1)"));
-    wizard.click("chkContact");
-    EXPECT_EQ(option(), addin::contactUnused);
   });
 }
 

@@ -1,19 +1,8 @@
-#include <gtest/gtest.h>
-
-#include "forms/CheckBox.h"
-#include "forms/OptionButton.h"
-#include "forms/TextBox.h"
-#include "host/DeviceCommands.h"
-#include "host/Numbers.h"
-#include "tests/wizard/Wizard.h"
+#include "tests/steps/StepTest.h"
 
 namespace {
 
-using forms::Buttons;
-using forms::CheckBox;
 using forms::Icon;
-using forms::OptionButton;
-using tests::Wizard;
 
 constexpr const char* toggleWarning =
     "Generally the command \"Power\" toggles the power on and off.\r\n\r\n"
@@ -24,170 +13,122 @@ constexpr const char* identicalWarning =
     "devices.\r\n\r\n"
     "Please choose discrete power commands to continue or select another power control method.";
 
-class TabPowerTest : public testing::Test {
+class TabPowerTest : public tests::StepTest {
  protected:
-  void run(const std::string& display, const std::function<void()>& script) {
-    wizard.run([&] {
-      wizard.goTo("Display Device");
-      if (!display.empty()) wizard.chooseDisplay(display);
-      wizard.goTo("Power Control");
-      script();
-    });
-  }
+  TabPowerTest() : StepTest("Power Control") {}
 
-  std::shared_ptr<host::Device> display() { return wizard.device("Display Device"); }
-  bool isChosen(int mode) {
-    return wizard.control<OptionButton>("optPower(" + std::to_string(mode) + ")").isChosen();
-  }
+  std::shared_ptr<host::Device> display() { return device("Display Device"); }
+  bool isMode(int mode) { return isChosen("optPower(" + std::to_string(mode) + ")"); }
   std::string selected(int index) {
-    return wizard.control<host::DeviceCommands>("ctlCommands(" + std::to_string(index) + ")")
+    return control<host::DeviceCommands>("ctlCommands(" + std::to_string(index) + ")")
         .get_SelectedCommand();
   }
-  bool isEnabled(const std::string& name) { return wizard.control(name).isEnabled(); }
-  void expectWarning(const char* text) {
-    wizard.desktop.expectMessage("Orlena", text, Buttons::ok, Icon::information);
-  }
-
-  Wizard wizard;
+  void expectWarning(const char* text) { expectMessage(text, Icon::information); }
 };
 
-TEST_F(TabPowerTest, WithoutADeviceOnlyTheHintShows) {
-  run("", [&] {
-    EXPECT_FALSE(wizard.control("fraAll").isVisible());
-    EXPECT_TRUE(wizard.control("frameInfo").isVisible());
-    wizard.clickInWindow("cmdNext");
-    EXPECT_EQ(wizard.currentStep(), "Power On/Off Lockout");
-  });
-}
-
-TEST_F(TabPowerTest, DiscreteDisplayShowsItsCommands) {
-  run("Bravonne P2200", [&] {
-    EXPECT_TRUE(isChosen(host::powerDiscrete));
+TEST_F(TabPowerTest, ShowsTheHintOrTheCommandsAndASecondOffOnlyWhereThereIsOne) {
+  onStep([&] {
+    EXPECT_EQ(states({"fraAll", "frameInfo"}), "-o");
+    next();
+    EXPECT_EQ(currentStep(), "Power On/Off Lockout");
+    enterWith("Bravonne P2200");
     EXPECT_EQ(selected(1), "Power_On");
     EXPECT_EQ(selected(2), "Power_Off");
-    EXPECT_TRUE(wizard.control("chkSecondOff").isVisible());
-    EXPECT_TRUE(isEnabled("chkSecondOff"));
-    EXPECT_FALSE(isEnabled("txtSecondOff"));
-    EXPECT_FALSE(isEnabled("optPower(1)"));
+    EXPECT_EQ(states({"optPower(2)", "optPower(1)", "chkSecondOff", "txtSecondOff"}), "x.o.");
+    enterWith("Bravonne P3500 Wide");
+    EXPECT_EQ(states({"chkSecondOff", "ctlCommands(3)", "txtSecondOff", "lblSecondOff(0)"}),
+              "----");
+    EXPECT_FALSE(control("ctlCommands(3)").tabStop());
   });
 }
 
-TEST_F(TabPowerTest, ModeTheDeviceCannotOfferBecomesNone) {
-  run("Bravonne P900 Pocket", [&] {
-    EXPECT_TRUE(isChosen(host::powerSensing));
-    wizard.goTo("Display Device");
-    wizard.chooseDisplay("Talmerick Nocturne");
+TEST_F(TabPowerTest, ModeTheDeviceCannotOfferBecomesNoneAndLabelsWorkAsTheirButtons) {
+  onStep("Bravonne P900 Pocket", [&] {
+    EXPECT_TRUE(isMode(host::powerSensing));
+    goTo("Display Device");
+    chooseDisplay("Talmerick Nocturne");
     display()->put_PowerControlType(host::powerSensing);
-    wizard.document().MarkUnchanged();
-    wizard.goTo("Power Control");
-    EXPECT_TRUE(isChosen(host::powerNone));
+    document().MarkUnchanged();
+    enterWith("");
+    EXPECT_TRUE(isMode(host::powerNone));
     EXPECT_EQ(display()->get_PowerControlType(), host::powerNone);
-    EXPECT_TRUE(wizard.document().get_Modified());
-  });
-}
-
-TEST_F(TabPowerTest, LabelBesideAButtonWorksAsTheButton) {
-  run("Bravonne P2200", [&] {
-    wizard.click("lblPower(0)");
-    EXPECT_TRUE(isChosen(host::powerNone));
-    EXPECT_TRUE(wizard.control("optPower(0)").hasFocus());
+    EXPECT_TRUE(isModified());
+    enterWith("Bravonne P2200");
+    click("lblPower(0)");
+    EXPECT_TRUE(isMode(host::powerNone));
+    EXPECT_TRUE(control("optPower(0)").hasFocus());
     EXPECT_EQ(display()->get_PowerControlType(), host::powerNone);
-    wizard.click("lblPower(1)");
-    EXPECT_TRUE(isChosen(host::powerNone));
-  });
-}
-
-TEST_F(TabPowerTest, DeviceWithoutSecondOffNeverShowsIt) {
-  run("Bravonne P3500 Wide", [&] {
-    for (const char* name : {"chkSecondOff", "ctlCommands(3)", "txtSecondOff", "lblSecondOff(0)"}) {
-      EXPECT_FALSE(wizard.control(name).isVisible()) << name;
-    }
-    EXPECT_FALSE(wizard.control("ctlCommands(3)").tabStop());
+    click("lblPower(1)");
+    EXPECT_TRUE(isMode(host::powerNone));
   });
 }
 
 TEST_F(TabPowerTest, SecondOffStartsAsThePowerOffCommandAndStoresItsDelay) {
-  run("Bravonne P2200", [&] {
-    wizard.click("chkSecondOff");
+  onStep("Bravonne P2200", [&] {
+    click("chkSecondOff");
     EXPECT_EQ(selected(3), "Power_Off");
-    EXPECT_EQ(wizard.addIn->get_sSecondPowerOff(), "Power_Off");
-    EXPECT_EQ(wizard.addIn->get_bSecondPowerOff(), 1);
-    EXPECT_TRUE(wizard.control("txtSecondOff").hasFocus());
-    EXPECT_EQ(wizard.text("txtSecondOff"), "");
-    wizard.enter("txtSecondOff", "1.5");
-    wizard.user.press(forms::keys::enter);
-    EXPECT_EQ(wizard.addIn->get_iSecondPowerOff(), 2);
-    wizard.enter("txtSecondOff", "9e9");
-    wizard.clickInWindow("cmdNext");
-    EXPECT_EQ(wizard.addIn->get_iSecondPowerOff(), 32767);
-    wizard.clickInWindow("cmdBack");
-    wizard.enter("txtSecondOff", "");
-    wizard.clickInWindow("cmdNext");
-    EXPECT_EQ(wizard.addIn->get_iSecondPowerOff(), 0);
+    EXPECT_EQ(addIn->get_sSecondPowerOff(), "Power_Off");
+    EXPECT_EQ(addIn->get_bSecondPowerOff(), 1);
+    EXPECT_TRUE(control("txtSecondOff").hasFocus());
+    EXPECT_EQ(text("txtSecondOff"), "");
+    hold("txtSecondOff", "1.5");
+    EXPECT_EQ(addIn->get_iSecondPowerOff(), 2);
+    enter("txtSecondOff", "9e9");
+    next();
+    EXPECT_EQ(addIn->get_iSecondPowerOff(), 32767);
+    clickInWindow("cmdBack");
+    enter("txtSecondOff", "");
+    next();
+    EXPECT_EQ(addIn->get_iSecondPowerOff(), 0);
   });
 }
 
-TEST_F(TabPowerTest, LeavingDiscreteKeepsTheSecondCommandForTheReturn) {
-  run("Bravonne P2200", [&] {
-    wizard.click("chkSecondOff");
-    wizard.selectCommand("ctlCommands(3)", "Menu");
-    wizard.click("optPower(0)");
+TEST_F(TabPowerTest, LeavingDiscreteKeepsTheSecondCommandAndAClearedPowerOffDoesNot) {
+  onStep("Bravonne P2200", [&] {
+    click("chkSecondOff");
+    selectCommand("ctlCommands(3)", "Menu");
+    click("optPower(0)");
     EXPECT_EQ(selected(1), "");
-    EXPECT_FALSE(isEnabled("ctlCommands(1)"));
-    EXPECT_FALSE(wizard.control<CheckBox>("chkSecondOff").isChecked());
-    EXPECT_FALSE(isEnabled("chkSecondOff"));
+    EXPECT_EQ(states({"ctlCommands(1)", "chkSecondOff"}), "..");
     EXPECT_EQ(display()->GetCommandName("166"), "Power_On");
-    EXPECT_EQ(wizard.addIn->get_bSecondPowerOff(), 1);
-    wizard.click("optPower(2)");
+    EXPECT_EQ(addIn->get_bSecondPowerOff(), 1);
+    click("optPower(2)");
     EXPECT_EQ(selected(1), "Power_On");
-    EXPECT_TRUE(wizard.control<CheckBox>("chkSecondOff").isChecked());
+    EXPECT_TRUE(isChecked("chkSecondOff"));
     EXPECT_EQ(selected(3), "Menu");
-  });
-}
 
-TEST_F(TabPowerTest, ClearedPowerOffCommandTakesTheSecondAlong) {
-  run("Bravonne P2200", [&] {
-    wizard.click("chkSecondOff");
-    wizard.selectCommand("ctlCommands(2)", "");
-    EXPECT_FALSE(wizard.control<CheckBox>("chkSecondOff").isChecked());
-    EXPECT_FALSE(isEnabled("chkSecondOff"));
-    EXPECT_EQ(wizard.addIn->get_bSecondPowerOff(), 0);
-    EXPECT_EQ(wizard.addIn->get_sSecondPowerOff(), "");
+    selectCommand("ctlCommands(2)", "");
+    EXPECT_EQ(states({"chkSecondOff"}), ".");
+    EXPECT_EQ(addIn->get_bSecondPowerOff(), 0);
+    EXPECT_EQ(addIn->get_sSecondPowerOff(), "");
     EXPECT_EQ(display()->GetCommandName("165"), "");
   });
 }
 
 TEST_F(TabPowerTest, WarningsInformAndRefuseNothing) {
-  run("Pellucor Board Go", [&] {
-    wizard.click("optPower(2)");
+  onStep("Pellucor Board Go", [&] {
+    click("optPower(2)");
     expectWarning(toggleWarning);
-    wizard.selectCommand("ctlCommands(1)", "power");
+    selectCommand("ctlCommands(1)", "power");
     expectWarning(toggleWarning);
     expectWarning(identicalWarning);
-    wizard.selectCommand("ctlCommands(2)", "power");
+    selectCommand("ctlCommands(2)", "power");
     EXPECT_EQ(display()->GetCommandName("166"), "power");
     EXPECT_EQ(display()->GetCommandName("165"), "power");
-    wizard.selectCommand("ctlCommands(1)", "");
+    selectCommand("ctlCommands(1)", "");
     expectWarning(identicalWarning);
-    wizard.selectCommand("ctlCommands(2)", "");
+    selectCommand("ctlCommands(2)", "");
   });
 }
 
 TEST_F(TabPowerTest, DiagramIsTheSecondPreview) {
-  run("Bravonne P2200", [&] {
-    wizard.desktop.whenShown("frmPreview", [&](forms::Form& preview) {
+  onStep("Bravonne P2200", [&] {
+    desktop.whenShown("frmPreview", [&](forms::Form& preview) {
       EXPECT_EQ(preview.size(), (forms::Size{605 * 15, 828 * 15}));
       EXPECT_EQ(preview.picture().file().filename(), "preview-2.svg");
-      wizard.user.press(forms::keys::escape);
+      user.press(forms::keys::escape);
     });
-    wizard.click("lblDiagram");
-    wizard.goTo("Start");
-    wizard.desktop.whenShown("frmPreview", [&](forms::Form& preview) {
-      EXPECT_EQ(preview.size(), (forms::Size{801 * 15, 584 * 15}));
-      EXPECT_EQ(preview.caption(), "Orlena");
-      wizard.user.press(forms::keys::escape);
-    });
-    wizard.click("lblPreview");
+    click("lblDiagram");
   });
 }
 

@@ -11,23 +11,10 @@
 namespace tests {
 namespace {
 
-std::string toText(forms::Buttons buttons) {
-  switch (buttons) {
-    case forms::Buttons::ok:
-      return "OK";
-    case forms::Buttons::okCancel:
-      return "OK, Cancel";
-    case forms::Buttons::yesNo:
-      return "Yes, No";
-    case forms::Buttons::yesNoCancel:
-      return "Yes, No, Cancel";
-  }
-  return {};
-}
-
 std::string toText(const forms::MessageBox& box) {
-  return "\"" + box.text + "\"\n  caption \"" + box.caption + "\", buttons " + toText(box.buttons) +
-         ", icon " + (box.icon == forms::Icon::none ? "none" : forms::toText(box.icon));
+  return "\"" + box.text + "\"\n  caption \"" + box.caption + "\", buttons " +
+         std::to_string(static_cast<int>(box.buttons)) + ", icon " +
+         (box.icon == forms::Icon::none ? "none" : forms::toText(box.icon));
 }
 
 }  // namespace
@@ -36,17 +23,13 @@ ScriptedDesktop::~ScriptedDesktop() { verify(); }
 
 void ScriptedDesktop::expectMessage(const std::string& caption, const std::string& text,
                                     forms::Buttons buttons, forms::Icon icon,
-                                    std::optional<forms::Answer> answer,
-                                    std::function<void()> during) {
-  messages_.push_back({{text, caption, buttons, icon},
-                       answer.value_or(forms::defaultAnswer(buttons)),
-                       std::move(during),
-                       false});
+                                    std::optional<forms::Answer> answer) {
+  messages_.push_back(
+      {{text, caption, buttons, icon}, answer.value_or(forms::defaultAnswer(buttons))});
 }
 
 void ScriptedDesktop::expectMessageWith(forms::Icon icon, const std::string& partOfText) {
-  messages_.push_back(
-      {{partOfText, "", forms::Buttons::ok, icon}, forms::Answer::ok, nullptr, true});
+  messages_.push_back({{partOfText, "", forms::Buttons::ok, icon}, forms::Answer::ok, true});
 }
 
 bool ScriptedDesktop::ExpectedMessage::matches(const forms::MessageBox& message) const {
@@ -126,7 +109,6 @@ forms::Answer ScriptedDesktop::showMessage(const forms::MessageBox& message) {
     ADD_FAILURE() << "Another message box came: " << toText(message)
                   << "\nexpected: " << toText(expected.box);
   }
-  if (expected.during) expected.during();
   return expected.answer;
 }
 
@@ -153,12 +135,6 @@ std::string ScriptedDesktop::chooseFileToSave(const forms::FileDialog& dialog) {
 std::string ScriptedDesktop::chooseFileToOpen(const forms::FileDialog& dialog) {
   lastFileDialog_ = dialog;
   return answerDialog("open", dialog.title);
-}
-
-std::int32_t ScriptedDesktop::showHelp(std::int32_t ownerHandle, const std::string& helpFile,
-                                       std::int16_t topic) {
-  helpCalls_.push_back({ownerHandle, helpFile, topic});
-  return helpAnswer_;
 }
 
 }  // namespace tests

@@ -28,24 +28,15 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
  public:
   using Script = std::function<void(forms::Form&)>;
 
-  struct HelpCall {
-    std::int32_t ownerHandle = 0;
-    std::string helpFile;
-    std::int16_t topic = 0;
-    bool operator==(const HelpCall&) const = default;
-  };
-
   ScriptedDesktop() = default;
   /// As `verify`.
   ~ScriptedDesktop() override;
 
   /// The next message box, and what is answered; without an answer that of the default button.
-  /// `during` runs while the box stands.
   void expectMessage(const std::string& caption, const std::string& text,
                      forms::Buttons buttons = forms::Buttons::ok,
                      forms::Icon icon = forms::Icon::none,
-                     std::optional<forms::Answer> answer = std::nullopt,
-                     std::function<void()> during = nullptr);
+                     std::optional<forms::Answer> answer = std::nullopt);
 
   /// As above, for a message of the host: with an OK button, told by its icon and by what its text
   /// holds.
@@ -64,13 +55,10 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
   const forms::FolderDialog& lastFolderDialog() const { return lastFolderDialog_; }
   const forms::FileDialog& lastFileDialog() const { return lastFileDialog_; }
 
-  /// Help is shown, and answers 1, unless another answer is set.
-  const std::vector<HelpCall>& helpCalls() const { return helpCalls_; }
+  /// What help was asked for; it is shown, and answers 1, unless another answer is set.
+  const std::vector<std::int16_t>& helpTopics() const { return helpTopics_; }
   void setHelpAnswer(std::int32_t answer) { helpAnswer_ = answer; }
   int helpClosings() const { return helpClosings_; }
-
-  /// Every pointer that was set, in order.
-  const std::vector<forms::MousePointer>& mousePointers() const { return mousePointers_; }
 
   /// Fails the test for all that was expected and has not come, and expects nothing any more.
   void verify();
@@ -81,23 +69,21 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
   std::string chooseFolder(const forms::FolderDialog& dialog) override;
   std::string chooseFileToSave(const forms::FileDialog& dialog) override;
   std::string chooseFileToOpen(const forms::FileDialog& dialog) override;
-  std::int32_t showHelp(std::int32_t ownerHandle, const std::string& helpFile,
-                        std::int16_t topic) override;
+  std::int32_t showHelp(std::int32_t, const std::string&, std::int16_t topic) override {
+    helpTopics_.push_back(topic);
+    return helpAnswer_;
+  }
   void closeAllHelp() override { ++helpClosings_; }
-  void setMousePointer(forms::MousePointer pointer) override { mousePointers_.push_back(pointer); }
 
  private:
   struct ExpectedMessage {
     forms::MessageBox box;
     forms::Answer answer;
-    std::function<void()> during;
     bool isPart = false;  // of the text, and the caption is any
     bool matches(const forms::MessageBox& message) const;
   };
   struct ExpectedDialog {
-    std::string sort;
-    std::string title;
-    std::string answer;
+    std::string sort, title, answer;
   };
   struct FormScript {
     std::string formName;
@@ -112,10 +98,9 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
   std::deque<FormScript> scripts_;
   forms::FolderDialog lastFolderDialog_;
   forms::FileDialog lastFileDialog_;
-  std::vector<HelpCall> helpCalls_;
+  std::vector<std::int16_t> helpTopics_;
   std::int32_t helpAnswer_ = 1;
   int helpClosings_ = 0;
-  std::vector<forms::MousePointer> mousePointers_;
   std::int32_t lastHandle_ = 0;
 };
 

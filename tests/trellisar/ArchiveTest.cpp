@@ -67,7 +67,6 @@ class ArchiveTest : public HostTest {
     fs::create_directory(place());
   }
 
-  trellisar::MainWindowOperations& window() { return *host.mainWindow(); }
   fs::path place() const { return folder.path() / "place"; }
   fs::path inRoom(const std::string& name) const { return folder.path() / "Büro" / name; }
   void exportTo(const std::string& name) {
@@ -80,15 +79,12 @@ class ArchiveTest : public HostTest {
   std::string refusalOf(const std::string& bytes) {
     const fs::path file = folder.path() / "Other.tsa";
     writeFile(file, bytes);
-    try {
-      trellisar::unpackArchive(file, place());
-    } catch (const host::Error& error) {
-      EXPECT_TRUE(fs::is_empty(place())) << error.description();
-      return error.description();
-    }
+    const std::string refusal =
+        raisedBy([&] { trellisar::unpackArchive(file, place()); }).description();
+    EXPECT_TRUE(refusal.empty() || fs::is_empty(place())) << refusal;
     fs::remove_all(place());
     fs::create_directory(place());
-    return {};
+    return refusal;
   }
 };
 
@@ -97,8 +93,6 @@ TEST_F(ArchiveTest, HoldsTheWholeSystemAndGivesItBack) {
   const fs::path archive = folder.path() / "Room.tsa";
   ASSERT_TRUE(fs::exists(archive)) << "the extension is added";
   EXPECT_EQ(host.exportedFile(), archive);
-  const std::string test = "unzip -t '" + archive.string() + "' >/dev/null";
-  EXPECT_EQ(std::system(test.c_str()), 0);
 
   const std::string title =
       "Choose the folder in which the system of the archive gets its own folder:";
@@ -138,14 +132,6 @@ TEST_F(ArchiveTest, ExportThatCantBeIsToldAndReplacesNothing) {
   exportTo("Old.tsa");
   EXPECT_EQ(readFile(folder.path() / "Old.tsa"), "old");
   EXPECT_TRUE(host.exportedFile().empty());
-
-  trellisar::Host told({.dataFolder = dataFolder(),
-                        .library = shippedLibrary(),
-                        .exportFile = folder.path() / "Old.tsa"});
-  told.mainWindow()->FileOpen(forms::fromMachinePath(inRoom("Büro.tsy")), true);
-  desktop.expectMessageWith(forms::Icon::exclamation, "is there already");
-  std::int32_t hwnd = 0;
-  told.mainWindow()->Export(hwnd);
 }
 
 TEST_F(ArchiveTest, HostileArchivesAreRefused) {

@@ -1,9 +1,7 @@
 #include <algorithm>
 
-#include "forms/Form.h"
 #include "forms/ListBox.h"
 #include "forms/ProgressBar.h"
-#include "forms/User.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/CompiledProgram.h"
@@ -24,27 +22,20 @@ class CompileTest : public HostTest {
     openTemplate();
     display = addDisplay();
     receiver = data().controlSystem;
-    append(*preset("Display Power On"), host::stepDigital, host::targetDevice, display, "Power_On",
-           "10");
+    press(*preset("Display Power On"), display, "Power_On", "10");
     const auto inner = branch(*preset("System Power On"), receiver, "Powered_On");
     append(*inner, host::stepDelay, host::targetDevice, display, "", "500");
     append(*inner, host::stepCallPreset, host::targetPreset, preset("Display Power On")->get_ID(),
            "");
-    data().name = "Room";
-    data().folder = folder.inside("Room\\");
-    EXPECT_TRUE(host.mainWindow()->FileSaveAs(folder.inside("Room\\Room"), "Orlena"));
+    saveAsRoom();
   }
 
-  bool build() { return host.mainWindow()->ShowCreateProgramDialog(cancelled); }
   fs::path inRoom(const std::string& name) const { return folder.path() / "Room" / name; }
-  trellisar::SignalData& signal(const std::string& output, const std::string& input) {
-    return *data().signal(*data().find(receiver), output, input, host::signalDigital);
-  }
+  bool build() { return window().ShowCreateProgramDialog(cancelled); }
 
   std::int16_t display = 0;
   std::int16_t receiver = 0;
   bool cancelled = true;
-  forms::User user{application};
 };
 
 TEST_F(CompileTest, StoresTheProgramAndSaysSoInTheSavedFile) {
@@ -81,9 +72,9 @@ TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {
     return *data().findPreset(name)->steps.at(place);
   };
   const std::int16_t relay = add("Power Relay", host::entryPowerRelay);
-  append(*preset("System Lock"), host::stepDigital, host::targetDevice, display, "Dance");
+  press(*preset("System Lock"), display, "Dance");
   append(*preset("System Lock"), host::stepAnalog, host::targetDevice, display, "Power_On", "1d");
-  append(*preset("System Lock"), host::stepDigital, host::targetDevice, relay, "Relay_Open");
+  press(*preset("System Lock"), relay, "Relay_Open");
   step("System Lock", 2).target = 999;
   auto& inner = *step("System Power On", 0).branch;
   inner.steps[1]->target = 999;
@@ -91,13 +82,8 @@ TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {
   branch(*preset("System Unlock"), 999, "Powered_On");
   branch(*preset("System Unlock"), receiver, "Powered_On");
   step("System Unlock", 2).condition.reset();
-  append(*host.document()
-              ->get_Signals()
-              ->Find(receiver, "Powered_On", "", host::signalDigital)
-              ->GetEvent(host::eventLow)
-              ->get_Preset(),
-         host::stepDigital, host::targetDevice, receiver, "Sing");
-  auto& fed = signal("", "Lock");
+  press(*signal(receiver, "Powered_On")->GetEvent(host::eventLow)->get_Preset(), receiver, "Sing");
+  auto& fed = *data().signal(*data().find(receiver), "", "Lock", host::signalDigital);
   fed.sourceType = host::sourceSignal;
   fed.sourceDevice = display;
   fed.sourceSignal = "Whistle";
@@ -146,7 +132,7 @@ TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {
 
 TEST_F(CompileTest, CancelAndAFailedWriteLeaveEverythingAsItWas) {
   ASSERT_TRUE(build());
-  append(*preset("System Lock"), host::stepDigital, host::targetDevice, receiver, "Lock");
+  press(*preset("System Lock"), receiver, "Lock");
   const std::string system = readFile(inRoom("Room.tsy"));
   const std::string program = readFile(inRoom("Room.tsp"));
   application.runLater([&] { user.press(forms::keys::escape); });
@@ -172,10 +158,10 @@ TEST_F(CompileTest, CancelAndAFailedWriteLeaveEverythingAsItWas) {
 
 TEST_F(CompileTest, ProgramThatStayedBehindIsMadeAnew) {
   ASSERT_TRUE(build());
-  ASSERT_TRUE(host.mainWindow()->FileSaveAs(folder.inside("Hall\\Hall"), "Orlena"));
+  ASSERT_TRUE(window().FileSaveAs(folder.inside("Hall\\Hall"), "Orlena"));
   EXPECT_FALSE(data().programIsCurrent) << "the program lies in the old folder";
   fs::remove(inRoom("Room.tsp"));
-  host.mainWindow()->FileOpen(folder.inside("Room\\Room.tsy"), true);
+  window().FileOpen(folder.inside("Room\\Room.tsy"), true);
   EXPECT_FALSE(data().programIsCurrent);
   EXPECT_THROW(static_cast<void>(trellisar::storedProgram(data())), host::Error);
 }

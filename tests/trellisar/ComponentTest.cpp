@@ -4,9 +4,7 @@
 #include <thread>
 
 #include "forms/Components.h"
-#include "forms/Form.h"
 #include "forms/Paths.h"
-#include "forms/User.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/AddIns.h"
@@ -33,19 +31,10 @@ class ComponentTest : public HostTest {
         R"({"format": "trellisar-components", "version": 1, "components": [)" + components + "]}");
   }
 
-  /// Why the class can't be created; empty: it can.
-  std::string failureOf(const std::string& className) {
-    try {
-      trellisar::createAddIn(registration(), className);
-      return {};
-    } catch (const host::Error& error) {
-      return error.description();
-    }
-  }
-  bool failsWith(const std::string& part) {
-    const std::string failure = failureOf(addInClass);
+  void expectFailure(const std::string& part, const std::string& className = addInClass) {
+    const std::string failure =
+        raisedBy([&] { trellisar::createAddIn(registration(), className); }).description();
     EXPECT_NE(failure.find(part), std::string::npos) << failure;
-    return failure.find(part) != std::string::npos;
   }
 
   /// Whether the component is in the process's memory.
@@ -69,30 +58,27 @@ class ComponentTest : public HostTest {
   forms::User user{program};
 };
 
-TEST_F(ComponentTest, WhatCantBeUsedIsToldWithTheReason) {
-  EXPECT_TRUE(failsWith("components.json"));
+TEST_F(ComponentTest, WhatCantBeUsedAndADamagedRegistrationAreToldWithTheReason) {
+  expectFailure("components.json");
   givenRegistration("");
-  EXPECT_TRUE(failsWith("No component is registered for the class \"AddInOrlena.IAddIn\""));
+  expectFailure("No component is registered for the class \"AddInOrlena.IAddIn\"");
   givenRegistered(addInClass, "missing.so");
-  EXPECT_TRUE(failsWith("missing.so\" can't be used: there is no such file"));
+  expectFailure("missing.so\" can't be used: there is no such file");
   writeFile(folder.path() / "text.so", "no library");
   givenRegistered(addInClass, "text.so");
-  EXPECT_TRUE(failsWith("text.so\" can't be used: it can't be loaded ("));
+  expectFailure("text.so\" can't be used: it can't be loaded (");
   givenRegistered(addInClass, ORLENA_PLAIN_LIBRARY);
-  EXPECT_TRUE(failsWith("a library but no component, for it has no entry point DllRegisterServer"));
+  expectFailure("a library but no component, for it has no entry point DllRegisterServer");
   givenRegistered("AddInOrlena.Other", ORLENA_COMPONENT);
-  EXPECT_NE(failureOf("AddInOrlena.Other").find("it has no class \"AddInOrlena.Other\""),
-            std::string::npos);
-}
+  expectFailure("it has no class \"AddInOrlena.Other\"", "AddInOrlena.Other");
 
-TEST_F(ComponentTest, ARegistrationThatIsDamagedNamesThePlace) {
   writeFile(registration(),
             R"({"format": "trellisar-components", "version": 2, "components": []})");
-  EXPECT_TRUE(failsWith("components.json: version"));
+  expectFailure("components.json: version");
   givenRegistration(R"({"class": "A.B"})");
-  EXPECT_TRUE(failsWith("components[0].library: is missing"));
+  expectFailure("components[0].library: is missing");
   givenRegistration(R"({"class": "A.B", "library": "a"}, {"class": "A.B", "library": "b"})");
-  EXPECT_TRUE(failsWith("components[1]: the class \"A.B\" is registered twice"));
+  expectFailure("components[1]: the class \"A.B\" is registered twice");
 }
 
 TEST_F(ComponentTest, OneThatIsMissingIsToldAndTheOthersAreListed) {

@@ -1,7 +1,6 @@
 #include "trellisar/MainForm.h"
 
 #include "forms/Paths.h"
-#include "forms/User.h"
 #include "tests/trellisar/World.h"
 
 namespace tests {
@@ -50,12 +49,11 @@ class NotingAddIn : public host::IAddInContract {
 class MainFormTest : public HostTest {
  protected:
   std::shared_ptr<NotingAddIn> addIn = std::make_shared<NotingAddIn>();
-  forms::User user{application};
 
   void givenSaved(const std::string& name, const std::string& word = "Orlena") {
     openTemplate();
-    EXPECT_TRUE(host.mainWindow()->FileSaveAs(folder.inside(name), word));
-    host.mainWindow()->DestroyDoc();
+    EXPECT_TRUE(window().FileSaveAs(folder.inside(name), word));
+    window().DestroyDoc();
   }
 
   /// Shows the window and closes it with Escape after the script.
@@ -87,7 +85,7 @@ TEST_F(MainFormTest, ListsAddInsAsTheyDescribeThemselvesAndStartsThem) {
     EXPECT_EQ(form.lvwRecent.text(0, 1), folder.path().string());
     EXPECT_NE(form.txtSystem.text().find("New Hall"), std::string::npos);
   });
-  EXPECT_EQ(host.mainWindow()->get_Form(), nullptr);
+  EXPECT_EQ(window().get_Form(), nullptr);
 }
 
 TEST_F(MainFormTest, OneThatMakesNoNewSystemsIsNotStartedOnOne) {
@@ -146,24 +144,6 @@ TEST_F(MainFormTest, ASystemThatIsGoneIsToldAndDroppedAndADamagedOneIsShownAsTha
     desktop.expectMessageWith(forms::Icon::critical, "Hall.tsy");
     user.click(form.cmdEdit);
     EXPECT_EQ(addIn->calls, "");
-  });
-}
-
-TEST_F(MainFormTest, TabGoesInTheOrderOfReading) {
-  givenSaved("Hall");
-  inWindow([&](trellisar::MainForm& form) {
-    const std::vector<forms::Control*> order = {
-        &form.lvwAddIns, &form.cmdPreview, &form.cmdNew,         &form.lvwRecent, &form.cmdOpen,
-        &form.cmdEdit,   &form.txtSystem,  &form.cmdPreferences, &form.cmdClose};
-    for (const forms::Control* control : order) {
-      EXPECT_TRUE(control->hasFocus()) << control->name();
-      user.tab();
-    }
-    EXPECT_TRUE(form.lvwAddIns.hasFocus());
-    EXPECT_TRUE(user.pressAccelerator('r'));
-    EXPECT_TRUE(form.lvwRecent.hasFocus());
-    EXPECT_TRUE(form.cmdEdit.isDefault());
-    EXPECT_FALSE(form.cmdNew.isDefault());
   });
 }
 

@@ -1,12 +1,8 @@
-#include <sys/stat.h>
-
 #include <cstdlib>
 
-#include "forms/Form.h"
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
 #include "forms/TextBox.h"
-#include "forms/User.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/FileIO.h"
@@ -20,8 +16,7 @@ using forms::Icon;
 
 class MainWindowTest : public HostTest {
  protected:
-  trellisar::MainWindowOperations& window() { return *host.mainWindow(); }
-  forms::User user{application};
+  MainWindowTest() { openTemplate(); }
 
   bool save(const std::string& name) { return window().FileSaveAs(folder.inside(name), "Orlena"); }
   void expectCritical(const std::string& text) {
@@ -34,17 +29,19 @@ class MainWindowTest : public HostTest {
 };
 
 TEST_F(MainWindowTest, SaveMakesTheFoldersAndSetsTheWord) {
-  openTemplate();
   data().isModified = true;
   EXPECT_TRUE(save("a\\b\\Room"));
   EXPECT_TRUE(fs::exists(folder.path() / "a" / "b" / "Room.tsy"));
   EXPECT_FALSE(data().isModified);
   EXPECT_EQ(data().application, "Orlena");
   EXPECT_TRUE(save("a\\b\\Room.tsy")) << "its own file is replaced without a question";
+  bool saved = true;
+  host.document()->Save(folder.inside("none\\Room"), saved);
+  EXPECT_FALSE(saved) << "the plain one makes no folder";
+  EXPECT_NE(host.document()->GetLastError().find("it does not exist"), std::string::npos);
 }
 
 TEST_F(MainWindowTest, SaveThatCantBeLeavesEverythingAsItWas) {
-  openTemplate();
   data().isModified = true;
   writeFile(folder.path() / "file", "");
   expectCritical("The system could not be saved.\r\n\r\nCan't make the folder \"" +
@@ -62,22 +59,7 @@ TEST_F(MainWindowTest, SaveThatCantBeLeavesEverythingAsItWas) {
   EXPECT_FALSE(save(""));
 }
 
-TEST_F(MainWindowTest, PlainSaveMakesNoFolderAndKeepsTheWord) {
-  openTemplate();
-  data().isModified = true;
-  bool saved = true;
-  host.document()->Save(folder.inside("none\\Room"), saved);
-  EXPECT_FALSE(saved);
-  EXPECT_NE(host.document()->GetLastError().find("it does not exist"), std::string::npos);
-  EXPECT_TRUE(data().isModified);
-  host.document()->Save(folder.inside("Room"), saved);
-  EXPECT_TRUE(saved);
-  EXPECT_FALSE(data().isModified);
-  EXPECT_EQ(data().application, "Trellisar");
-}
-
 TEST_F(MainWindowTest, OpenReplacesTheSystemOnlyWhenItSucceeded) {
-  openTemplate();
   ASSERT_TRUE(save("Room"));
   const auto first = host.document();
   writeFile(folder.path() / "Bad.tsy", "{}");
@@ -100,7 +82,6 @@ TEST_F(MainWindowTest, OpenReplacesTheSystemOnlyWhenItSucceeded) {
 }
 
 TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
-  openTemplate();
   ASSERT_TRUE(save("Room"));
   const std::string first = trellisar::readFile(folder.path() / "Room.tsy");
   openTemplate();
@@ -118,7 +99,6 @@ TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
 }
 
 TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {
-  openTemplate();
   const std::string place = folder.inside("New");
   EXPECT_TRUE(window().CreateProjectFolder(place + "\\"));
   EXPECT_TRUE(fs::is_directory(folder.path() / "New"));
@@ -140,7 +120,6 @@ TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {
 }
 
 TEST_F(MainWindowTest, DestroyDocForgetsAndToleratesThatThereIsNone) {
-  openTemplate();
   window().SetApplicationStatus("\\a\\", "A");
   window().SetApplicationStatus("\\b\\", "B");
   window().ResetApplicationStatus("\\a\\", "A");
@@ -152,30 +131,17 @@ TEST_F(MainWindowTest, DestroyDocForgetsAndToleratesThatThereIsNone) {
 }
 
 TEST_F(MainWindowTest, TimeTextsAreReadToHundredths) {
-  const std::pair<const char*, std::int32_t> cases[] = {{"0.1s", 10},
-                                                        {" 120s", 12000},
-                                                        {"3", 300},
-                                                        {"2.675s", 268},
-                                                        {"0.005s", 0},
-                                                        {"0.015s", 2},
-                                                        {"0.0151s", 2},
-                                                        {"0.0051s", 1},
-                                                        {".5s", 50},
-                                                        {"-1s", -100},
-                                                        {"", 0},
-                                                        {"s", 0},
-                                                        {"abc", 0},
-                                                        {"1e3s", 0},
-                                                        {"1.2.3s", 0},
-                                                        {"655.36s", 65536},
-                                                        {"99999999999s", INT32_MAX}};
-  for (const auto& [text, hundredths] : cases) {
+  using Case = std::pair<const char*, std::int32_t>;
+  for (const auto& [text, hundredths] :
+       {Case{"0.1s", 10}, Case{" 120s", 12000}, Case{"3", 300}, Case{"2.675s", 268},
+        Case{"0.005s", 0}, Case{"0.015s", 2}, Case{"0.0051s", 1}, Case{".5s", 50},
+        Case{"-1s", -100}, Case{"s", 0}, Case{"abc", 0}, Case{"1e3s", 0}, Case{"1.2.3s", 0},
+        Case{"655.36s", 65536}, Case{"99999999999s", INT32_MAX}}) {
     EXPECT_EQ(window().GetHSeconds(text, 0), hundredths) << "\"" << text << "\"";
   }
 }
 
 TEST_F(MainWindowTest, AddDeviceTellsWhatItCantAdd) {
-  openTemplate();
   const auto refusal = [&](auto&& change) {
     host::AddDeviceArguments arguments;
     arguments.strName = "Thing";
@@ -199,7 +165,6 @@ TEST_F(MainWindowTest, AddDeviceTellsWhatItCantAdd) {
 }
 
 TEST_F(MainWindowTest, PortsFollowTheNameOrTheFirstFreeOne) {
-  openTemplate();
   const auto input = host.document()->get_Devices()->FindByName("Digital Input 1", "Receiver");
   ASSERT_TRUE(host.document()->RemoveDevice(input->get_ID(), host::removalOfDevice));
   const auto sensor =
@@ -213,19 +178,7 @@ TEST_F(MainWindowTest, PortsFollowTheNameOrTheFirstFreeOne) {
   EXPECT_EQ(window().GetDevicePort(999), "");
 }
 
-TEST_F(MainWindowTest, InterfaceIsTheOneThatIsThere) {
-  openTemplate();
-  const auto panel = window().AddInterface(host::modelFenlet, data().controlSystem, "");
-  ASSERT_NE(panel, nullptr);
-  EXPECT_EQ(panel->get_Name(), "Fenlet");
-  EXPECT_TRUE(panel->get_IsProjectPanel());
-  EXPECT_EQ(window().AddInterface(host::modelFenlet, data().controlSystem, "")->get_ID(),
-            panel->get_ID());
-  EXPECT_EQ(window().AddInterface(9, data().controlSystem, ""), nullptr);
-}
-
 TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
-  openTemplate();
   host::DeviceDialogArguments arguments;
   arguments.iParentID = data().controlSystem;
   arguments.strName = "Screen";
@@ -236,55 +189,40 @@ TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
     user.select(dynamic_cast<forms::ListBox&>(form.control("lstDevices")), place);
     user.click(form.control("cmdOK"));
   };
-  const auto cancel = [&](forms::Form& form) {
-    user.press(forms::keys::escape);
-    static_cast<void>(form);
+  const auto cancel = [&](forms::Form&) { user.press(forms::keys::escape); };
+  const auto answerTo = [&](const ScriptedDesktop::Script& script) {
+    desktop.whenShown("DeviceDialog", script);
+    return window().ShowAddReplaceDeviceDialog(arguments);
   };
 
-  desktop.whenShown("DeviceDialog", cancel);
-  EXPECT_EQ(window().ShowAddReplaceDeviceDialog(arguments), host::deviceDialogNone);
-  desktop.whenShown("DeviceDialog", choose);
-  const std::int16_t first = window().ShowAddReplaceDeviceDialog(arguments);
+  EXPECT_EQ(answerTo(cancel), host::deviceDialogNone);
+  const std::int16_t first = answerTo(choose);
   ASSERT_GT(first, 0);
   arguments.iDeviceID = first;
-  desktop.whenShown("DeviceDialog", choose);
-  EXPECT_EQ(window().ShowAddReplaceDeviceDialog(arguments), host::deviceDialogUnchanged);
-  desktop.whenShown("DeviceDialog", cancel);
-  EXPECT_EQ(window().ShowAddReplaceDeviceDialog(arguments), host::deviceDialogUnchanged);
+  EXPECT_EQ(answerTo(choose), host::deviceDialogUnchanged);
+  EXPECT_EQ(answerTo(cancel), host::deviceDialogUnchanged);
   place = 1;
-  desktop.whenShown("DeviceDialog", choose);
-  const std::int16_t second = window().ShowAddReplaceDeviceDialog(arguments);
+  const std::int16_t second = answerTo(choose);
   EXPECT_GT(second, first);
   EXPECT_EQ(data().find(first), nullptr);
   EXPECT_EQ(host.document()->get_Devices()->Item(second)->get_Name(), "Screen");
 }
 
 TEST_F(MainWindowTest, DevicePropertiesChangeNothingBeforeOk) {
-  openTemplate();
-  const std::int16_t receiver = data().controlSystem;
-  const auto edit = [&](forms::Form& form, const char* button) {
-    user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtValue")), "1d");
-    user.click(form.control("cmdSet"));
-    user.click(form.control(button));
+  const auto valueAfter = [&](const std::string& value, const char* button) {
+    desktop.whenShown("DeviceProperties", [&, value](forms::Form& form) {
+      user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtValue")), value);
+      user.click(form.control(button));
+      if (form.isVisible()) user.click(form.control("cmdCancel"));
+    });
+    window().ShowControlledDeviceProperties(data().controlSystem, {host::progIDPageProperties});
+    const auto receiver = host.document()->get_ControlSystem();
+    return receiver->get_Properties()->Item("Volume Knob Control")->get_Value();
   };
-  const auto knob =
-      host.document()->get_ControlSystem()->get_Properties()->Item("Volume Knob Control");
-  desktop.whenShown("DeviceProperties", [&](forms::Form& form) { edit(form, "cmdCancel"); });
-  window().ShowControlledDeviceProperties(receiver, {host::progIDPageProperties});
-  EXPECT_EQ(knob->get_Value(), "0d");
-  desktop.whenShown("DeviceProperties", [&](forms::Form& form) { edit(form, "cmdOK"); });
-  window().ShowControlledDeviceProperties(receiver, {host::progIDPageProperties});
-  EXPECT_EQ(knob->get_Value(), "1d");
-
-  desktop.whenShown("DeviceProperties", [&](forms::Form& form) {
-    user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtValue")), "loud");
-    expectRefusal("\"loud\" is no value for \"Volume Knob Control\". One of \"0d\", \"1d\".");
-    user.click(form.control("cmdOK"));
-    EXPECT_TRUE(form.isVisible());
-    user.click(form.control("cmdCancel"));
-  });
-  window().ShowControlledDeviceProperties(receiver, {host::progIDPageProperties});
-  window().ShowControlledDeviceProperties(receiver, {});
+  EXPECT_EQ(valueAfter("1d", "cmdCancel"), "0d");
+  EXPECT_EQ(valueAfter("1d", "cmdOK"), "1d");
+  expectRefusal("\"loud\" is no value for \"Volume Knob Control\". One of \"0d\", \"1d\".");
+  EXPECT_EQ(valueAfter("loud", "cmdOK"), "1d");
 }
 
 TEST_F(MainWindowTest, PreferencesGiveTheDefaultFolderBelowTheEnvironment) {
@@ -321,8 +259,13 @@ TEST(Preferences, AreKeptAndTolerateADamagedFile) {
   ASSERT_EQ(again.recentSystems().size(), 10u);
   EXPECT_EQ(again.recentSystems().front(), "\\5");
   EXPECT_EQ(again.recentSystems()[1], "\\11");
-  writeFile(file, "{\"format\": \"trellisar-prefer");
-  EXPECT_EQ(trellisar::Preferences(file).defaultFolder(), "");
+  for (const char* damaged :
+       {"{\"format\": \"trellisar-prefer",
+        R"({"format": "trellisar-preferences", "version": 1, "default_folder": "\\rooms",
+            "recent_systems": [], "address_book": {"receivers": [], "current": 1}})"}) {
+    writeFile(file, damaged);
+    EXPECT_EQ(trellisar::Preferences(file).defaultFolder(), "") << "nothing is read by halves";
+  }
 }
 
 }  // namespace

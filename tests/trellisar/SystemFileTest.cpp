@@ -3,8 +3,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <functional>
-
 #include "tests/trellisar/World.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/Json.h"
@@ -24,15 +22,15 @@ class SystemFileTest : public HostTest {
     openTemplate();
     const std::int16_t display = addDisplay();
     auto on = preset("Display Power On");
-    append(*on, host::stepDigital, host::targetDevice, display, "Power_On", "10");
+    press(*on, display, "Power_On", "10");
     const std::int16_t receiver = data().controlSystem;
     const auto inner = branch(*branch(*on, receiver, "RGB_Selected"), receiver, "Powered_On");
     append(*inner, host::stepCallPreset, host::targetPreset, preset("System Lock")->get_ID(), "");
-    const auto signal = host.document()->get_Signals()->Find(receiver, "Powered_On", "", 1);
-    append(*signal->GetEvent(host::eventLow)->get_Preset(), host::stepDelay, host::targetDevice,
+    const auto powered = signal(receiver, "Powered_On");
+    append(*powered->GetEvent(host::eventLow)->get_Preset(), host::stepDelay, host::targetDevice,
            display, "", "100");
-    signal->get_Options()->EnableEvents(host::eventsAll, true);
-    host.mainWindow()->AddInterface(host::modelFenlet, receiver, "");
+    powered->get_Options()->EnableEvents(host::eventsAll, true);
+    window().AddInterface(host::modelFenlet, receiver, "");
     const auto entry =
         host.document()->get_Reports()->get_BillOfMaterials()->Item(data().bill.front()->key);
     entry->get_Parts()->Add(host::partPowerSensor, 1);
@@ -45,19 +43,7 @@ class SystemFileTest : public HostTest {
   std::string errorOf(const std::string& content) {
     const fs::path other = folder.path() / "Other.tsy";
     writeFile(other, content);
-    try {
-      readSystemFile(other, shippedLibrary());
-    } catch (const host::Error& error) {
-      return error.description();
-    }
-    return {};
-  }
-
-  /// The saved file after a change of its JSON.
-  std::string changed(const std::function<void(trellisar::Json&)>& change) {
-    auto json = trellisar::Json::parse(readFile(file));
-    change(json);
-    return json.dump();
+    return raisedBy([&] { readSystemFile(other, shippedLibrary()); }).description();
   }
 
   fs::path file;
@@ -96,40 +82,38 @@ TEST_F(SystemFileTest, CutAnywhereIsRefusedWithTheFilesName) {
 }
 
 TEST_F(SystemFileTest, DamageIsToldWithItsPlace) {
-  using Json = trellisar::Json;
   struct Case {
-    const char* error;
-    std::function<void(Json&)> damage;
+    const char *error, *place, *value;
   };
   const Case cases[] = {
-      {"format: is no Trellisar system", [](Json& j) { j["format"] = "other"; }},
-      {"version: the file is of version 2; this program reads version 1",
-       [](Json& j) { j["version"] = 2; }},
-      {"colour: is no key that is known here", [](Json& j) { j["colour"] = 1; }},
-      {"devices[2].name: is missing", [](Json& j) { j["devices"][2].erase("name"); }},
-      {"devices[1].port: must be a whole number from 0 to 32767",
-       [](Json& j) { j["devices"][1]["port"] = 40000; }},
-      {"devices[1].id: the id stands twice", [](Json& j) { j["devices"][1]["id"] = 1; }},
-      {"devices[0].handle: must be below \"next_handle\"", [](Json& j) { j["next_handle"] = 1; }},
-      {"devices[2].parent: there is no device under this id",
-       [](Json& j) { j["devices"][2]["parent"] = 999; }},
-      {"devices[0].definition: there is no such definition",
-       [](Json& j) { j["devices"][0]["definition"] = 99; }},
+      {"format: is no Trellisar system", "/format", "\"other\""},
+      {"version: the file is of version 2; this program reads version 1", "/version", "2"},
+      {"colour: is no key that is known here", "/colour", "1"},
+      {"devices[2].name: is missing", "/devices/2/name", nullptr},
+      {"devices[1].port: must be a whole number from 0 to 32767", "/devices/1/port", "40000"},
+      {"devices[1].id: the id stands twice", "/devices/1/id", "1"},
+      {"devices[0].handle: must be below \"next_handle\"", "/next_handle", "1"},
+      {"devices[2].parent: there is no device under this id", "/devices/2/parent", "999"},
+      {"devices[0].definition: there is no such definition", "/devices/0/definition", "99"},
       {"devices[0].properties.Volume Knob Control: \"9d\" is not what the property takes",
-       [](Json& j) { j["devices"][0]["properties"]["Volume Knob Control"] = "9d"; }},
-      {"control_system: there is no receiver under this id",
-       [](Json& j) { j["control_system"] = 2; }},
-      {"presets[2].steps[0].target: there is no device under this id",
-       [](Json& j) { j["presets"][2]["steps"][0]["target"] = 999; }},
-      {"presets[2].steps[0].kind: there is no such kind of step",
-       [](Json& j) { j["presets"][2]["steps"][0]["kind"] = 2; }},
+       "/devices/0/properties/Volume Knob Control", "\"9d\""},
+      {"control_system: there is no receiver under this id", "/control_system", "2"},
+      {"presets[2].steps[0].target: there is no device under this id", "/presets/2/steps/0/target",
+       "999"},
+      {"presets[2].steps[0].kind: there is no such kind of step", "/presets/2/steps/0/kind", "2"},
       {"presets[2].steps[1].steps[0].steps[0].preset: there is no preset \"Gone\"",
-       [](Json& j) { j["presets"][2]["steps"][1]["steps"][0]["steps"][0]["preset"] = "Gone"; }},
-      {"presets[1].name: the name stands twice",
-       [](Json& j) { j["presets"][1]["name"] = "System Power On"; }},
+       "/presets/2/steps/1/steps/0/steps/0/preset", "\"Gone\""},
+      {"presets[1].name: the name stands twice", "/presets/1/name", "\"System Power On\""},
   };
   for (const Case& one : cases) {
-    EXPECT_EQ(errorOf(changed(one.damage)), "Other.tsy: " + std::string(one.error));
+    auto json = trellisar::Json::parse(readFile(file));
+    const trellisar::Json::json_pointer place(one.place);
+    if (one.value) {
+      json[place] = trellisar::Json::parse(one.value);
+    } else {
+      json[place.parent_pointer()].erase(place.back());
+    }
+    EXPECT_EQ(errorOf(json.dump()), "Other.tsy: " + std::string(one.error));
   }
   std::string twice = readFile(file);
   twice.insert(1, "\"name\": \"Room\",");

@@ -1,10 +1,5 @@
 #include "tests/trellisar/World.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
-#include <fstream>
-
 #include "forms/Components.h"
 #include "forms/Paths.h"
 #include "trellisar/DeviceLibrary.h"
@@ -19,24 +14,6 @@ std::shared_ptr<const trellisar::DeviceLibrary> shippedLibrary() {
   static const auto library =
       std::make_shared<const trellisar::DeviceLibrary>(dataFolder() / "library");
   return library;
-}
-
-TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (fs::temp_directory_path() / "trellisar-test-XXXXXX").string();
-  path_ = ::mkdtemp(pattern.data());
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  fs::remove_all(path_, ignored);
-}
-
-std::string TemporaryFolder::inside(const std::string& name) const {
-  return forms::fromMachinePath(path_) + "\\" + name;
-}
-
-void writeFile(const fs::path& file, const std::string& content) {
-  std::ofstream(file, std::ios::binary) << content;
 }
 
 HostTest::HostTest() : host({.dataFolder = dataFolder(), .library = shippedLibrary()}) {
@@ -59,6 +36,12 @@ std::int16_t HostTest::add(const std::string& name, std::int16_t entry) {
   arguments.iControlEntryID = entry;
   EXPECT_TRUE(host.mainWindow()->AddDevice(arguments)) << arguments.strError;
   return arguments.iDeviceID;
+}
+
+void HostTest::saveAsRoom() {
+  data().name = "Room";
+  data().folder = folder.inside("Room\\");
+  EXPECT_TRUE(window().FileSaveAs(folder.inside("Room\\Room"), "Orlena"));
 }
 
 std::shared_ptr<host::Preset> HostTest::preset(const std::string& name) {

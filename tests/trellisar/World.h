@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
-#include <string>
 
 #include "forms/Application.h"
+#include "forms/Form.h"
+#include "forms/User.h"
 #include "host/Numbers.h"
+#include "tests/support/Errors.h"
+#include "tests/support/Files.h"
 #include "tests/support/ScriptedDesktop.h"
 #include "trellisar/Host.h"
 #include "trellisar/Listing.h"
@@ -20,21 +22,6 @@ std::filesystem::path dataFolder();
 
 /// The shipped device library, read once.
 std::shared_ptr<const trellisar::DeviceLibrary> shippedLibrary();
-
-/// A folder that goes with its owner.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  const std::filesystem::path& path() const { return path_; }
-  /// A path in the folder, with backslashes.
-  std::string inside(const std::string& name) const;
-
- private:
-  std::filesystem::path path_;
-};
-
-void writeFile(const std::filesystem::path& file, const std::string& content);
 
 /// A host with the shipped data, on a desktop that expects what a test says.
 class HostTest : public testing::Test {
@@ -50,16 +37,31 @@ class HostTest : public testing::Test {
   /// A chosen display, of type "Bravonne P2200".
   std::int16_t addDisplay() { return add("Display Device", 1101); }
 
+  /// Names the system "Room" and saves it in a folder of that name.
+  void saveAsRoom();
+
   std::shared_ptr<host::Preset> preset(const std::string& name);
   /// Appends a step; what Init answers is the result.
   bool append(host::Preset& preset, std::int16_t kind, std::int16_t targetType, std::int32_t target,
               const std::string& signal, const std::string& value = {});
+  /// Appends a step that presses a command of a device.
+  bool press(host::Preset& preset, std::int16_t device, const std::string& command,
+             const std::string& value = {}) {
+    return append(preset, host::stepDigital, host::targetDevice, device, command, value);
+  }
   /// Appends a conditional step that tests a digital signal, and answers its branch.
   std::shared_ptr<host::Preset> branch(host::Preset& preset, std::int16_t device,
                                        const std::string& signal);
 
+  trellisar::MainWindowOperations& window() { return *host.mainWindow(); }
+  std::shared_ptr<host::Signal> signal(std::int16_t device, const std::string& output,
+                                       const std::string& input = {}) {
+    return host.document()->get_Signals()->Find(device, output, input, host::signalDigital);
+  }
+
   ScriptedDesktop desktop;
   forms::Application application{desktop, "\\program"};
+  forms::User user{application};
   trellisar::Host host;
   TemporaryFolder folder;
 };

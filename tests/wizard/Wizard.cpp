@@ -1,8 +1,6 @@
 #include "tests/wizard/Wizard.h"
 
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 
 #include "addin/modGlobals.h"
 #include "forms/DropDownList.h"
@@ -41,39 +39,25 @@ std::int32_t placeOf(const forms::ListBox& list, const std::string& text) {
 
 }  // namespace
 
-TemporaryFolder::TemporaryFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "orlena-test-XXXXXX").string();
-  if (!mkdtemp(name.data())) throw std::runtime_error("No temporary folder could be made.");
-  path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code failure;
-  std::filesystem::remove_all(path_, failure);
-}
-
-std::string fileText(const std::filesystem::path& file) {
-  std::ostringstream text;
-  text << std::ifstream(file, std::ios::binary).rdbuf();
-  return text.str();
-}
-
 Wizard::Wizard() : application(desktop, forms::fromMachinePath(dataFolder())) {
   setenv("TRELLISAR_SYSTEMS", systems_.path().c_str(), 1);
   host = std::make_unique<trellisar::Host>(trellisar::HostOptions{
       .dataFolder = dataFolder(), .library = library(), .preferencesFile = {}});
   addIn = createAddIn();
-  addIn->IAddInContract_Load(nullptr, host->libraryManager(), host->communication(),
-                             host->smallPictures(), host->largePictures(), host->mainWindow());
+  load(nullptr);
 }
 
 Wizard::~Wizard() = default;
 
 void Wizard::givenOpenSystem(const std::filesystem::path& file) {
   host->mainWindow()->FileOpen(forms::fromMachinePath(file), false);
-  addIn->IAddInContract_Load(host->document(), host->libraryManager(), host->communication(),
-                             host->smallPictures(), host->largePictures(), host->mainWindow());
+  load(host->document());
   addIn->IAddInContract_UseOpenFile(true);
+}
+
+void Wizard::load(const std::shared_ptr<host::Document>& document) {
+  addIn->IAddInContract_Load(document, host->libraryManager(), host->communication(),
+                             host->smallPictures(), host->largePictures(), host->mainWindow());
 }
 
 void Wizard::run(const std::function<void()>& script) {
@@ -116,13 +100,13 @@ void Wizard::enter(const std::string& textBox, const std::string& text) {
   user.replaceText(control<forms::TextBox>(textBox), text);
 }
 
-void Wizard::chooseDisplay(const std::string& device) {
+void Wizard::chooseDisplay(const std::string& device, const std::string& button) {
   desktop.whenShown("DeviceDialog", [this, device](forms::Form& dialog) {
     auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
     user.select(list, placeOf(list, device));
     user.click(dialog.control("cmdOK"));
   });
-  click("cmdChoose");
+  click(button);
 }
 
 void Wizard::selectCommand(const std::string& selector, const std::string& command) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -10,21 +9,11 @@
 #include "forms/Form.h"
 #include "forms/User.h"
 #include "forms/UserControl.h"
+#include "tests/support/Files.h"
 #include "tests/support/ScriptedDesktop.h"
 #include "trellisar/Host.h"
 
 namespace tests {
-
-/// A folder of its own that is gone with it.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 /// The whole wizard over a host of its own, as it is before the host runs it: the add-in is created
 /// and loaded. Systems go to an empty folder.
@@ -66,8 +55,8 @@ class Wizard {
   void clickInWindow(const std::string& name) { user.click(inWindow(name)); }
   void enter(const std::string& textBox, const std::string& text);
   std::string text(const std::string& name) const { return control(name).shownText(); }
-  /// Chooses a device in the host's device dialog on the current step.
-  void chooseDisplay(const std::string& device);
+  /// Chooses a device in the host's device dialog, which a button of the current step opens.
+  void chooseDisplay(const std::string& device, const std::string& button = "cmdChoose");
   /// Chooses a command in a selector; an empty one is "nothing assigned".
   void selectCommand(const std::string& selector, const std::string& command);
 
@@ -78,6 +67,8 @@ class Wizard {
   std::filesystem::path systemFile(const std::string& name) const;
 
  private:
+  void load(const std::shared_ptr<host::Document>& document);
+
   TemporaryFolder systems_;
 
  public:
@@ -90,7 +81,5 @@ class Wizard {
  private:
   forms::Form* window_ = nullptr;
 };
-
-std::string fileText(const std::filesystem::path& file);
 
 }  // namespace tests

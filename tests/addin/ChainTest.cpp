@@ -2,15 +2,13 @@
 
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/ListView.h"
 #include "forms/Paths.h"
 #include "forms/ToolBar.h"
-#include "receiver/Client.h"
-#include "receiver/Server.h"
+#include "tests/receiver/Running.h"
 #include "tests/wizard/Wizard.h"
 
 namespace {
@@ -27,34 +25,12 @@ constexpr const char* lockoutTooShort =
     "The Power Off Lockout time cannot be less than the second Power Off command delay "
     "time.\r\n\r\nYou must adjust these values in order to build the system.";
 
-/// A receiver on the loopback, in a thread of its own.
-class Receiver {
- public:
-  Receiver() : thread_([this] { server_.run(); }) {}
-  ~Receiver() { stop(); }
-  void stop() {
-    server_.stop();
-    if (thread_.joinable()) thread_.join();
-  }
-  std::string address() const { return server_.address().text(); }
-  receiver::Holdings holdings() const {
-    receiver::Holdings holdings;
-    EXPECT_TRUE(receiver::query(server_.address(), holdings));
-    return holdings;
-  }
-
- private:
-  tests::TemporaryFolder folder_;
-  receiver::Server server_{{.listen = {"127.0.0.1", 0}, .folder = folder_.path()}};
-  std::thread thread_;
-};
-
 /// The wizard on its last page, with a room that can be built.
 class ChainTest : public testing::Test {
  protected:
   void run(const std::function<void()>& script) {
     wizard.run([&] {
-      wizard.host->communication()->setAddress(receiver.address());
+      wizard.host->communication()->setAddress(receiver.address().text());
       wizard.goTo("Display Device");
       wizard.chooseDisplay("Bravonne P2200");
       wizard.goTo("Orlena Transmitters");
@@ -83,9 +59,15 @@ class ChainTest : public testing::Test {
     EXPECT_TRUE(wizard.inWindow("cmdFinish").isEnabled());
     return calls();
   }
+  receiver::Holdings holdings() {
+    receiver::Holdings held;
+    EXPECT_TRUE(receiver::query(receiver.address(), held));
+    return held;
+  }
   bool programIsCurrent() { return wizard.document().get_SystemInfo()->get_ProgramIsCurrent(); }
 
-  Receiver receiver;
+  tests::TemporaryFolder place;
+  tests::Running receiver{tests::optionsFor(place)};
   tests::Wizard wizard;
 };
 
@@ -104,9 +86,9 @@ TEST_F(ChainTest, UploadSavesMakesPanelsCompilesAndSendsAndThenOnlySends) {
   run([&] {
     EXPECT_EQ(callsOf("cmdUpload"), Calls{"FileSaveAs"} + pages + panel + compile + upload);
     EXPECT_TRUE(programIsCurrent());
-    EXPECT_EQ(receiver.holdings().program->name, "My Orlena System");
-    EXPECT_TRUE(receiver.holdings().passwordSet);
-    EXPECT_TRUE(receiver::checkPassword(receiver::Address::parse(receiver.address()), "lantern"));
+    EXPECT_EQ(holdings().program->name, "My Orlena System");
+    EXPECT_TRUE(holdings().passwordSet);
+    EXPECT_TRUE(receiver::checkPassword(receiver.address(), "lantern"));
     EXPECT_EQ(callsOf("lblUpload"), pages + upload);
   });
 }
@@ -181,8 +163,8 @@ TEST_F(ChainTest, ReceiverThatIsGoneIsToldAndTheNextUploadWorks) {
     receiver.stop();
     wizard.desktop.expectMessageWith(Icon::exclamation, "could not be sent");
     EXPECT_EQ(callsOf("cmdUpload").back(), "StartTransfer") << "and no password";
-    Receiver another;
-    wizard.host->communication()->setAddress(another.address());
+    const tests::Running another(tests::optionsFor(place));
+    wizard.host->communication()->setAddress(another.address().text());
     EXPECT_EQ(callsOf("cmdUpload").back(), "SetPassword");
   });
 }
@@ -203,14 +185,14 @@ TEST_F(ChainTest, PasswordGoesToTheReceiverOnDemandWithItsMessage) {
     };
     wizard.desktop.expectMessage(caption, question, Buttons::okCancel, Icon::none, Answer::cancel);
     choose();
-    EXPECT_FALSE(receiver.holdings().passwordSet);
+    EXPECT_FALSE(holdings().passwordSet);
     expect("Fenlet password successfully set on the control processor.", Icon::information);
     choose();
-    EXPECT_TRUE(receiver.holdings().passwordSet);
+    EXPECT_TRUE(holdings().passwordSet);
     wizard.addIn->put_FenletPassword("");
     expect("Fenlet password successfully cleared on the control processor.", Icon::information);
     choose();
-    EXPECT_FALSE(receiver.holdings().passwordSet);
+    EXPECT_FALSE(holdings().passwordSet);
     receiver.stop();
     expect(
         "Error clearing the Fenlet password on the control processor.\r\n\r\nPlease check "

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <thread>
-
-#include "receiver/Client.h"
-#include "receiver/Server.h"
 #include "tests/app/Program.h"
+#include "tests/receiver/Running.h"
 
 namespace app {
 namespace {
@@ -13,28 +10,6 @@ namespace fs = std::filesystem;
 
 const std::string example =
     (fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "meeting-room.json").string();
-
-/// A receiver on the loopback, in a thread of its own.
-class Receiver {
- public:
-  explicit Receiver(const fs::path& folder)
-      : server_({.listen = {"127.0.0.1", 0}, .folder = folder}),
-        thread_([this] { server_.run(); }) {}
-  ~Receiver() {
-    server_.stop();
-    thread_.join();
-  }
-  std::string address() const { return server_.address().text(); }
-  receiver::Holdings holdings() const {
-    receiver::Holdings holdings;
-    EXPECT_TRUE(receiver::query(server_.address(), holdings));
-    return holdings;
-  }
-
- private:
-  receiver::Server server_;
-  std::thread thread_;
-};
 
 class Delivery : public testing::Test {
  protected:
@@ -48,12 +23,14 @@ class Delivery : public testing::Test {
 };
 
 TEST_F(Delivery, exportsAndUploadsAfterTheSave) {
-  const Receiver receiver(folder / "receiver");
+  const tests::Running running({.listen = {"127.0.0.1", 0}, .folder = folder / "receiver"});
   const Outcome built =
-      build({"--export", "archives/room.tsa", "--upload", "tcp " + receiver.address()});
+      build({"--export", "archives/room.tsa", "--upload", "tcp " + running.address().text()});
   EXPECT_EQ(built.status, 0) << built.errors;
   EXPECT_TRUE(fs::exists(folder / "archives/room.tsa"));
-  EXPECT_EQ(receiver.holdings().program->name, "Meeting Room");
+  receiver::Holdings held;
+  ASSERT_TRUE(receiver::query(running.address(), held));
+  EXPECT_EQ(held.program->name, "Meeting Room");
 
   const std::string first = readWhole(folder / "archives/room.tsa");
   const Outcome again = build({"--export", "archives/room.tsa", "--replace"});

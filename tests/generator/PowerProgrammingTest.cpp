@@ -43,16 +43,6 @@ TEST_F(PowerProgrammingTest, secondPowerOffNeedsFlagCommandAndTime) {
   }
 }
 
-TEST_F(PowerProgrammingTest, relayWithoutADelayStillHasItsDelayStep) {
-  Room room;
-  room.givenDisplay(host::powerDiscrete);
-  room.givenRelay();
-  room.addIn().put_PowerRelayOnDelay(0);
-  EXPECT_TRUE(room.build());
-  EXPECT_EQ(room.at("Display Power On").substr(0, 46),
-            "Power Relay.Relay_Close; Power Relay waits 0; ");
-}
-
 TEST_F(PowerProgrammingTest, screenAndLiftMoveInTheSystemPresetsForTheirPulseTimes) {
   constexpr std::int16_t taut = 2004, gravityScreen = 2005, lift = 2301, keyLift = 2305;
   struct Case {
@@ -78,15 +68,6 @@ TEST_F(PowerProgrammingTest, screenAndLiftMoveInTheSystemPresetsForTheirPulseTim
     EXPECT_EQ(room.at("System Power On"), joined("call Display Power On", c.on)) << c.name;
     EXPECT_EQ(room.at("System Power Off"), joined("call Display Power Off", c.off)) << c.name;
   }
-}
-
-TEST_F(PowerProgrammingTest, commentsAreWrittenOnlyWhereThereIsNone) {
-  Room room;
-  room.preset("Display Power On")->put_Comment("Mine.");
-  EXPECT_TRUE(room.build());
-  EXPECT_EQ(room.preset("Display Power On")->get_Comment(), "Mine.");
-  EXPECT_EQ(room.preset("System Power Off")->get_Comment(),
-            "Add additional steps here that will be executed when the system turns off.");
 }
 
 TEST_F(PowerProgrammingTest, branchThatAUserExtendedStaysAndOneIsAddedBehindIt) {

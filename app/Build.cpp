@@ -9,9 +9,9 @@
 #include "app/ExitStatus.h"
 #include "app/Interrupt.h"
 #include "app/MadeFolders.h"
-#include "app/Report.h"
 #include "app/Room.h"
 #include "app/RunEnded.h"
+#include "app/RunReport.h"
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "receiver/Address.h"
@@ -27,13 +27,13 @@ struct Room {
   explicit Room(const fs::path& answersFile) : file(answersFile), report(answersFile.string()) {}
 
   fs::path file;
-  Report report;
+  RunReport report;
   std::optional<Answers> answers;  // nothing: the file is wrong, which has been told
   MadeFolders made;
 };
 
 std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
-                            const Report& report) {
+                            const RunReport& report) {
   try {
     Answers answers = Answers::fromFile(file);
     if (options.out) answers.setFolder(*options.out);

@@ -1,6 +1,6 @@
 #include "app/Delivery.h"
 
-#include "app/Report.h"
+#include "app/RunReport.h"
 #include "forms/Application.h"
 #include "forms/ListBox.h"
 #include "host/ErrorLog.h"
@@ -44,7 +44,7 @@ void upload(const Page& page, const std::string& address) {
 
 }  // namespace
 
-void answerBuildWindows(UnattendedDesktop& desktop, const Report& report) {
+void answerBuildWindows(UnattendedDesktop& desktop, const RunReport& report) {
   desktop.answerForms("frmBuildPanels", [&](forms::Form& window) {
     const auto& log = dynamic_cast<host::ErrorLog&>(window.control("ctlErrorLog"));
     for (const auto& item : log.Items()) report.line(item->get_Message());

@@ -2,7 +2,7 @@
 
 #include "app/CommandLine.h"
 #include "app/ExitStatus.h"
-#include "app/Report.h"
+#include "app/RunReport.h"
 
 int main(int argc, char** argv) {
   try {

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "app/ExitStatus.h"
-#include "app/Report.h"
+#include "app/RunReport.h"
 #include "receiver/Error.h"
 #include "receiver/Server.h"
 

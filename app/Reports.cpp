@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "app/ExitStatus.h"
-#include "app/Report.h"
-#include "app/ReportPrinter.h"
+#include "app/QtReportPrinter.h"
+#include "app/RunReport.h"
 #include "host/Error.h"
 #include "trellisar/Report.h"
 #include "trellisar/SystemFile.h"

@@ -14,7 +14,7 @@ namespace app {
 namespace {
 
 /// Runs the wizard and answers the path of the saved system. Raises RunEnded.
-std::string runWizard(const Answers& answers, const RoomOptions& options, const Report& report,
+std::string runWizard(const Answers& answers, const RoomOptions& options, const RunReport& report,
                       MadeFolders& made) {
   UnattendedDesktop desktop(report);
   forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
@@ -38,7 +38,7 @@ std::string runWizard(const Answers& answers, const RoomOptions& options, const 
 
 }  // namespace
 
-RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const Report& report,
+RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const RunReport& report,
                      MadeFolders& made) {
   try {
     if (Interrupt::requested()) throw RunEnded(exitStatus::refused, "interrupted");

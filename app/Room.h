@@ -6,7 +6,7 @@
 #include "app/Batch.h"
 #include "app/Delivery.h"
 #include "app/MadeFolders.h"
-#include "app/Report.h"
+#include "app/RunReport.h"
 #include "trellisar/DeviceLibrary.h"
 
 namespace app {
@@ -19,7 +19,7 @@ struct RoomOptions {
 
 /// Runs the wizard once with a room's answers, unattended, on this thread. What it tells goes to
 /// the report; the folders that it may have made go to `made`.
-RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const Report& report,
+RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const RunReport& report,
                      MadeFolders& made);
 
 }  // namespace app

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "app/Report.h"
 #include "app/RunEnded.h"
+#include "app/RunReport.h"
 #include "forms/HeadlessDesktop.h"
 
 namespace app {
@@ -18,7 +18,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
  public:
   using AnswersForm = std::function<void(forms::Form&)>;
 
-  explicit UnattendedDesktop(const Report& report) : report_(report) {}
+  explicit UnattendedDesktop(const RunReport& report) : report_(report) {}
 
   /// Says who answers the forms of this name from now on; null: nobody. When it raises RunEnded,
   /// the form is closed and `throwIfEnded` raises it again outside: the code that showed the form
@@ -51,7 +51,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
  private:
   void answer(forms::Form& form);
 
-  const Report& report_;
+  const RunReport& report_;
   std::map<std::string, AnswersForm> answers_;
   std::string folder_;
   std::optional<RunEnded> ended_;

@@ -1,13 +1,13 @@
 #include "app/Window.h"
 
 #include "app/ExitStatus.h"
-#include "app/Report.h"
+#include "app/RunReport.h"
 
 #ifdef ORLENA_QT
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
-#include "app/ReportPrinter.h"
+#include "app/QtReportPrinter.h"
 #include "app/Screenshots.h"
 #include "forms/Application.h"
 #include "forms/Form.h"

@@ -4,7 +4,7 @@
 #include <exception>
 
 #include "app/Environment.h"
-#include "app/Report.h"
+#include "app/RunReport.h"
 #include "app/UnattendedDesktop.h"
 #include "bench/Figure.h"
 #include "forms/Application.h"

@@ -8,8 +8,8 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "app/Answers.h"
-#include "app/Report.h"
 #include "app/RunEnded.h"
+#include "app/RunReport.h"
 #include "app/UnattendedDesktop.h"
 #include "forms/Application.h"
 #include "forms/Paths.h"
@@ -64,7 +64,7 @@ const Folder& folder() {
 
 /// A host with the template open, and the add-in that works on it.
 struct World {
-  app::Report report{"fuzzing"};
+  app::RunReport report{"fuzzing"};
   app::UnattendedDesktop desktop{report};
   forms::Application application{desktop, forms::fromMachinePath(data)};
   trellisar::Host host{{.dataFolder = data}};

@@ -1,4 +1,4 @@
-#include "app/ReportPrinter.h"
+#include "app/QtReportPrinter.h"
 
 #ifdef ORLENA_QT
 

@@ -1,4 +1,4 @@
-#include "app/Report.h"
+#include "app/RunReport.h"
 
 #include <cstdio>
 #include <sstream>
@@ -22,9 +22,9 @@ void write(const std::string& lines) { std::fwrite(lines.data(), 1, lines.size()
 
 }  // namespace
 
-void Report::line(const std::string& text) const { write(prefixed(text, subject_ + ": ")); }
+void RunReport::line(const std::string& text) const { write(prefixed(text, subject_ + ": ")); }
 
-void Report::message(const forms::MessageBox& message) const {
+void RunReport::message(const forms::MessageBox& message) const {
   line(message.caption + ": " + message.text);
 }
 

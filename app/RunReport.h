@@ -8,9 +8,9 @@ namespace app {
 
 /// What a run tells on standard error. Every line begins with the answers file that it is about;
 /// the lines of one message stay together, also when rooms are built side by side.
-class Report {
+class RunReport {
  public:
-  explicit Report(std::string subject) : subject_(std::move(subject)) {}
+  explicit RunReport(std::string subject) : subject_(std::move(subject)) {}
 
   void line(const std::string& text) const;
   /// A message box: its caption, then its text.

@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   try {
-    const app::Report report("bench");
+    const app::RunReport report("bench");
     app::UnattendedDesktop desktop(report);
     const forms::Application application(desktop, forms::fromMachinePath(app::dataFolder()));
     bench::registerFigures(bench::generatorFigures());

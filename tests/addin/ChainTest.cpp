@@ -126,6 +126,17 @@ TEST_F(ChainTest, PreflightRefusesBeforeTheCompile) {
   });
 }
 
+TEST_F(ChainTest, CancelledCompileSendsNothing) {
+  run([&] {
+    callsOf("cmdUpload");
+    wizard.addIn->AddPowerRelay();
+    wizard.application.runLater(
+        [&] { wizard.user.click(wizard.application.activeForm()->control("cmdCancel")); });
+    EXPECT_EQ(callsOf("cmdUpload"), Calls{"FileSaveAs"} + pages + compile);
+    EXPECT_FALSE(programIsCurrent());
+  });
+}
+
 TEST_F(ChainTest, SecondPowerOffMayNotComeAfterTheLockout) {
   struct Case {
     std::int16_t flag, delay, lockout;

@@ -21,6 +21,7 @@ QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
 void preparePage(QPagedPaintDevice& paper) {
   paper.setPageSize(QPageSize(QPageSize::A4));
+  paper.setPageOrientation(QPageLayout::Landscape);  // the tables have many columns
   paper.setPageMargins(
       QMarginsF(marginMillimetres, marginMillimetres, marginMillimetres, marginMillimetres),
       QPageLayout::Millimeter);

@@ -120,7 +120,8 @@ class Generate : public addin::ProgramBuilder {
   [[nodiscard]] bool BuildSensedPower(std::int16_t ePowerOnOrOff, DevicePtr display,
                                       host::BillOfMaterialsEntry* bill);
   [[nodiscard]] bool AddSensedPowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iModuleID);
-  /// The id of the module, 0 on failure. Replaces `device` by the device as it is with the module.
+  /// The id of the module, 0 on failure; the library is asked only for one that the device does not
+  /// have yet. Replaces `device` by the device as it is with the module.
   [[nodiscard]] std::int16_t AddPowerSensingModule(DevicePtr& device);
   std::int16_t GetPowerSensorHandle();
 

@@ -55,9 +55,12 @@ bool Generate::AddSensedPowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iMod
 }
 
 std::int16_t Generate::AddPowerSensingModule(DevicePtr& device) {
-  const host::ModuleList colModules = ModulesFromLibrary(sSensingModule, device->get_ID());
-  if (addin::gDocument().get_Devices()->AddModules(colModules, device) == 0) return 0;
-  const auto module = FindModule(*device, sSensingModule);
+  auto module = FindModule(*device, sSensingModule);
+  if (!module) {
+    const host::ModuleList colModules = ModulesFromLibrary(sSensingModule, device->get_ID());
+    if (addin::gDocument().get_Devices()->AddModules(colModules, device) == 0) return 0;
+    module = FindModule(*device, sSensingModule);
+  }
   if (!module) return 0;
   module->put_ShowInTree(false);
   module->put_SensorHandle(GetPowerSensorHandle());

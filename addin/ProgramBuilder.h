@@ -19,9 +19,9 @@ class ProgramBuilder : public forms::Object {
   [[nodiscard]] virtual bool Build() = 0;
   /// The text of the last failure; empty when there was none, or one without a text.
   virtual std::string GetLastError() const = 0;
-  /// The warnings of the run in the order in which they came up; the list itself, which the next
-  /// Build replaces.
-  virtual const ErrorItems& GetErrorItems() const = 0;
+  /// The warnings of the run in the order in which they came up; the list itself. The next Build
+  /// begins another, and this one stays as it was.
+  virtual std::shared_ptr<const ErrorItems> GetErrorItems() const = 0;
 };
 
 inline constexpr const char* progIDProgramBuilder = "AddInOrlena.Generate";

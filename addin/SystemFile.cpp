@@ -130,7 +130,7 @@ bool IAddIn::BuildProgram(bool bShowWarnings, std::string& sError) {
   const auto clsGenerate = forms::createObject<ProgramBuilder>(progIDProgramBuilder);
   const bool bBuilt = clsGenerate->Build();
   sError = bBuilt ? std::string() : clsGenerate->GetLastError();
-  if (bShowWarnings) ShowWarnings(clsGenerate->GetErrorItems());
+  if (bShowWarnings) ShowWarnings(*clsGenerate->GetErrorItems());
   return bBuilt;
 }
 

@@ -27,13 +27,13 @@ bool Generate::Build() {
                      [this](SubBuilder subBuilder) { return (this->*subBuilder)(); });
 }
 
-void Generate::ClearErrorItems() { m_colErrorItems = {}; }
+void Generate::ClearErrorItems() { m_colErrorItems = std::make_shared<addin::ErrorItems>(); }
 
 void Generate::AddErrorItem(const std::string& sMessage, std::int16_t iSeverity) {
   auto item = std::make_shared<host::clsErrorItem>();
   item->put_Message(sMessage);
   item->put_Severity(iSeverity);
-  m_colErrorItems.push_back(std::move(item));
+  m_colErrorItems->push_back(std::move(item));
 }
 
 bool Generate::Fail(const std::string& sText) {

@@ -25,7 +25,9 @@ class Generate : public addin::ProgramBuilder {
   /// Runs the sub-builders in their order; the first that fails ends the run.
   [[nodiscard]] bool Build() override;
   std::string GetLastError() const override { return m_strLastError; }
-  const addin::ErrorItems& GetErrorItems() const override { return m_colErrorItems; }
+  std::shared_ptr<const addin::ErrorItems> GetErrorItems() const override {
+    return m_colErrorItems;
+  }
 
  private:
   using PresetPtr = std::shared_ptr<host::Preset>;
@@ -191,7 +193,7 @@ class Generate : public addin::ProgramBuilder {
   [[nodiscard]] static bool BuildKestrumDigitalInputs(std::int16_t iInput);
 
   std::string m_strLastError;
-  addin::ErrorItems m_colErrorItems;
+  std::shared_ptr<addin::ErrorItems> m_colErrorItems = std::make_shared<addin::ErrorItems>();
   std::int16_t m_iSensorHandle = 0;  // 0 until it is first asked for
 };
 

@@ -127,7 +127,7 @@ bool Room::build() {
 
 std::vector<std::string> Room::warnings() const {
   std::vector<std::string> messages;
-  for (const auto& item : builder_->GetErrorItems()) {
+  for (const auto& item : *builder_->GetErrorItems()) {
     messages.push_back(std::to_string(item->get_Severity()) + " " + item->get_Message());
   }
   return messages;

@@ -104,7 +104,7 @@ TEST_F(PowerProgrammingTest, powerSensingTakesInputAndPartAndGivesThePartBack) {
   EXPECT_TRUE(room.build());
   EXPECT_TRUE(room.build());
   EXPECT_EQ(room.addIn().GetDigitalInputID(4), 0);
-  EXPECT_EQ(room.parts(host::partPowerSensor), 1);
+  EXPECT_EQ(room.at("Receiver bill"), "1 x 20701 + 1 x 366");
 
   ASSERT_EQ(room.display()->get_Modules().size(), 1U);
   const auto module = room.display()->get_Modules().front();
@@ -121,7 +121,7 @@ TEST_F(PowerProgrammingTest, powerSensingTakesInputAndPartAndGivesThePartBack) {
 
   room.display()->put_PowerControlType(host::powerDiscrete);
   EXPECT_TRUE(room.build());
-  EXPECT_EQ(room.parts(host::partPowerSensor), 0);
+  EXPECT_EQ(room.at("Receiver bill"), "1 x 20701");
   EXPECT_EQ(room.at("Display Power Off"), "Display Device.Power_Off~10");
 }
 
@@ -131,7 +131,7 @@ TEST_F(PowerProgrammingTest, powerSensingWithoutItsModuleFailsButWritesPartAndSo
   room.givenNoModules();
   EXPECT_FALSE(room.build());
   EXPECT_EQ(room.builder().GetLastError(), "Failed to add Power Sensing module.");
-  EXPECT_EQ(room.parts(host::partPowerSensor), 1);
+  EXPECT_EQ(room.at("Receiver bill"), "1 x 20701 + 1 x 366");
   EXPECT_EQ(room.at("Display Power On"),
             "if Receiver.RGB_Selected=1 { Display Device.RGB_1~10 }; "
             "if Receiver.Composite_Video_Selected=1 { Display Device.Video_1~10 }");
@@ -175,7 +175,7 @@ TEST_F(PowerProgrammingTest, missingPresetIsToldAndTheOtherPartsStillRun) {
            Case{"Display Power Off", "Cannot find sequence: Display Power Off",
                 "call Display Power On", receiverOff},
        }) {
-    Room room(tests::templateWithout(c.missing));
+    Room room(tests::dataWithout(c.missing));
     room.givenDisplay(host::powerDiscrete);
     EXPECT_FALSE(room.build()) << c.missing;
     EXPECT_EQ(room.builder().GetLastError(), c.error) << c.missing;

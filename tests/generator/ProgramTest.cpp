@@ -8,7 +8,6 @@
 #include "forms/Components.h"
 #include "tests/generator/Room.h"
 #include "tests/support/ScriptedDesktop.h"
-#include "trellisar/ProgramCheck.h"
 
 namespace {
 
@@ -18,16 +17,11 @@ class ProgramTest : public testing::Test {
  protected:
   tests::ScriptedDesktop desktop;
   forms::Application application{desktop, "\\program"};
-
-  /// The EXAMPLE system, which has a panel without a project of its own.
-  static std::filesystem::path systemWithPanel() {
-    return std::filesystem::path(ORLENA_SOURCE_FOLDER) /
-           "data/TemplateSystems/Orlena EXAMPLE/Orlena EXAMPLE.tsy";
-  }
 };
 
 TEST_F(ProgramTest, panelsWithoutAProjectAreDisabledWhileTheRoomIsNotReady) {
-  Room room(systemWithPanel());
+  Room room;
+  room.givenPanel();
   room.givenDisplay(host::powerDiscrete);
   room.addIn().put_PowerOnLockoutTime(30);
   room.addIn().put_PowerContactClosureOption(addin::contactContinue);
@@ -36,7 +30,7 @@ TEST_F(ProgramTest, panelsWithoutAProjectAreDisabledWhileTheRoomIsNotReady) {
   ASSERT_TRUE(room.build()) << room.builder().GetLastError();
   const std::string panel = room.document().get_Touchpanels()->Items().front()->get_Name();
   const std::string off = panel + ".Enabled~-2", on = panel + ".Enabled~-1";
-  const std::string state = "Kestrum Interface.Display_Power_State~";
+  const std::string state = "Kestrum Interface.Display_Power_State=";
   EXPECT_EQ(room.at("PWRTIMEOUT.Warming_Up 0"), state + "2d; " + off);
   EXPECT_TRUE(room.at("PWRTIMEOUT.Warming_Up 1").ends_with("}; " + on));
   EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 0"), state + "3d; Receiver.Lock; " + off);
@@ -59,13 +53,14 @@ TEST_F(ProgramTest, eachInputReportsItsErrorsOnTheReceiverWithThreeInputs) {
     std::string message;
     room.document().ChangeControlSystem(model, "", 0, message);
     ASSERT_TRUE(room.build());
-    EXPECT_TRUE(trellisar::programErrors(room.data()).empty()) << model;
+    EXPECT_TRUE(room.errors().empty()) << model;
     for (const std::string input : {"Input1", "Input2", "Input3"}) {
       const auto text = [&](const std::string& severity, const std::string& what) {
         return model == host::modelReceiverOneInput
                    ? ""
-                   : "Kestrum Interface.Set_Error_Message_Severity~" + severity +
-                         "; Kestrum Interface.Send_Error_Message~" + input + " Error " + what;
+                   : "Kestrum Interface.Set_Error_Message_Severity=" + severity +
+                         "; Kestrum Interface.Send_Error_Message=\"" + input + " Error " + what +
+                         "\"";
       };
       EXPECT_EQ(room.at("Receiver." + input + "_Error 0"), text("3", "Detected")) << model;
       EXPECT_EQ(room.at("Receiver." + input + "_Error 1"), text("0", "Corrected")) << model;
@@ -171,7 +166,7 @@ TEST_F(ProgramTest, whatIsMissingStopsTheRunWithItsText) {
            Failure{"Digital Input 2", nothing, ""},  // looked up before the answer is read
            Failure{"System_Ready_Pulse", contact, ""},
        }) {
-    Room room(tests::templateWithout(c.missing));
+    Room room(tests::dataWithout(c.missing));
     c.arrange(room.addIn());
     EXPECT_FALSE(room.build()) << c.missing;
     EXPECT_EQ(room.builder().GetLastError(), c.error) << c.missing;
@@ -179,7 +174,7 @@ TEST_F(ProgramTest, whatIsMissingStopsTheRunWithItsText) {
 }
 
 TEST_F(ProgramTest, sourceThatTheReceiverCanNotReportIsLeftOutAndTheRunGoesOn) {
-  Room room(tests::templateWithout("RGB_Selected"));
+  Room room(tests::dataWithout("RGB_Selected"));
   room.givenDisplay(host::powerNone);
   room.addIn().put_PowerOnLockoutTime(30);
   EXPECT_TRUE(room.build());

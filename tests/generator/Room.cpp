@@ -13,16 +13,20 @@
 namespace tests {
 namespace {
 
-const std::filesystem::path& dataFolder() {
-  static const std::filesystem::path folder = std::filesystem::path(ORLENA_SOURCE_FOLDER) / "data";
-  return folder;
+/// The shipped one is read once for all rooms of the program.
+std::shared_ptr<const trellisar::DeviceLibrary> libraryOf(const std::filesystem::path& data) {
+  static const auto shipped =
+      std::make_shared<const trellisar::DeviceLibrary>(shippedData() / "library");
+  if (data == shippedData()) return shipped;
+  return std::make_shared<const trellisar::DeviceLibrary>(data / "library");
 }
 
-/// Read once for all rooms of the program.
-std::shared_ptr<const trellisar::DeviceLibrary> library() {
-  static const auto shared =
-      std::make_shared<const trellisar::DeviceLibrary>(dataFolder() / "library");
-  return shared;
+std::string replaced(std::string text, const std::string& part, const std::string& replacement) {
+  for (auto at = text.find(part); at != std::string::npos;
+       at = text.find(part, at + replacement.size())) {
+    text.replace(at, part.size(), replacement);
+  }
+  return text;
 }
 
 class NoModules : public host::LibraryManager {
@@ -35,27 +39,31 @@ class NoModules : public host::LibraryManager {
 
 }  // namespace
 
-std::filesystem::path templateSystem() {
-  return dataFolder() / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
-}
+std::filesystem::path shippedData() { return std::filesystem::path(ORLENA_SOURCE_FOLDER) / "data"; }
 
-/// The template with something in it under another name.
-std::filesystem::path templateWithout(const std::string& name) {
-  std::stringstream text;
-  text << std::ifstream(templateSystem()).rdbuf();
-  std::string system = text.str();
-  const std::string quoted = "\"" + name + "\"";
-  for (auto at = system.find(quoted); at != std::string::npos; at = system.find(quoted, at)) {
-    system.replace(at, quoted.size(), "\"Another " + name + "\"");
+std::filesystem::path dataWith(const std::string& text, const std::string& replacement) {
+  const auto folder = std::filesystem::path(testing::TempDir()) / "generator";
+  std::filesystem::remove_all(folder);
+  for (const std::string part : {"library", "TemplateSystems"}) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(shippedData() / part)) {
+      if (!entry.is_regular_file()) continue;
+      const auto copy = folder / std::filesystem::relative(entry.path(), shippedData());
+      std::filesystem::create_directories(copy.parent_path());
+      std::stringstream original;
+      original << std::ifstream(entry.path()).rdbuf();
+      std::ofstream(copy) << replaced(original.str(), text, replacement);
+    }
   }
-  const auto file = std::filesystem::path(testing::TempDir()) / "generator" / (name + ".tsy");
-  std::filesystem::create_directories(file.parent_path());
-  std::ofstream(file) << system;
-  return file;
+  return folder;
 }
 
-Room::Room(const std::filesystem::path& system)
-    : host_({.dataFolder = dataFolder(), .library = library(), .preferencesFile = {}}) {
+std::filesystem::path dataWithout(const std::string& name) {
+  return dataWith("\"" + name + "\"", "\"Another " + name + "\"");
+}
+
+Room::Room(const std::filesystem::path& data)
+    : host_({.dataFolder = data, .library = libraryOf(data), .preferencesFile = {}}) {
+  const auto system = data / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
   const auto document = host_.mainWindow()->FileOpen(forms::fromMachinePath(system), false);
   if (!document) throw std::runtime_error("The system could not be opened: " + system.string());
   addin::SetAddIn(addIn_);
@@ -74,6 +82,7 @@ Room::~Room() {
 }
 
 std::int16_t Room::addDevice(const std::string& name, std::int16_t controlEntry) {
+  givenNo(name);
   host::AddDeviceArguments arguments;
   arguments.strName = name;
   arguments.strParentName = document().get_ControlSystem()->get_Name();
@@ -94,18 +103,27 @@ void Room::givenNoCommand(std::int16_t device, std::int16_t standardCommand) {
                                                          changed);
 }
 
-void Room::givenNoModules() { addin::SetLibraryManager(std::make_shared<NoModules>()); }
-
-void Room::givenRelay() {
-  addIn_->AddPowerRelay();
-  addIn_->put_PowerRelayOnDelay(5);
-  addIn_->put_PowerRelayOffDelay(90);
+void Room::givenPanel() {
+  constexpr std::int16_t touchPanel = 52;
+  host_.mainWindow()->AddInterface(touchPanel, document().get_ControlSystem()->get_ID(), "");
 }
 
-void Room::givenSecondPowerOff() {
-  addIn_->put_bSecondPowerOff(1);
-  addIn_->put_sSecondPowerOff("RGB_1");
-  addIn_->put_iSecondPowerOff(3);
+void Room::givenNo(const std::string& name) {
+  const std::string receiver = document().get_ControlSystem()->get_Name();
+  if (const auto device = document().get_Devices()->FindByName(name, receiver)) {
+    EXPECT_TRUE(document().RemoveDevice(device->get_ID(), host::removalOfDevice));
+  }
+  if (const auto panel = document().get_Touchpanels()->FindByName(name, receiver)) {
+    EXPECT_TRUE(document().RemoveTouchpanel(panel->get_ID(), host::removalOfTouchpanel));
+  }
+}
+
+void Room::givenNoModules() { addin::SetLibraryManager(std::make_shared<NoModules>()); }
+
+void Room::givenRelay(std::int16_t onSeconds, std::int16_t offSeconds) {
+  if (addIn_->get_PowerRelayID() == 0) addIn_->AddPowerRelay();
+  addIn_->put_PowerRelayOnDelay(onSeconds);
+  addIn_->put_PowerRelayOffDelay(offSeconds);
 }
 
 void Room::givenScreen(std::int16_t controlEntry, float onSeconds, float offSeconds) {
@@ -141,16 +159,6 @@ std::string Room::at(const std::string& place) const {
   const Program all = program();
   const auto found = all.find(place);
   return found == all.end() ? "" : found->second;
-}
-
-std::int32_t Room::parts(std::int32_t part) const {
-  const auto handle = document().get_ControlSystem()->get_DeviceHandle();
-  const auto entry = document().get_Reports()->get_BillOfMaterials()->Item(handle);
-  std::int32_t quantity = 0;
-  for (const auto& item : entry->get_Parts()->Items()) {
-    if (item.get_PartID() == part) quantity += item.get_Quantity();
-  }
-  return quantity;
 }
 
 std::shared_ptr<host::Device> Room::display() const {

@@ -11,32 +11,38 @@
 #include "host/Numbers.h"
 #include "tests/generator/Program.h"
 #include "trellisar/Host.h"
+#include "trellisar/ProgramCheck.h"
 
 namespace tests {
 
-/// The template that the host ships.
-std::filesystem::path templateSystem();
-/// The template with something in it under another name.
-std::filesystem::path templateWithout(const std::string& name);
+/// What the host ships: the template system, the example and the device library.
+std::filesystem::path shippedData();
+/// The same with a text replaced in all of it.
+std::filesystem::path dataWith(const std::string& text, const std::string& replacement);
+/// The same with something under another name.
+std::filesystem::path dataWithout(const std::string& name);
 
 /// A room whose program is built: the open system of a host of its own, and the add-in with the
 /// answers. It begins as the template, without a display, and becomes the thread's current one when
 /// it is made.
 class Room {
  public:
-  explicit Room(const std::filesystem::path& system = templateSystem());
+  explicit Room(const std::filesystem::path& data = shippedData());
   ~Room();
 
-  /// A display with discrete power, the command POWER, and both inputs.
+  // What is there already under the name of a display, screen or lift is removed before.
+
+  /// The display of entry 1105 has discrete power, the command POWER, and both inputs.
   void givenDisplay(std::int16_t powerControl, std::int16_t controlEntry = 1105);
   /// Takes a standard command away from a device.
   void givenNoCommand(std::int16_t device, std::int16_t standardCommand);
+  /// A touch panel without a project of its own.
+  void givenPanel();
+  /// Takes a device or panel away, if it is there, as the host does.
+  void givenNo(const std::string& name);
   /// The library of the host has no modules.
   void givenNoModules();
-  /// On after 5 s, off after 90 s.
-  void givenRelay();
-  /// The command RGB_1, of all things, after 3 s.
-  void givenSecondPowerOff();
+  void givenRelay(std::int16_t onSeconds = 5, std::int16_t offSeconds = 90);
   void givenScreen(std::int16_t controlEntry, float onSeconds, float offSeconds);
   void givenLift(std::int16_t controlEntry, float onSeconds, float offSeconds);
 
@@ -48,10 +54,10 @@ class Room {
   std::shared_ptr<host::Preset> preset(const std::string& name) const;
   /// What the program holds at a place, which a Program names; empty: nothing.
   std::string at(const std::string& place) const;
+  /// What is wrong with the program, as the host finds when it compiles.
+  std::vector<std::string> errors() const { return trellisar::programErrors(data()); }
   Program program() const { return programOf(data()); }
   const trellisar::DocumentData& data() const { return host_.document()->data(); }
-  /// How many of the part the receiver's bill entry names.
-  std::int32_t parts(std::int32_t part) const;
 
   addin::IAddIn& addIn() { return *addIn_; }
   host::Document& document() const { return *host_.document(); }

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -106,16 +105,25 @@ TEST_F(ProgramTest, audioAnswersBecomePropertiesAndMutingStaysOnTheInput) {
   EXPECT_EQ(room.at("Digital Input 3.dig_input_1 0"), "Receiver.Volume_Mute_On");
 }
 
-TEST_F(ProgramTest, lockPresetsAreEmptiedAndKeepTheirComments) {
+TEST_F(ProgramTest, presetsKeepTheCommentsOfAUser) {
   Room room;
-  const auto lock = room.preset("System Lock");
-  lock->put_Comment("Mine.");
-  lock->InsertStep(1, forms::createObject<host::Step>(host::progIDStep));
+  for (const auto& preset : room.document().get_Presets()->Items()) preset->put_Comment("Mine.");
+  room.preset("System Lock")->InsertStep(1, forms::createObject<host::Step>(host::progIDStep));
   ASSERT_TRUE(room.build());
-  EXPECT_EQ(room.at("System Lock"), "Receiver.Lock");
-  EXPECT_EQ(lock->get_Comment(), "Mine.");
-  const std::string comment = room.preset("System Unlock")->get_Comment();
-  EXPECT_TRUE(comment.ends_with("locked in the \"System Lock\" preset get unlocked here."));
+  for (const auto& preset : room.document().get_Presets()->Items()) {
+    EXPECT_EQ(preset->get_Comment(), "Mine.") << preset->get_Name();
+  }
+  EXPECT_EQ(room.at("System Lock"), "Receiver.Lock") << "a user's steps go";
+}
+
+TEST_F(ProgramTest, outputThatWasFedIsDrivenByItsEventsAgain) {
+  Room room;
+  room.addIn().AddKestrum();
+  const auto lock = room.document().get_Signals()->Find(room.addIn().get_KestrumID(), "System_Lock",
+                                                        "", host::signalDigital);
+  lock->put_SourceType(host::sourceSignal);
+  ASSERT_TRUE(room.build());
+  EXPECT_EQ(lock->get_SourceType(), host::sourceEvents);
 }
 
 TEST_F(ProgramTest, lockoutModuleOfAnEarlierRunIsFoundAndHidden) {
@@ -141,44 +149,6 @@ TEST_F(ProgramTest, lockoutWithoutItsModuleStopsTheRun) {
   EXPECT_EQ(room.builder().GetLastError(), "Failed to add Power On/Off Lockout module.");
   EXPECT_EQ(room.at("Receiver.RGB_Selected 0"), "Display Device.RGB_1~10") << "written before";
   EXPECT_EQ(room.at("System Power On"), "") << "not reached";
-}
-
-struct Failure {
-  std::string missing;
-  std::function<void(addin::IAddIn&)> arrange;
-  std::string error;
-};
-
-TEST_F(ProgramTest, whatIsMissingStopsTheRunWithItsText) {
-  const auto nothing = [](addin::IAddIn&) {};
-  const auto kestrum = [](addin::IAddIn& addIn) { addIn.AddKestrum(); };
-  const auto mute = [](addin::IAddIn& addIn) { addIn.put_bMuteOnDigInp3(1); };
-  const auto contact = [](addin::IAddIn& addIn) { addIn.put_PowerContactClosureOption(0); };
-  for (const Failure& c : {
-           Failure{"System Lock", nothing, "Cannot find sequence: System Lock"},
-           Failure{"System Unlock", nothing, "Cannot find sequence: System Unlock"},
-           Failure{"System Unlock", kestrum, ""},  // the trigger fails first, without a text
-           Failure{"Volume Knob Control", nothing, "Failed to find Volume Knob Control"},
-           Failure{"Mic Mode Control", nothing, "Failed to find Mic Mode Control"},
-           Failure{"Volume_Mute_Off", mute,
-                   "Cannot find command Volume_Mute_Off on device Receiver"},
-           Failure{"Digital Input 3", mute, ""},
-           Failure{"Digital Input 2", nothing, ""},  // looked up before the answer is read
-           Failure{"System_Ready_Pulse", contact, ""},
-       }) {
-    Room room(tests::dataWithout(c.missing));
-    c.arrange(room.addIn());
-    EXPECT_FALSE(room.build()) << c.missing;
-    EXPECT_EQ(room.builder().GetLastError(), c.error) << c.missing;
-  }
-}
-
-TEST_F(ProgramTest, sourceThatTheReceiverCanNotReportIsLeftOutAndTheRunGoesOn) {
-  Room room(tests::dataWithout("RGB_Selected"));
-  room.givenDisplay(host::powerNone);
-  room.addIn().put_PowerOnLockoutTime(30);
-  EXPECT_TRUE(room.build());
-  EXPECT_EQ(room.at("Receiver.Composite_Video_Selected 0"), "Display Device.Video_1~10");
 }
 
 }  // namespace

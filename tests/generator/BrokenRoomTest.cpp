@@ -1,0 +1,275 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/Application.h"
+#include "forms/Components.h"
+#include "host/Error.h"
+#include "tests/generator/Room.h"
+#include "tests/support/ScriptedDesktop.h"
+
+namespace {
+
+using tests::Room;
+
+class BrokenRoomTest : public testing::Test {
+ protected:
+  tests::ScriptedDesktop desktop;
+  forms::Application application{desktop, "\\program"};
+};
+
+using Places = std::vector<std::pair<std::string, std::string>>;
+using Answers = std::function<void(Room&)>;
+
+/// What a library or template lacks or refuses, and what the run makes of it.
+struct Broken {
+  std::string text, replacement;
+  Answers answers;
+  bool built;
+  std::string error;
+  Places places = {};  // what shows how far the run came
+};
+
+/// A name that is not there.
+Broken without(const std::string& name, Answers answers, bool built, const std::string& error,
+               Places places = {}) {
+  return {"\"" + name + "\"", "\"Another\"", std::move(answers), built, error, std::move(places)};
+}
+
+void plain(Room& room) { room.addIn().put_VolumeKnobControl(true); }
+void kestrum(Room& room) { room.addIn().AddKestrum(); }
+void threeInputs(Room& room) {
+  kestrum(room);
+  std::string message;
+  room.document().ChangeControlSystem(host::modelReceiverThreeInputs, "", 0, message);
+}
+void detector(Room& room) { room.addIn().AddOccupancySensor(); }
+void monitoredDetector(Room& room) {
+  kestrum(room);
+  detector(room);
+}
+void timeout(Room& room) {
+  detector(room);
+  room.addIn().put_MotionSensorTimeout(600);
+}
+void display(Room& room) { room.givenDisplay(host::powerDiscrete); }
+void uncontrolledDisplay(Room& room) {
+  room.givenDisplay(host::powerNone);
+  room.addIn().put_PowerOnLockoutTime(30);
+}
+void sensedDisplay(Room& room) { room.givenDisplay(host::powerSensing); }
+void lockout(Room& room) {
+  display(room);
+  room.addIn().put_PowerOnLockoutTime(30);
+  room.addIn().put_PowerOffLockoutTime(70);
+}
+void monitoredLockout(Room& room) {
+  lockout(room);
+  kestrum(room);
+}
+void mute(Room& room) { room.addIn().put_bMuteOnDigInp3(1); }
+void contact(Room& room) { room.addIn().put_PowerContactClosureOption(addin::contactPowerOff); }
+void screen(Room& room) {
+  display(room);
+  room.givenScreen(2004, 1.5F, 0.25F);
+  kestrum(room);
+}
+
+/// Puts a command of the receiver into an event, as a user can.
+void putInto(Room& room, std::int16_t device, const std::string& output, std::int16_t event) {
+  const auto signal = room.document().get_Signals()->Find(device, output, "", host::signalDigital);
+  const auto step = forms::createObject<host::Step>(host::progIDStep);
+  signal->GetEvent(event)->get_Preset()->InsertStep(1, step);
+  EXPECT_TRUE(step->Init(host::stepDigital, host::targetDevice, 0, room.addIn().get_ReceiverID(),
+                         "Volume_Up"));
+}
+void muteBesideSteps(Room& room) {
+  mute(room);
+  putInto(room, room.addIn().GetDigitalInputID(3), "dig_input_1", host::eventLow);
+}
+void detectorBesideSteps(Room& room) {
+  monitoredDetector(room);
+  putInto(room, room.addIn().get_OccupancySensorID(), "Motion_Detected", host::eventHigh);
+}
+void triggerBesideSteps(Room& room) {
+  kestrum(room);
+  putInto(room, room.addIn().get_KestrumID(), "System_Unlock", host::eventHigh);
+}
+
+const Places slotsAreSet{{"PWRTIMEOUT slot Power_On", "Display Device.Power_On"},
+                         {"PWRTIMEOUT slot Power_Off", "Display Device.Power_Off"}};
+
+Places with(Places places, const Places& more) {
+  places.insert(places.end(), more.begin(), more.end());
+  return places;
+}
+
+std::vector<Broken> everyBroken() {
+  const std::string integer = R"(, "type": "integer", "minimum": 0, "maximum": )";
+  const std::string timed = R"("name": "Timeout", "value": "300")" + integer;
+  const std::string warm = R"("name": "Warm Up Time", "value": "30")" + integer;
+  const std::string cool = R"("name": "Cool Down Time", "value": "60")" + integer;
+  const std::string slots = R"("slots": ["Power_On", "Power_Off"])";
+  const std::string unrefused = "32767";
+  const std::string state = "Kestrum Interface.Display_Power_State=";
+  return {
+      // Presets of the template.
+      without("System Lock", plain, false, "Cannot find sequence: System Lock"),
+      without("System Unlock", plain, false, "Cannot find sequence: System Unlock"),
+      without("System Unlock", triggerBesideSteps, false, "",
+              {{"Kestrum Interface.System_Lock 0", "call System Lock"},
+               {"Kestrum Interface.System_Unlock 0", ""}}),
+      without("System Power On", screen, false, "Cannot find sequence: System Power On",
+              {{"System Power Off", "Screen.Raise~25; Receiver.Power_Off"}}),
+      without("System Power On", display, false, "Failed to build power event for the OL receiver.",
+              {{"System Power Off", "Receiver.Power_Off"}}),
+      without("System Power Off", display, false, "Cannot find sequence: System Power Off",
+              {{"System Power On", "call Display Power On"}}),
+      without("Display Power On", uncontrolledDisplay, false, ""),
+      without("Display Power On", display, false, "Cannot find sequence: Display Power On",
+              {{"System Power On", ""}, {"System Power Off", "Receiver.Power_Off"}}),
+      without("Display Power Off", display, false, "Cannot find sequence: Display Power Off",
+              {{"System Power On", "call Display Power On"},
+               {"System Power Off", "Receiver.Power_Off"}}),
+
+      // The receiver and its inputs.
+      without("Powered_On", display, false, "Failed to build power event for the OL receiver.",
+              {{"Receiver.Powered_Off 0", "call System Power Off"},
+               {"System Power Off", "call Display Power Off; Receiver.Power_Off"},
+               {"System Lock", ""}}),
+      without("RGB_Selected", uncontrolledDisplay, true, "",
+              {{"Receiver.Composite_Video_Selected 0", "Display Device.Video_1~10"}}),
+      without("Composite_Video_Selected", uncontrolledDisplay, true, "",
+              {{"Receiver.RGB_Selected 0", "Display Device.RGB_1~10"}}),
+      without("Input_Error", threeInputs, true, "",
+              {{"Receiver.Input1_Error 0", ""},
+               {"Kestrum Interface.System_Lock 0", "call System Lock"}}),
+      without("System_Ready_Pulse", contact, false, "",
+              {{"Digital Input 2.dig_input_1 1", "call System Lock"}}),
+      without("Digital Input 2", plain, false, "", {{"Receiver is Volume Knob Control", "0d"}}),
+      without("Digital Input 3", mute, false, ""),
+      without("Volume Knob Control", plain, false, "Failed to find Volume Knob Control"),
+      without("Mic Mode Control", plain, false, "Failed to find Mic Mode Control",
+              {{"Receiver is Volume Knob Control", "1d"}}),
+      {"\"1d\"", "\"2d\"", plain, false, "Failed to set property value Volume Knob Control to 1d"},
+      without("Volume_Mute_On", muteBesideSteps, false,
+              "Cannot find command Volume_Mute_On on device Receiver",
+              {{"Digital Input 3.dig_input_1 1", ""}}),
+      without("Volume_Mute_Off", mute, false,
+              "Cannot find command Volume_Mute_Off on device Receiver",
+              {{"Digital Input 3.dig_input_1 0", "Receiver.Volume_Mute_On"}}),
+      {R"("key": 1,)", R"("key": 77,)", sensedDisplay, true, ""},
+
+      // The motion detector.
+      without("Motion_Detected", monitoredDetector, false, ""),
+      without("Timeout", timeout, false, "Failed to find Timeout"),
+      {timed + unrefused,
+       timed + "400",
+       timeout,
+       false,
+       "Failed to set property value Timeout to 600",
+       {{"Motion Detector.Motion_Detected 1", ""}}},
+
+      // The monitoring interface.
+      without("Room_Occupied", detectorBesideSteps, false,
+              "Cannot find command Room_Occupied on device Kestrum Interface",
+              {{"Motion Detector.Motion_Detected 0", ""}}),
+      without("System_Off_Warning_Time", kestrum, true, "Failed to find System_Off_Warning_Time",
+              {{"Kestrum Interface.System_Lock 0", "call System Lock"}}),
+      {R"("type": "text", "max_length": 6)",
+       R"("type": "constant", "choices": ["60d"])",
+       kestrum,
+       true,
+       "Failed to set property value System_Off_Warning_Time to 0d",
+       {{"Kestrum Interface.System_Lock 0", "call System Lock"}}},
+      without("Display_Usage", screen, true, "",
+              {{"Kestrum Interface.System_Lock 0", "call System Lock"}}),
+      without("Display_Power_State", monitoredLockout, false,
+              "Cannot find command Display_Power_State on device Kestrum Interface",
+              {{"PWRTIMEOUT.Warming_Up 1", ""}, {"System Power On", ""}}),
+      without("Digital_Attribute_8_Name", kestrum, false, "",
+              {{"Kestrum Interface.Custom_Digital_Notify_7 <-", "Digital Input 1.dig_input_1"},
+               {"Kestrum Interface.Custom_Digital_Notify_9 <-", ""}}),
+      {R"("type": "text", "max_length": 32)",
+       R"("type": "text", "max_length": 3)",
+       kestrum,
+       true,
+       "",
+       {{"Kestrum Interface.Custom_Digital_Notify_8 <-", "Digital Input 2.dig_input_1"}}},
+
+      // The lockout module.
+      without("Warming_Up", lockout, false, "", {{"PWRTIMEOUT.Cooling_Down 1", ""}}),
+      without("Cooling_Down", lockout, false, "",
+              {{"PWRTIMEOUT.Warming_Up events", "7"}, {"System Power On", ""}}),
+      without("Warm Up Time", lockout, false, "Failed to find Warm Up Time", slotsAreSet),
+      {warm + unrefused, warm + "30",
+       [](Room& room) {
+         lockout(room);
+         room.addIn().put_PowerOnLockoutTime(31);
+       },
+       false, "Failed to set property value Warm Up Time to 31", slotsAreSet},
+      {cool + unrefused, cool + "69", lockout, false,
+       "Failed to set property value Cool Down Time to 70",
+       with(slotsAreSet, {{"PWRTIMEOUT is Warm Up Time", "30"}})},
+      {slots, R"("slots": [])", lockout, true, "", {{"PWRTIMEOUT is Cool Down Time", "70"}}},
+      {slots,
+       R"("slots": ["POWER_ON", "power_off"])",
+       lockout,
+       true,
+       "",
+       {{"PWRTIMEOUT slot POWER_ON", "Display Device.Power_On"},
+        {"PWRTIMEOUT slot power_off", "Display Device.Power_Off"}}},
+      {"\"PWRTIMEOUT\"",
+       "\"PwrTimeOut\"",
+       monitoredLockout,
+       true,
+       "",
+       {{"PwrTimeOut.Warming_Up 0", state + "2d"}, {"PwrTimeOut is Warm Up Time", "30"}}},
+      {R"("Warming_Up", "signal": "digital")",
+       R"("Warming_Up", "signal": "digital", "options": false)",
+       monitoredLockout,
+       true,
+       "",
+       {{"PWRTIMEOUT.Warming_Up 0", state + "2d"}, {"PWRTIMEOUT.Warming_Up events", ""}}},
+  };
+}
+
+TEST_F(BrokenRoomTest, stopsOrGoesOnWithItsTextAndWithWhatWasWrittenBefore) {
+  for (const Broken& broken : everyBroken()) {
+    SCOPED_TRACE(broken.text + " -> " + broken.replacement);
+    Room room(tests::dataWith(broken.text, broken.replacement));
+    broken.answers(room);
+    EXPECT_EQ(room.build(), broken.built);
+    EXPECT_EQ(room.builder().GetLastError(), broken.error);
+    for (const auto& [place, text] : broken.places) EXPECT_EQ(room.at(place), text) << place;
+    if (broken.built) {
+      EXPECT_EQ(room.errors(), std::vector<std::string>{});
+    }
+  }
+}
+
+TEST_F(BrokenRoomTest, thatTheGeneratorDoesNotExpectIsAnErrorOfTheHost) {
+  for (const auto& [name, answers] : {std::pair<std::string, Answers>{"Cool Down Time", lockout},
+                                      {"Custom_Digital_Command_8", kestrum}}) {
+    Room room(tests::dataWithout(name));
+    answers(room);
+    EXPECT_THROW(static_cast<void>(room.build()), host::Error) << name;
+  }
+}
+
+TEST_F(BrokenRoomTest, keepsItsLastErrorWhenTheNextRunOfTheSameBuilderSucceeds) {
+  Room room;
+  lockout(room);
+  room.givenNoModules();
+  generator::Generate builder;
+  EXPECT_FALSE(builder.Build());
+  room.addIn().put_PowerOnLockoutTime(0);
+  room.addIn().put_PowerOffLockoutTime(0);
+  EXPECT_TRUE(builder.Build());
+  EXPECT_EQ(builder.GetLastError(), "Failed to add Power On/Off Lockout module.");
+}
+
+}  // namespace

@@ -9,6 +9,7 @@
 #include "forms/Components.h"
 #include "host/Error.h"
 #include "tests/generator/Room.h"
+#include "tests/support/Files.h"
 #include "tests/support/ScriptedDesktop.h"
 
 namespace {
@@ -165,6 +166,8 @@ std::vector<Broken> everyBroken() {
 
       // The motion detector.
       without("Motion_Detected", monitoredDetector, false, ""),
+      without("Motion_Detected", timeout, false, "", {{"Motion Detector is Timeout", "600"}}),
+      without("Timeout", detector, true, ""),
       without("Timeout", timeout, false, "Failed to find Timeout"),
       {timed + unrefused,
        timed + "400",
@@ -240,7 +243,9 @@ std::vector<Broken> everyBroken() {
 TEST_F(BrokenRoomTest, stopsOrGoesOnWithItsTextAndWithWhatWasWrittenBefore) {
   for (const Broken& broken : everyBroken()) {
     SCOPED_TRACE(broken.text + " -> " + broken.replacement);
-    Room room(tests::dataWith(broken.text, broken.replacement));
+    const tests::TemporaryFolder data;
+    tests::copyData(data.path(), broken.text, broken.replacement);
+    Room room(data.path());
     broken.answers(room);
     EXPECT_EQ(room.build(), broken.built);
     EXPECT_EQ(room.builder().GetLastError(), broken.error);
@@ -252,11 +257,13 @@ TEST_F(BrokenRoomTest, stopsOrGoesOnWithItsTextAndWithWhatWasWrittenBefore) {
 }
 
 TEST_F(BrokenRoomTest, thatTheGeneratorDoesNotExpectIsAnErrorOfTheHost) {
-  for (const auto& [name, answers] : {std::pair<std::string, Answers>{"Cool Down Time", lockout},
-                                      {"Custom_Digital_Command_8", kestrum}}) {
-    Room room(tests::dataWithout(name));
-    answers(room);
-    EXPECT_THROW(static_cast<void>(room.build()), host::Error) << name;
+  for (const Broken& broken : {without("Cool Down Time", lockout, false, ""),
+                               without("Custom_Digital_Command_8", kestrum, false, "")}) {
+    const tests::TemporaryFolder data;
+    tests::copyData(data.path(), broken.text, broken.replacement);
+    Room room(data.path());
+    broken.answers(room);
+    EXPECT_THROW(static_cast<void>(room.build()), host::Error) << broken.text;
   }
 }
 

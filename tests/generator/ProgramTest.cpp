@@ -89,6 +89,18 @@ TEST_F(ProgramTest, lampHoursComeFromTheFirstOutputThatTheDisplayHas) {
   }
 }
 
+TEST_F(ProgramTest, sourceWhoseCommandTheDisplayLacksIsNeitherSentNorLogged) {
+  Room room;
+  room.givenDisplay(host::powerDiscrete);
+  room.addIn().AddKestrum();
+  bool changed = false;
+  room.display()->SetCommandName(std::to_string(host::scRGB1), "Dance", changed);
+  EXPECT_TRUE(room.build());
+  EXPECT_EQ(room.builder().GetLastError(), "Cannot find command Dance on device Display Device");
+  EXPECT_EQ(room.at("Receiver.RGB_Selected 0"), "");
+  EXPECT_EQ(room.errors().size(), 1U) << "the branch in Display Power On names it all the same";
+}
+
 TEST_F(ProgramTest, audioAnswersBecomePropertiesAndMutingStaysOnTheInput) {
   Room room;
   room.addIn().put_VolumeKnobControl(true);

@@ -2,12 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 #include "addin/modGlobals.h"
 #include "forms/Paths.h"
+#include "tests/support/Files.h"
 #include "trellisar/DeviceLibrary.h"
 
 namespace tests {
@@ -41,24 +40,16 @@ class NoModules : public host::LibraryManager {
 
 std::filesystem::path shippedData() { return std::filesystem::path(ORLENA_SOURCE_FOLDER) / "data"; }
 
-std::filesystem::path dataWith(const std::string& text, const std::string& replacement) {
-  const auto folder = std::filesystem::path(testing::TempDir()) / "generator";
-  std::filesystem::remove_all(folder);
+void copyData(const std::filesystem::path& folder, const std::string& text,
+              const std::string& replacement) {
   for (const std::string part : {"library", "TemplateSystems"}) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(shippedData() / part)) {
       if (!entry.is_regular_file()) continue;
       const auto copy = folder / std::filesystem::relative(entry.path(), shippedData());
       std::filesystem::create_directories(copy.parent_path());
-      std::stringstream original;
-      original << std::ifstream(entry.path()).rdbuf();
-      std::ofstream(copy) << replaced(original.str(), text, replacement);
+      writeFile(copy, replaced(fileText(entry.path()), text, replacement));
     }
   }
-  return folder;
-}
-
-std::filesystem::path dataWithout(const std::string& name) {
-  return dataWith("\"" + name + "\"", "\"Another " + name + "\"");
 }
 
 Room::Room(const std::filesystem::path& data)

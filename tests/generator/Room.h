@@ -17,10 +17,9 @@ namespace tests {
 
 /// What the host ships: the template system, the example and the device library.
 std::filesystem::path shippedData();
-/// The same with a text replaced in all of it.
-std::filesystem::path dataWith(const std::string& text, const std::string& replacement);
-/// The same with something under another name.
-std::filesystem::path dataWithout(const std::string& name);
+/// Copies it, with a text replaced in all files.
+void copyData(const std::filesystem::path& folder, const std::string& text,
+              const std::string& replacement);
 
 /// A room whose program is built: the open system of a host of its own, and the add-in with the
 /// answers. It begins as the template, without a display, and becomes the thread's current one when

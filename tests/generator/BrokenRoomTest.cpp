@@ -31,13 +31,19 @@ struct Broken {
   Answers answers;
   bool built;
   std::string error;
-  Places places = {};  // what shows how far the run came
+  Places places;  // what shows how far the run came
 };
+
+Broken replacing(const std::string& text, const std::string& replacement, Answers answers,
+                 bool built, const std::string& error, Places places = {}) {
+  return {text, replacement, std::move(answers), built, error, std::move(places)};
+}
 
 /// A name that is not there.
 Broken without(const std::string& name, Answers answers, bool built, const std::string& error,
                Places places = {}) {
-  return {"\"" + name + "\"", "\"Another\"", std::move(answers), built, error, std::move(places)};
+  return replacing("\"" + name + "\"", "\"Another\"", std::move(answers), built, error,
+                   std::move(places));
 }
 
 void plain(Room& room) { room.addIn().put_VolumeKnobControl(true); }
@@ -66,6 +72,10 @@ void lockout(Room& room) {
   display(room);
   room.addIn().put_PowerOnLockoutTime(30);
   room.addIn().put_PowerOffLockoutTime(70);
+}
+void longLockout(Room& room) {
+  lockout(room);
+  room.addIn().put_PowerOnLockoutTime(31);
 }
 void monitoredLockout(Room& room) {
   lockout(room);
@@ -100,24 +110,11 @@ void triggerBesideSteps(Room& room) {
   putInto(room, room.addIn().get_KestrumID(), "System_Unlock", host::eventHigh);
 }
 
-const Places slotsAreSet{{"PWRTIMEOUT slot Power_On", "Display Device.Power_On"},
-                         {"PWRTIMEOUT slot Power_Off", "Display Device.Power_Off"}};
+const std::string integer = R"(, "type": "integer", "minimum": 0, "maximum": )";
+const std::string notRefused = integer + "32767";
 
-Places with(Places places, const Places& more) {
-  places.insert(places.end(), more.begin(), more.end());
-  return places;
-}
-
-std::vector<Broken> everyBroken() {
-  const std::string integer = R"(, "type": "integer", "minimum": 0, "maximum": )";
-  const std::string timed = R"("name": "Timeout", "value": "300")" + integer;
-  const std::string warm = R"("name": "Warm Up Time", "value": "30")" + integer;
-  const std::string cool = R"("name": "Cool Down Time", "value": "60")" + integer;
-  const std::string slots = R"("slots": ["Power_On", "Power_Off"])";
-  const std::string unrefused = "32767";
-  const std::string state = "Kestrum Interface.Display_Power_State=";
+std::vector<Broken> presetsOfTheTemplate() {
   return {
-      // Presets of the template.
       without("System Lock", plain, false, "Cannot find sequence: System Lock"),
       without("System Unlock", plain, false, "Cannot find sequence: System Unlock"),
       without("System Unlock", triggerBesideSteps, false, "",
@@ -135,8 +132,11 @@ std::vector<Broken> everyBroken() {
       without("Display Power Off", display, false, "Cannot find sequence: Display Power Off",
               {{"System Power On", "call Display Power On"},
                {"System Power Off", "Receiver.Power_Off"}}),
+  };
+}
 
-      // The receiver and its inputs.
+std::vector<Broken> receiverAndInputs() {
+  return {
       without("Powered_On", display, false, "Failed to build power event for the OL receiver.",
               {{"Receiver.Powered_Off 0", "call System Power Off"},
                {"System Power Off", "call Display Power Off; Receiver.Power_Off"},
@@ -155,104 +155,103 @@ std::vector<Broken> everyBroken() {
       without("Volume Knob Control", plain, false, "Failed to find Volume Knob Control"),
       without("Mic Mode Control", plain, false, "Failed to find Mic Mode Control",
               {{"Receiver is Volume Knob Control", "1d"}}),
-      {"\"1d\"", "\"2d\"", plain, false, "Failed to set property value Volume Knob Control to 1d"},
+      replacing("\"1d\"", "\"2d\"", plain, false,
+                "Failed to set property value Volume Knob Control to 1d"),
       without("Volume_Mute_On", muteBesideSteps, false,
               "Cannot find command Volume_Mute_On on device Receiver",
               {{"Digital Input 3.dig_input_1 1", ""}}),
       without("Volume_Mute_Off", mute, false,
               "Cannot find command Volume_Mute_Off on device Receiver",
               {{"Digital Input 3.dig_input_1 0", "Receiver.Volume_Mute_On"}}),
-      {R"("key": 1,)", R"("key": 77,)", sensedDisplay, true, ""},
+      replacing(R"("key": 1,)", R"("key": 77,)", sensedDisplay, true, ""),
+  };
+}
 
-      // The motion detector.
+std::vector<Broken> motionDetector() {
+  const std::string timeoutOf = R"("name": "Timeout", "value": "300")";
+  return {
       without("Motion_Detected", monitoredDetector, false, ""),
       without("Motion_Detected", timeout, false, "", {{"Motion Detector is Timeout", "600"}}),
       without("Timeout", detector, true, ""),
       without("Timeout", timeout, false, "Failed to find Timeout"),
-      {timed + unrefused,
-       timed + "400",
-       timeout,
-       false,
-       "Failed to set property value Timeout to 600",
-       {{"Motion Detector.Motion_Detected 1", ""}}},
+      replacing(timeoutOf + notRefused, timeoutOf + integer + "400", timeout, false,
+                "Failed to set property value Timeout to 600",
+                {{"Motion Detector.Motion_Detected 1", ""}}),
+  };
+}
 
-      // The monitoring interface.
+std::vector<Broken> monitoringInterface() {
+  const Places wiredToTheEnd{{"Kestrum Interface.System_Lock 0", "call System Lock"}};
+  return {
       without("Room_Occupied", detectorBesideSteps, false,
               "Cannot find command Room_Occupied on device Kestrum Interface",
               {{"Motion Detector.Motion_Detected 0", ""}}),
       without("System_Off_Warning_Time", kestrum, true, "Failed to find System_Off_Warning_Time",
-              {{"Kestrum Interface.System_Lock 0", "call System Lock"}}),
-      {R"("type": "text", "max_length": 6)",
-       R"("type": "constant", "choices": ["60d"])",
-       kestrum,
-       true,
-       "Failed to set property value System_Off_Warning_Time to 0d",
-       {{"Kestrum Interface.System_Lock 0", "call System Lock"}}},
-      without("Display_Usage", screen, true, "",
-              {{"Kestrum Interface.System_Lock 0", "call System Lock"}}),
+              wiredToTheEnd),
+      replacing(R"("type": "text", "max_length": 6)", R"("type": "constant", "choices": ["60d"])",
+                kestrum, true, "Failed to set property value System_Off_Warning_Time to 0d",
+                wiredToTheEnd),
+      without("Display_Usage", screen, true, "", wiredToTheEnd),
       without("Display_Power_State", monitoredLockout, false,
               "Cannot find command Display_Power_State on device Kestrum Interface",
               {{"PWRTIMEOUT.Warming_Up 1", ""}, {"System Power On", ""}}),
       without("Digital_Attribute_8_Name", kestrum, false, "",
               {{"Kestrum Interface.Custom_Digital_Notify_7 <-", "Digital Input 1.dig_input_1"},
                {"Kestrum Interface.Custom_Digital_Notify_9 <-", ""}}),
-      {R"("type": "text", "max_length": 32)",
-       R"("type": "text", "max_length": 3)",
-       kestrum,
-       true,
-       "",
-       {{"Kestrum Interface.Custom_Digital_Notify_8 <-", "Digital Input 2.dig_input_1"}}},
+      replacing(R"("type": "text", "max_length": 32)", R"("type": "text", "max_length": 3)",
+                kestrum, true, "",
+                {{"Kestrum Interface.Custom_Digital_Notify_8 <-", "Digital Input 2.dig_input_1"}}),
+  };
+}
 
-      // The lockout module.
+std::vector<Broken> lockoutModule() {
+  const std::string warmUp = R"("name": "Warm Up Time", "value": "30")";
+  const std::string coolDown = R"("name": "Cool Down Time", "value": "60")";
+  const std::string slots = R"("slots": ["Power_On", "Power_Off"])";
+  const Places slotsAreSet{{"PWRTIMEOUT slot Power_On", "Display Device.Power_On"},
+                           {"PWRTIMEOUT slot Power_Off", "Display Device.Power_Off"}};
+  const std::string warming = "Kestrum Interface.Display_Power_State=2d";
+  return {
       without("Warming_Up", lockout, false, "", {{"PWRTIMEOUT.Cooling_Down 1", ""}}),
       without("Cooling_Down", lockout, false, "",
               {{"PWRTIMEOUT.Warming_Up events", "7"}, {"System Power On", ""}}),
       without("Warm Up Time", lockout, false, "Failed to find Warm Up Time", slotsAreSet),
-      {warm + unrefused, warm + "30",
-       [](Room& room) {
-         lockout(room);
-         room.addIn().put_PowerOnLockoutTime(31);
-       },
-       false, "Failed to set property value Warm Up Time to 31", slotsAreSet},
-      {cool + unrefused, cool + "69", lockout, false,
-       "Failed to set property value Cool Down Time to 70",
-       with(slotsAreSet, {{"PWRTIMEOUT is Warm Up Time", "30"}})},
-      {slots, R"("slots": [])", lockout, true, "", {{"PWRTIMEOUT is Cool Down Time", "70"}}},
-      {slots,
-       R"("slots": ["POWER_ON", "power_off"])",
-       lockout,
-       true,
-       "",
-       {{"PWRTIMEOUT slot POWER_ON", "Display Device.Power_On"},
-        {"PWRTIMEOUT slot power_off", "Display Device.Power_Off"}}},
-      {"\"PWRTIMEOUT\"",
-       "\"PwrTimeOut\"",
-       monitoredLockout,
-       true,
-       "",
-       {{"PwrTimeOut.Warming_Up 0", state + "2d"}, {"PwrTimeOut is Warm Up Time", "30"}}},
-      {R"("Warming_Up", "signal": "digital")",
-       R"("Warming_Up", "signal": "digital", "options": false)",
-       monitoredLockout,
-       true,
-       "",
-       {{"PWRTIMEOUT.Warming_Up 0", state + "2d"}, {"PWRTIMEOUT.Warming_Up events", ""}}},
+      replacing(warmUp + notRefused, warmUp + integer + "30", longLockout, false,
+                "Failed to set property value Warm Up Time to 31", slotsAreSet),
+      replacing(coolDown + notRefused, coolDown + integer + "69", lockout, false,
+                "Failed to set property value Cool Down Time to 70",
+                {{"PWRTIMEOUT is Warm Up Time", "30"}, slotsAreSet[0], slotsAreSet[1]}),
+      replacing(slots, R"("slots": [])", lockout, true, "",
+                {{"PWRTIMEOUT is Cool Down Time", "70"}}),
+      replacing(slots, R"("slots": ["POWER_ON", "power_off"])", lockout, true, "",
+                {{"PWRTIMEOUT slot POWER_ON", "Display Device.Power_On"},
+                 {"PWRTIMEOUT slot power_off", "Display Device.Power_Off"}}),
+      replacing("\"PWRTIMEOUT\"", "\"PwrTimeOut\"", monitoredLockout, true, "",
+                {{"PwrTimeOut.Warming_Up 0", warming}, {"PwrTimeOut is Warm Up Time", "30"}}),
+      replacing(R"("Warming_Up", "signal": "digital")",
+                R"("Warming_Up", "signal": "digital", "options": false)", monitoredLockout, true,
+                "", {{"PWRTIMEOUT.Warming_Up 0", warming}, {"PWRTIMEOUT.Warming_Up events", ""}}),
   };
 }
 
+void expectAsTold(const Broken& broken) {
+  SCOPED_TRACE(broken.text + " -> " + broken.replacement);
+  const tests::TemporaryFolder data;
+  tests::copyData(data.path(), broken.text, broken.replacement);
+  Room room(data.path());
+  broken.answers(room);
+  EXPECT_EQ(room.build(), broken.built);
+  EXPECT_EQ(room.builder().GetLastError(), broken.error);
+  for (const auto& [place, text] : broken.places) EXPECT_EQ(room.at(place), text) << place;
+  if (broken.built) {
+    EXPECT_EQ(room.errors(), std::vector<std::string>{});
+  }
+}
+
 TEST_F(BrokenRoomTest, stopsOrGoesOnWithItsTextAndWithWhatWasWrittenBefore) {
-  for (const Broken& broken : everyBroken()) {
-    SCOPED_TRACE(broken.text + " -> " + broken.replacement);
-    const tests::TemporaryFolder data;
-    tests::copyData(data.path(), broken.text, broken.replacement);
-    Room room(data.path());
-    broken.answers(room);
-    EXPECT_EQ(room.build(), broken.built);
-    EXPECT_EQ(room.builder().GetLastError(), broken.error);
-    for (const auto& [place, text] : broken.places) EXPECT_EQ(room.at(place), text) << place;
-    if (broken.built) {
-      EXPECT_EQ(room.errors(), std::vector<std::string>{});
-    }
+  for (const auto& table : {presetsOfTheTemplate(), receiverAndInputs(), motionDetector(),
+                            monitoringInterface(), lockoutModule()}) {
+    for (const Broken& broken : table) expectAsTold(broken);
   }
 }
 

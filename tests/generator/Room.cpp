@@ -42,14 +42,18 @@ std::filesystem::path shippedData() { return std::filesystem::path(ORLENA_SOURCE
 
 void copyData(const std::filesystem::path& folder, const std::string& text,
               const std::string& replacement) {
+  bool isThere = false;
   for (const std::string part : {"library", "TemplateSystems"}) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(shippedData() / part)) {
       if (!entry.is_regular_file()) continue;
       const auto copy = folder / std::filesystem::relative(entry.path(), shippedData());
       std::filesystem::create_directories(copy.parent_path());
-      writeFile(copy, replaced(fileText(entry.path()), text, replacement));
+      const std::string original = fileText(entry.path());
+      isThere |= original.find(text) != std::string::npos;
+      writeFile(copy, replaced(original, text, replacement));
     }
   }
+  EXPECT_TRUE(isThere) << text << " is not in the data";
 }
 
 Room::Room(const std::filesystem::path& data)

@@ -17,7 +17,7 @@ namespace tests {
 
 /// What the host ships: the template system, the example and the device library.
 std::filesystem::path shippedData();
-/// Copies it, with a text replaced in all files.
+/// Copies it, with a text replaced in all files, one of which must hold it.
 void copyData(const std::filesystem::path& folder, const std::string& text,
               const std::string& replacement);
 

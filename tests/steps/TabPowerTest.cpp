@@ -83,6 +83,19 @@ TEST_F(TabPowerTest, SecondOffStartsAsThePowerOffCommandAndStoresItsDelay) {
   });
 }
 
+TEST_F(TabPowerTest, DelayStaysWithItsSystem) {
+  onStep("Bravonne P2200", [&] {
+    click("chkSecondOff");
+    hold("txtSecondOff", "9");
+    clickInWindow("cmdSave");
+    clickInWindow("cmdNew");
+    goTo("Power Control");
+    next();
+    EXPECT_EQ(addIn->get_iSecondPowerOff(), 0);
+    EXPECT_FALSE(isModified());
+  });
+}
+
 TEST_F(TabPowerTest, LeavingDiscreteKeepsTheSecondCommandAndAClearedPowerOffDoesNot) {
   onStep("Bravonne P2200", [&] {
     click("chkSecondOff");

@@ -228,6 +228,7 @@ void TabOrigination::cmdMove_Click(std::int32_t lOffset) {
   lvwTransmitters.setText(lRow, lTypeColumn, lvwTransmitters.text(lTarget, lTypeColumn));
   lvwTransmitters.setText(lTarget, lTypeColumn, strType);
   lvwTransmitters.setSelectedRow(lTarget);
+  gDocument().MarkChanged();
 }
 
 void TabOrigination::cmdRename_Click() {

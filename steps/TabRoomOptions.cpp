@@ -187,7 +187,10 @@ void TabRoomOptions::chkOccupancy_Click() {
 }
 
 /// The next validation writes the value.
-void TabRoomOptions::chkPowerTimeout_Click() { EnableTimeout(chkPowerTimeout.isChecked()); }
+void TabRoomOptions::chkPowerTimeout_Click() {
+  if (!m_bLoading) gDocument().MarkChanged();
+  EnableTimeout(chkPowerTimeout.isChecked());
+}
 
 /// The password itself changes at its next validation.
 void TabRoomOptions::chkEnablePwd_Click() {
@@ -242,14 +245,21 @@ void TabRoomOptions::lblKestrum_Click() {
 
 void TabRoomOptions::OtherTabClicked() {
   SetTabStops(false);
+  ValidateBoxes();
+}
+
+void TabRoomOptions::ValidateBoxes() {
   txtFenletPassword_Validate();
-  bool Cancel = false;  // the step is left whatever the box holds
+  bool Cancel = false;  // nothing is refused, whatever the box holds
   txtPowerOffTimeout_Validate(Cancel);
 }
 
+/// What the page shows is saved as it is when the page is left, so that a box that was unticked
+/// takes its value with it.
 bool TabRoomOptions::iTab_SaveData() {
   m_bSaving = true;
   validateActiveControl();
+  if (isShown()) ValidateBoxes();
   return false;
 }
 

@@ -52,6 +52,7 @@ class TabRoomOptions : public WizardStep {
   void EnablePassword(bool bEnabled);
   void EnableTimeout(bool bEnabled);
   void EnableOccupancyOptions(bool bEnabled);
+  void ValidateBoxes();
   void ApplyTimeout() const;
   void LayOut();
 

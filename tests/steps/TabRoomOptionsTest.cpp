@@ -132,10 +132,14 @@ TEST_F(TabRoomOptionsTest, TimeoutReachesTheSensorInSeconds) {
     EXPECT_EQ(text("txtPowerOffTimeout"), "0");
     enterAndLeave("txtPowerOffTimeout", "7", "chkOccupancy");
     EXPECT_EQ(sensorTimeout(), "420");
+    document().MarkUnchanged();
+    document().get_SystemInfo()->put_ProgramIsCurrent(true);
     click("chkPowerTimeout");
     EXPECT_EQ(addIn->get_MotionSensorTimeout(), 420);
-    leave();
+    EXPECT_TRUE(isModified());
+    clickInWindow("cmdSave");
     EXPECT_EQ(addIn->get_MotionSensorTimeout(), 0);
+    EXPECT_FALSE(document().get_SystemInfo()->get_ProgramIsCurrent());
     EXPECT_EQ(sensorTimeout() + text("txtPowerOffTimeout"), "00");
   });
 }

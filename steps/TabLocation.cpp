@@ -122,19 +122,18 @@ void TabLocation::RestoreLastName() {
 }
 
 void TabLocation::UpdateFolderFromName() {
-  std::string strParent = ParentFolder(txtLocation.text());
-  // The second backslash stands for the missing name, so that the next edit stays in this folder.
-  if (TrimmedName().empty()) strParent += "\\";
-  txtLocation.setText(SystemFolder(strParent));
-  txtLocation.setToolTip(strParent);
+  PutParentFolder(ParentFolder(txtLocation.text()));
   if (!m_bLoading) gAddIn().put_FolderChecksOK(false);
 }
 
-std::string TabLocation::TrimmedName() const { return forms::trimmed(txtSystemName.text()); }
-
-std::string TabLocation::SystemFolder(const std::string& strParent) const {
-  return AddBackslash(AddBackslash(strParent) + TrimmedName());
+/// A second backslash stands for a missing name, so that the next edit stays in this folder.
+void TabLocation::PutParentFolder(const std::string& strFolder) {
+  const std::string strParent = AddBackslash(strFolder);
+  txtLocation.setText(strParent + TrimmedName() + "\\");
+  txtLocation.setToolTip(strParent);
 }
+
+std::string TabLocation::TrimmedName() const { return forms::trimmed(txtSystemName.text()); }
 
 void TabLocation::txtSystemName_LostFocus() {
   if (txtSystemName.text().empty()) {
@@ -152,8 +151,7 @@ void TabLocation::cmdBrowse_Click() {
   const std::string strFolder = common::BrowseForFolder(
       gAddIn().GetActiveWindowHandle(), "Save your system in this folder:", gDocument().get_Path());
   if (strFolder.empty()) return;
-  txtLocation.setText(SystemFolder(strFolder));
-  txtLocation.setToolTip(AddBackslash(strFolder));
+  PutParentFolder(strFolder);
 }
 
 void TabLocation::SetTabStops(bool bValue) {

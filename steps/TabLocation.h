@@ -33,9 +33,9 @@ class TabLocation : public WizardStep {
   void SetTabStops(bool bValue);
   void RestoreLastName();
   void UpdateFolderFromName();
+  void PutParentFolder(const std::string& strFolder);
   void MoveRegistrationIfFolderChanged();
   std::string TrimmedName() const;
-  std::string SystemFolder(const std::string& strParent) const;
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " Name && Location"};

@@ -108,4 +108,20 @@ TEST_F(TabLocationTest, BrowsedFolderTakesTheNameAndMovesTheRegistration) {
   });
 }
 
+TEST_F(TabLocationTest, FolderBrowsedWithoutANameHoldsTheNameTypedAfterwards) {
+  const tests::TemporaryFolder elsewhere;
+  const std::string parent = forms::fromMachinePath(elsewhere.path());
+  onStep([&] {
+    for (const char* blank : {"", "  "}) {
+      enter("txtSystemName", blank);
+      expectNameMessage(*blank ? "A system must have a name."
+                               : "Please enter a system name to continue.");
+      desktop.expectFolderDialog("Save your system in this folder:", parent);
+      click("cmdBrowse");
+      enter("txtSystemName", "Room");
+      EXPECT_EQ(location(), parent + "\\Room\\");
+    }
+  });
+}
+
 }  // namespace

@@ -80,10 +80,32 @@ void TabLocation::iTab_TabClicked() {
 
 void TabLocation::BeforeTabChange(bool& bCancel) {
   if (!gAddIn().get_FolderChecksOK()) {
-    bCancel = !gOwnerForm().CreateProjectFolder(txtLocation.text());
+    bCancel = !IsNameAccepted() || !gOwnerForm().CreateProjectFolder(txtLocation.text());
     gAddIn().put_FolderChecksOK(!bCancel);
   }
-  if (gAddIn().get_FolderChecksOK()) MoveRegistrationIfFolderChanged();
+  if (bCancel) {
+    forms::ignoringErrors([this] { txtSystemName.setFocus(); });
+  } else {
+    MoveRegistrationIfFolderChanged();
+  }
+}
+
+/// Who pressed the button that the page is left by has left the box, and has been told by then.
+bool TabLocation::IsNameAccepted() {
+  if (!m_bNameRefused || !txtSystemName.hasFocus()) m_bNameRefused = !CheckName();
+  return !m_bNameRefused;
+}
+
+/// False: the user has been told why the name can't be a system's.
+bool TabLocation::CheckName() {
+  if (txtSystemName.text().empty()) {
+    forms::Application::current().messageBox("Please enter a system name to continue.",
+                                             forms::Buttons::ok, forms::Icon::information,
+                                             gAddIn().IAddInContract_Title());
+    return false;
+  }
+  std::string strName = TrimmedName();
+  return gOwnerForm().CheckValidSystemName(strName);
 }
 
 bool TabLocation::iTab_SaveData() {
@@ -108,6 +130,7 @@ void TabLocation::txtSystemName_Change() {
     RestoreLastName();
   }
   m_strLastName = txtSystemName.text();
+  m_bNameRefused = false;
   UpdateFolderFromName();
   if (!m_bLoading && !gDocument().get_Modified()) gDocument().MarkChanged();
 }
@@ -136,15 +159,8 @@ void TabLocation::PutParentFolder(const std::string& strFolder) {
 std::string TabLocation::TrimmedName() const { return forms::trimmed(txtSystemName.text()); }
 
 void TabLocation::txtSystemName_LostFocus() {
-  if (txtSystemName.text().empty()) {
-    forms::Application::current().messageBox("Please enter a system name to continue.",
-                                             forms::Buttons::ok, forms::Icon::information,
-                                             gAddIn().IAddInContract_Title());
-    forms::ignoringErrors([this] { txtSystemName.setFocus(); });
-    return;
-  }
-  std::string strName = TrimmedName();
-  gOwnerForm().CheckValidSystemName(strName);  // it tells the user by itself
+  m_bNameRefused = !CheckName();
+  if (m_bNameRefused) forms::ignoringErrors([this] { txtSystemName.setFocus(); });
 }
 
 void TabLocation::cmdBrowse_Click() {

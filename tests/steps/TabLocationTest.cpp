@@ -67,11 +67,30 @@ TEST_F(TabLocationTest, EmptyNameKeepsTheParentFolderAndAsksForAName) {
     }
     enter("txtSystemName", "");
     expectNameMessage("Please enter a system name to continue.");
-    desktop.expectMessageWith(Icon::exclamation, "");
     next();
     EXPECT_EQ(currentStep(), "Name and Location");
     EXPECT_TRUE(name().hasFocus());
     user.type(name(), "Room");
+  });
+}
+
+TEST_F(TabLocationTest, NameThatNoFileCanHaveIsToldOnceAndRefusesPageAndSave) {
+  onStep([&] {
+    for (const std::string& name :
+         std::vector<std::string>{"..", ".", "Room\t1", {"Room\0", 5}, "  "}) {
+      for (const char* button : {"cmdNext", "cmdSave"}) {
+        enter("txtSystemName", name);
+        desktop.expectMessageWith(Icon::information, "");
+        clickInWindow(button);
+        EXPECT_EQ(currentStep(), "Name and Location");
+        EXPECT_TRUE(control("txtSystemName").hasFocus());
+      }
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(systemsFolder()));
+    EXPECT_EQ(callsOf("CreateProjectFolder"), 0);
+    enter("txtSystemName", "Room");
+    clickInWindow("cmdSave");
+    EXPECT_TRUE(std::filesystem::exists(systemFile("Room")));
   });
 }
 
@@ -114,8 +133,7 @@ TEST_F(TabLocationTest, FolderBrowsedWithoutANameHoldsTheNameTypedAfterwards) {
   onStep([&] {
     for (const char* blank : {"", "  "}) {
       enter("txtSystemName", blank);
-      expectNameMessage(*blank ? "A system must have a name."
-                               : "Please enter a system name to continue.");
+      desktop.expectMessageWith(Icon::information, "name");
       desktop.expectFolderDialog("Save your system in this folder:", parent);
       click("cmdBrowse");
       enter("txtSystemName", "Room");

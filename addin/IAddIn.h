@@ -186,7 +186,7 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   std::int16_t GetDigitalInputID(std::int16_t iInput) const;
   void HideDevice(std::int16_t iDeviceID);
   /// Assigning a device also gives it its standard commands, and the display its starting power
-  /// mode. 0 clears.
+  /// mode; a display that can't send a second Power Off unticks it. 0 clears.
   void put_DisplayDeviceID(std::int16_t iDeviceID);
   void put_ScreenDeviceID(std::int16_t iDeviceID);
   void put_LiftDeviceID(std::int16_t iDeviceID);

@@ -96,6 +96,18 @@ TEST_F(TabPowerTest, DelayStaysWithItsSystem) {
   });
 }
 
+TEST_F(TabPowerTest, DisplayWithoutASecondOffUnticksItAndKeepsItsNameAndDelay) {
+  onStep("Bravonne P2200", [&] {
+    click("chkSecondOff");
+    hold("txtSecondOff", "9");
+    enterWith("Bravonne P3500 Wide");
+    EXPECT_EQ(addIn->get_bSecondPowerOff(), 0);
+    enterWith("Bravonne P2200");
+    EXPECT_EQ(states({"chkSecondOff", "txtSecondOff"}), "o.");
+    EXPECT_EQ(selected(3) + text("txtSecondOff"), "Power_Off9");
+  });
+}
+
 TEST_F(TabPowerTest, LeavingDiscreteKeepsTheSecondCommandAndAClearedPowerOffDoesNot) {
   onStep("Bravonne P2200", [&] {
     click("chkSecondOff");

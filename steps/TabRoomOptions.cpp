@@ -1,5 +1,7 @@
 #include "steps/TabRoomOptions.h"
 
+#include <utility>
+
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -69,8 +71,15 @@ void TabRoomOptions::SetTabStops(bool bValue) {
   chkInclude(iFenlet).setTabStop(bValue);
 }
 
+void TabRoomOptions::iTab_TabClicked() {
+  SetTabStops(true);
+  m_strTakenTimeout.reset();
+  UntickMissingPassword();
+}
+
 bool TabRoomOptions::SetData() {
   m_bSaving = false;
+  m_strTakenTimeout.reset();
   ctlImage(iKestrum).put_Picture(LargePicture(host::pictureKestrum));
   ctlImage(iFenlet).put_Picture(LargePicture(host::pictureFenlet));
   chkOccupancy.setEnabled(true);
@@ -150,25 +159,58 @@ void TabRoomOptions::chkInclude_Click(std::int16_t Index) {
   }
 }
 
-/// The motion detector goes with the monitoring interface; its box shows that at the next SetData.
+/// The motion detector goes with the monitoring interface, and comes back with it in the same
+/// visit.
 void TabRoomOptions::IncludeKestrum(bool bInclude) {
   cmdAdvanced.setEnabled(bInclude);
   if (bInclude) {
     gAddIn().AddKestrum();
+    if (m_strTakenTimeout && gAddIn().get_KestrumID() > 0) chkOccupancy.setChecked(true);
   } else {
+    const bool bSensor = gAddIn().get_OccupancySensorID() >= 1;
     gAddIn().RemoveKestrum();
+    if (bSensor && gAddIn().get_OccupancySensorID() == 0) ShowSensorTakenAlong();
   }
   ShowIPID();
+}
+
+void TabRoomOptions::ShowSensorTakenAlong() {
+  m_strTakenTimeout = txtPowerOffTimeout.text();
+  const forms::Guard loading(m_bLoading);
+  chkOccupancy.setChecked(false);
+  ShowWithoutSensor();
+}
+
+void TabRoomOptions::ShowWithoutSensor() {
+  lblPort.setCaption("");
+  chkPowerTimeout.setChecked(false);
+  EnableOccupancyOptions(false);
+  EnableTimeout(false);
+}
+
+void TabRoomOptions::RestoreTimeout() {
+  const std::string strTimeout = std::exchange(m_strTakenTimeout, {}).value_or("");
+  if (strTimeout.empty()) return;
+  chkPowerTimeout.setChecked(true);
+  txtPowerOffTimeout.setText(strTimeout);
 }
 
 void TabRoomOptions::IncludeFenlet(bool bInclude) {
   if (bInclude) {
     gAddIn().AddFenlet();
+    UntickMissingPassword();
   } else {
     gAddIn().RemoveFenlet();
   }
   chkEnablePwd.setEnabled(bInclude);
   if (chkEnablePwd.isChecked()) EnablePassword(bInclude);
+}
+
+void TabRoomOptions::UntickMissingPassword() {
+  if (!gAddIn().get_FenletPassword().empty()) return;
+  const forms::Guard loading(m_bLoading);
+  chkEnablePwd.setChecked(false);
+  EnablePassword(false);
 }
 
 void TabRoomOptions::chkOccupancy_Click() {
@@ -177,13 +219,11 @@ void TabRoomOptions::chkOccupancy_Click() {
     gAddIn().AddOccupancySensor();
     ShowPort();
     EnableOccupancyOptions(true);
+    RestoreTimeout();
     return;
   }
   gAddIn().RemoveOccupancySensor();
-  lblPort.setCaption("");  // also where the sensor could not be removed
-  chkPowerTimeout.setChecked(false);
-  EnableOccupancyOptions(false);
-  EnableTimeout(false);
+  ShowWithoutSensor();  // also where the sensor could not be removed
 }
 
 /// The next validation writes the value.

@@ -47,14 +47,39 @@ TEST_F(TabRoomOptionsTest, BoxesAddAndRemoveTheirDevicesAtOnce) {
     EXPECT_EQ(text("lblPort") + text("txtPowerOffTimeout"), "");
     click("chkInclude(1)");
     EXPECT_EQ(addIn->get_FenletID(), 0);
-    click("chkOccupancy");
     click("chkInclude(0)");
-    EXPECT_FALSE(device("Kestrum Interface") || device("Motion Detector"));
+    EXPECT_FALSE(device("Kestrum Interface"));
     EXPECT_EQ(text("lblIPID"), "");
-    EXPECT_TRUE(isChecked("chkOccupancy")) << "the detector's box shows that later";
-    fill();
-    EXPECT_FALSE(isChecked("chkOccupancy"));
     EXPECT_EQ(dependent(), ".X.");
+  });
+}
+
+TEST_F(TabRoomOptionsTest, KestrumTakesTheDetectorAlongAndBringsItBackInTheSameVisit) {
+  onStep([&] {
+    click("chkInclude(0)");
+    click("chkOccupancy");
+    click("chkPowerTimeout");
+    enterAndLeave("txtPowerOffTimeout", "7", "chkOccupancy");
+    const auto occupancy = [&] {
+      return states({"chkOccupancy", "chkPowerTimeout", "txtPowerOffTimeout"}) +
+             text("txtPowerOffTimeout");
+    };
+    for (const char* box : {"chkInclude(0)", "chkOccupancy"}) {
+      click("chkInclude(0)");
+      EXPECT_FALSE(device("Kestrum Interface") || device("Motion Detector"));
+      EXPECT_EQ(text("lblPort") + occupancy(), "o..") << box;
+      click(box);
+      EXPECT_TRUE(device("Motion Detector"));
+      EXPECT_EQ(occupancy(), "xxo7") << box;
+      leave();
+      EXPECT_EQ(sensorTimeout(), "420");
+      if (!isChecked("chkInclude(0)")) click("chkInclude(0)");
+    }
+    click("chkInclude(0)");
+    leave();
+    EXPECT_EQ(addIn->get_MotionSensorTimeout(), 0);
+    click("chkInclude(0)");
+    EXPECT_EQ(occupancy(), "o..0");
   });
 }
 
@@ -120,6 +145,15 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
     EXPECT_EQ(addIn->get_FenletPassword(), "an Open Door of 20");
     leave();
     EXPECT_EQ(addIn->get_FenletPassword(), "");
+    expectPasswordBox(false, "");
+    EXPECT_EQ(states({"chkEnablePwd"}), ".") << "there is none to be protected with";
+
+    click("chkInclude(1)");
+    click("chkEnablePwd");
+    expectPasswordBox(true, "");
+    click("chkInclude(1)");
+    click("chkInclude(1)");
+    EXPECT_EQ(states({"chkEnablePwd"}), "o");
     expectPasswordBox(false, "");
   });
 }

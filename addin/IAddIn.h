@@ -144,8 +144,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   /// The form of SaveSystem that the save button and the question on closing use.
   bool SaveSystemAs() { return SaveSystem(false, true); }
   bool CheckSystemLocation();
-  /// Offers to save. True: the caller may go on. `iResponse` takes the answer when there was a
-  /// question.
+  /// Offers to save what would be lost, an open edit included. True: the caller may go on.
+  /// `iResponse` takes the answer when there was a question; only Yes looks at what the steps hold.
   bool QueryCloseSystem(forms::Answer& iResponse);
   std::string GetTemplatePath() const;
   void SetLibraryFilter();

@@ -143,14 +143,15 @@ void IAddIn::ShowWarnings(const ErrorItems& colErrorItems) const {
 
 bool IAddIn::QueryCloseSystem(Answer& iResponse) {
   if (!IsDocumentSet()) return true;
-  if (!CheckSystemLocation()) return false;
-  if (!gDocument().get_Modified()) return true;
+  if (!gDocument().get_Modified() && !m_frmAddIn->HasOpenEdit()) return true;
   iResponse = forms::Application::current().messageBox(
       "Do you wish to save the changes you made to the system?", Buttons::yesNoCancel,
       Icon::question, "Orlena");
-  // What the save answers is not looked at: Yes lets the wizard close even when it failed.
-  if (iResponse == Answer::yes) SaveSystemAs();
-  return iResponse != Answer::cancel;
+  if (iResponse != Answer::yes) return iResponse == Answer::no;
+  m_frmAddIn->TakeOpenEdit();
+  if (!CheckSystemLocation()) return false;
+  SaveSystemAs();  // not looked at: Yes lets the wizard close even when it failed
+  return true;
 }
 
 void IAddIn::SetLibraryFilter() {

@@ -169,6 +169,11 @@ void frmAddIn::ShowSteps(bool bShow) {
   ctlSteps.setVisible(bShow);
 }
 
+bool frmAddIn::HasOpenEdit() const {
+  const forms::Control* oControl = focus().control();
+  return oControl && oControl->hasOpenEdit();
+}
+
 bool frmAddIn::SaveData() {
   for (forms::UserControl* extStep : m_colSteps) host::AsTab(*extStep).iTab_SaveData();
   return true;
@@ -233,10 +238,14 @@ void frmAddIn::cmdNew_Click() {
 void frmAddIn::cmdFolder_Click() {
   Answer iResponse{};
   if (!gAddIn().QueryCloseSystem(iResponse)) return;
-  if (addin::IsDocumentSet()) gDocument().MarkUnchanged();
+  const bool bUnsaved = addin::IsDocumentSet() && gDocument().get_Modified();
+  if (bUnsaved) gDocument().MarkUnchanged();  // the host asks nothing further
   bool bCancelled = false;
   const bool bOpened = gAddIn().OpenSystemFile(bCancelled);
-  if (bCancelled || !bOpened) return;
+  if (bCancelled || !bOpened) {
+    if (bUnsaved && addin::IsDocumentSet()) gDocument().MarkChangedButProgram();
+    return;
+  }
   ctlTabs.SetCurrentTab(0);
   SetStepsData();
 }

@@ -26,6 +26,8 @@ class frmAddIn : public forms::Form, public addin::WizardWindow {
   bool get_CanFinish() const override { return cmdFinish.isEnabled(); }
   void put_CanFinish(bool bCanFinish) override { cmdFinish.setEnabled(bCanFinish); }
   const std::vector<forms::UserControl*>& GetControls() const override { return m_colSteps; }
+  bool HasOpenEdit() const override;
+  void TakeOpenEdit() override { focus().moveByUser(cmdSave); }
   bool SaveData() override;
 
  private:

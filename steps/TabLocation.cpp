@@ -167,6 +167,7 @@ void TabLocation::cmdBrowse_Click() {
   const std::string strFolder = common::BrowseForFolder(
       gAddIn().GetActiveWindowHandle(), "Save your system in this folder:", gDocument().get_Path());
   if (strFolder.empty()) return;
+  gDocument().MarkChangedButProgram();
   PutParentFolder(strFolder);
 }
 

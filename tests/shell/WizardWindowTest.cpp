@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "addin/modGlobals.h"
+#include "forms/ListView.h"
 #include "tests/wizard/Wizard.h"
 
 namespace {
@@ -13,6 +14,11 @@ using tests::Wizard;
 constexpr const char* exitQuestion = "Are you sure you want to exit the Orlena wizard?";
 
 class WizardWindow : public testing::Test, public Wizard {};
+
+void expectSaveQuestion(Wizard& wizard, Answer answer) {
+  wizard.desktop.expectMessage("Orlena", "Do you wish to save the changes you made to the system?",
+                               Buttons::yesNoCancel, Icon::question, answer);
+}
 
 /// Saves a wizard's system; the answer is a copy of it under another name.
 std::filesystem::path savedCopy(Wizard& wizard, const std::filesystem::path& folder) {
@@ -68,13 +74,70 @@ TEST_F(WizardWindow, FolderThatIsRefusedKeepsStepAndSystem) {
     EXPECT_EQ(currentStep(), "Name and Location");
     expectRefusal();
     clickInWindow("cmdSave");
+    expectSaveQuestion(*this, Answer::yes);
     expectRefusal();
     EXPECT_FALSE(user.close(window()));
     EXPECT_TRUE(window().isVisible());
     enter("txtSystemName", "Free");
     clickInWindow("cmdNext");
     EXPECT_EQ(currentStep(), "Display Device");
+    goTo("Name and Location");
+    enter("txtSystemName", "Taken");
+    expectSaveQuestion(*this, Answer::no);
+    EXPECT_TRUE(user.close(window()));
   });
+}
+
+/// Each on a saved system with a display and two transmitters, on the page named; what the file
+/// holds when the question is answered with Yes.
+struct UnsavedChange {
+  const char* page;
+  std::function<void(Wizard&)> make;
+  const char *inFile, *isCurrent;
+};
+
+const std::vector<UnsavedChange> unsavedChanges{
+    {"Power On/Off Lockout", [](Wizard& wizard) { wizard.enter("txtPowerLockoutTime(1)", "77"); },
+     "Power On Lockout Time=77;", "false"},
+    {"Orlena Transmitters",
+     [](Wizard& wizard) {
+       wizard.click("cmdRename");
+       wizard.user.labelText(wizard.control<forms::ListView>("lvwTransmitters"), "Podium");
+     },
+     "\"label\": \"Podium\"", "true"},
+    {"Orlena Transmitters",
+     [](Wizard& wizard) {
+       wizard.user.editLabel(wizard.control<forms::ListView>("lvwTransmitters"), 0, "Podium");
+     },
+     "\"label\": \"Podium\"", "true"},
+    {"Room Options", [](Wizard& wizard) { wizard.enter("txtFenletPassword", "lantern"); },
+     "Fenlet Password=lantern;", "true"},
+};
+
+TEST(WizardsSystem, ClosingAsksForWhateverWouldBeLostAndYesSavesIt) {
+  for (const UnsavedChange& change : unsavedChanges) {
+    Wizard wizard;
+    wizard.run([&] {
+      wizard.goTo("Display Device");
+      wizard.chooseDisplay("Bravonne P2200");
+      wizard.goTo("Orlena Transmitters");
+      for (int i = 0; i < 2; ++i) wizard.click("cmdAdd");
+      wizard.goTo("Room Options");
+      wizard.click("chkInclude(1)");
+      wizard.goTo(change.page);
+      wizard.clickInWindow("cmdSave");
+      wizard.document().get_SystemInfo()->put_ProgramIsCurrent(true);
+      change.make(wizard);
+      expectSaveQuestion(wizard, Answer::cancel);
+      EXPECT_FALSE(wizard.user.close(wizard.window()));
+      expectSaveQuestion(wizard, Answer::yes);
+      EXPECT_TRUE(wizard.user.close(wizard.window()));
+    });
+    const std::string saved = tests::fileText(wizard.systemFile("My Orlena System"));
+    EXPECT_NE(saved.find(change.inFile), std::string::npos) << change.inFile;
+    const std::string current = std::string("\"program_is_current\": ") + change.isCurrent;
+    EXPECT_NE(saved.find(current), std::string::npos) << change.inFile;
+  }
 }
 
 TEST(WizardsSystem, ClosingAModifiedSystemAsks) {
@@ -83,9 +146,7 @@ TEST(WizardsSystem, ClosingAModifiedSystemAsks) {
     wizard.run([&] {
       wizard.goTo("Name and Location");
       wizard.enter("txtSystemName", "Room 4");
-      wizard.desktop.expectMessage("Orlena",
-                                   "Do you wish to save the changes you made to the system?",
-                                   Buttons::yesNoCancel, Icon::question, answer);
+      expectSaveQuestion(wizard, answer);
       wizard.user.close(wizard.window());
       EXPECT_EQ(wizard.window().isVisible(), answer == Answer::cancel);
       EXPECT_EQ(std::filesystem::exists(wizard.systemFile("Room 4")), answer == Answer::yes);
@@ -115,11 +176,15 @@ TEST_F(WizardWindow, OpeningShowsTheSystemAndCancellingKeepsTheOldOne) {
   run([&] {
     const auto saved = savedCopy(*this, folder.path());
     goTo("Name and Location");
+    enter("txtSystemName", "Not saved");
+    expectSaveQuestion(*this, Answer::no);
     desktop.expectOpenDialog("Open System", "");
     clickInWindow("cmdFolder");
     EXPECT_EQ(currentStep(), "Name and Location");
-    EXPECT_EQ(text("txtSystemName"), "My Orlena System");
+    EXPECT_EQ(text("txtSystemName"), "Not saved");
+    EXPECT_TRUE(document().get_Modified());
 
+    expectSaveQuestion(*this, Answer::no);
     desktop.expectOpenDialog("Open System", forms::fromMachinePath(saved));
     clickInWindow("cmdFolder");
     EXPECT_EQ(currentStep(), "Start");

@@ -114,11 +114,13 @@ TEST_F(TabLocationTest, BrowsedFolderTakesTheNameAndMovesTheRegistration) {
     desktop.expectFolderDialog("Save your system in this folder:", "");
     click("cmdBrowse");
     EXPECT_EQ(location(), folder("My Orlena System"));
+    EXPECT_FALSE(isModified());
 
     desktop.expectFolderDialog("Save your system in this folder:", parent);
     click("cmdBrowse");
     EXPECT_EQ(desktop.lastFolderDialog().initialFolder, folder("My Orlena System"));
     EXPECT_EQ(location(), parent + "\\My Orlena System\\");
+    EXPECT_TRUE(isModified());
     host->journal().clear();
     next();
     EXPECT_EQ(callsOf("CreateProjectFolder"), 0);

@@ -131,7 +131,8 @@ TEST_F(TabOriginationTest, LabelIsTrimmedCutAndNeverEmpty) {
     given({"Wall"});
     for (const auto& [typed, label, message] :
          {Case{" Rostrum ", "Rostrum", nullptr}, Case{"12345678", "12345678", nullptr},
-          Case{"123456789", "12345678", tooLong}, Case{"Stühle \u00fc", "Stühle \u00fc", nullptr},
+          Case{"123456789", "12345678", tooLong}, Case{"Podium 1 2", "Podium 1", tooLong},
+          Case{"Lectern 12", "Lectern", tooLong}, Case{"Stühle \u00fc", "Stühle \u00fc", nullptr},
           Case{"   ", "Stühle \u00fc", tooShort}, Case{"", "Stühle \u00fc", tooShort}}) {
       if (message) expectMessage(message, forms::Icon::information);
       rename(0, typed);

@@ -85,6 +85,7 @@ void IAddIn::IAddInContract_Run(const std::shared_ptr<host::OwnerForm>& oOwnerFo
   });
   m_frmAddIn = forms::createObject<WizardWindow>(progIDWizardWindow);
   m_frmAddIn->ShowModal(oOwnerForm ? oOwnerForm->get_Form() : nullptr);
+  RemoveTriedFolders();
 }
 
 void IAddIn::IAddInContract_ShowPreview() { ShowPicture(progIDPreview, "Orlena", m_iPreviewImage); }

@@ -4,6 +4,7 @@
 #include "common/CommonFunctions.h"
 #include "forms/Application.h"
 #include "forms/Components.h"
+#include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/iTab.h"
 
@@ -24,6 +25,17 @@ const std::vector<std::int16_t> colFilter{1070, 1992, 1982, 1983, 1071, 1984, 19
 
 Answer Show(const std::string& strText, Icon eIcon, const std::string& strCaption) {
   return forms::Application::current().messageBox(strText, Buttons::ok, eIcon, strCaption);
+}
+
+/// The folder and those around it that are not there, the innermost first.
+std::vector<std::string> MissingFolders(const std::string& strFolder) {
+  std::vector<std::string> colMissing;
+  std::string strMissing = forms::withoutLast(common::AddBackslash(strFolder), 1);
+  while (!strMissing.empty() && !common::FolderExists(strMissing)) {
+    colMissing.push_back(strMissing);
+    strMissing = forms::withoutLast(forms::folderOf(strMissing), 1);
+  }
+  return colMissing;
 }
 
 std::string SystemFile() { return gDocument().get_Path() + gDocument().get_Name(); }
@@ -102,6 +114,19 @@ bool IAddIn::CheckSystemLocation() {
     if (bCancel) return false;
   }
   return true;
+}
+
+bool IAddIn::TrySystemFolder(const std::string& strFolder) {
+  const auto colMissing = MissingFolders(strFolder);
+  if (!gOwnerForm().CreateProjectFolder(strFolder)) return false;
+  m_colTriedFolders.insert(m_colTriedFolders.end(), colMissing.rbegin(), colMissing.rend());
+  return true;
+}
+
+void IAddIn::RemoveTriedFolders() {
+  for (; !m_colTriedFolders.empty(); m_colTriedFolders.pop_back()) {
+    common::RemoveEmptyFolder(m_colTriedFolders.back());
+  }
 }
 
 bool IAddIn::SaveSystem(bool bShowWarnings, bool bSaveAs) {

@@ -80,7 +80,7 @@ void TabLocation::iTab_TabClicked() {
 
 void TabLocation::BeforeTabChange(bool& bCancel) {
   if (!gAddIn().get_FolderChecksOK()) {
-    bCancel = !IsNameAccepted() || !gOwnerForm().CreateProjectFolder(txtLocation.text());
+    bCancel = !IsNameAccepted() || !gAddIn().TrySystemFolder(txtLocation.text());
     gAddIn().put_FolderChecksOK(!bCancel);
   }
   if (bCancel) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "addin/modGlobals.h"
 #include "forms/ListView.h"
 #include "tests/wizard/Wizard.h"
@@ -152,6 +154,26 @@ TEST(WizardsSystem, ClosingAModifiedSystemAsks) {
       EXPECT_EQ(std::filesystem::exists(wizard.systemFile("Room 4")), answer == Answer::yes);
     });
   }
+}
+
+TEST_F(WizardWindow, FoldersOfNamesThatWereTriedGoWithTheWizard) {
+  const auto inside = [&](const char* name) { return systemsFolder() / name; };
+  std::filesystem::create_directory(inside("Before"));
+  run([&] {
+    for (const char* name : {"Before", "Tried", "Filled", "Saved"}) {
+      goTo("Name and Location");
+      enter("txtSystemName", name);
+      clickInWindow("cmdNext");
+      EXPECT_TRUE(std::filesystem::exists(inside(name)));
+    }
+    tests::writeFile(inside("Filled") / "notes.txt", "by hand");
+    clickInWindow("cmdSave");
+  });
+  std::set<std::string> left;
+  for (const auto& entry : std::filesystem::directory_iterator(systemsFolder())) {
+    left.insert(entry.path().filename());
+  }
+  EXPECT_EQ(left, (std::set<std::string>{"Before", "Filled", "Saved"}));
 }
 
 TEST_F(WizardWindow, NewSystemTakesTheNextFreeName) {

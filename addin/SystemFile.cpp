@@ -59,8 +59,8 @@ bool IAddIn::NewSystem() {
   }
   const auto clsDocument = gOwnerForm().FileOpen(strTemplate, /*bUseRecovery=*/false);
   if (!clsDocument) {
-    Show("Failed to find " + strTemplate + ": Critical Error", Icon::critical,
-         IAddInContract_Title());
+    Show("Failed to find " + forms::toMachinePath(strTemplate).string() + ": Critical Error",
+         Icon::critical, IAddInContract_Title());
     return false;
   }
   SetDocument(clsDocument);

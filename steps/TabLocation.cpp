@@ -6,6 +6,7 @@
 #include "common/modBrowsePath.h"
 #include "forms/Application.h"
 #include "forms/Guard.h"
+#include "forms/Paths.h"
 #include "forms/Rows.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
@@ -56,8 +57,7 @@ bool TabLocation::SetData() {
     const auto clsInfo = gDocument().get_SystemInfo();
     txtSystemName.setMaxLength(clsInfo->get_MaxNameLength());
     txtSystemName.setText(clsInfo->get_SystemName());
-    txtLocation.setText(gDocument().get_Path());
-    txtLocation.setToolTip(ParentFolder(txtLocation.text()));
+    PutLocation(gDocument().get_Path(), ParentFolder(gDocument().get_Path()));
   }
   m_strLastName = txtSystemName.text();
   MoveRegistrationIfFolderChanged();
@@ -65,22 +65,22 @@ bool TabLocation::SetData() {
 }
 
 void TabLocation::MoveRegistrationIfFolderChanged() {
-  if (forms::equalsIgnoringCase(txtLocation.text(), m_strOldLocation)) return;
+  if (forms::equalsIgnoringCase(m_strLocation, m_strOldLocation)) return;
   gOwnerForm().ResetApplicationStatus(m_strOldLocation, m_strOldName);
-  gOwnerForm().SetApplicationStatus(txtLocation.text(), txtSystemName.text());
-  m_strOldLocation = txtLocation.text();
+  gOwnerForm().SetApplicationStatus(m_strLocation, txtSystemName.text());
+  m_strOldLocation = m_strLocation;
   m_strOldName = txtSystemName.text();
 }
 
 void TabLocation::iTab_TabClicked() {
   SetTabStops(true);
-  m_strOldLocation = txtLocation.text();
+  m_strOldLocation = m_strLocation;
   m_strOldName = txtSystemName.text();
 }
 
 void TabLocation::BeforeTabChange(bool& bCancel) {
   if (!gAddIn().get_FolderChecksOK()) {
-    bCancel = !IsNameAccepted() || !gAddIn().TrySystemFolder(txtLocation.text());
+    bCancel = !IsNameAccepted() || !gAddIn().TrySystemFolder(m_strLocation);
     gAddIn().put_FolderChecksOK(!bCancel);
   }
   if (bCancel) {
@@ -110,7 +110,7 @@ bool TabLocation::CheckName() {
 
 bool TabLocation::iTab_SaveData() {
   if (!addin::IsDocumentSet()) return false;
-  gDocument().put_Path(AddBackslash(txtLocation.text()));
+  gDocument().put_Path(AddBackslash(m_strLocation));
   if (!forms::equalsIgnoringCase(gDocument().get_Name(), TrimmedName())) {
     gDocument().put_Name(TrimmedName());
   }
@@ -145,15 +145,20 @@ void TabLocation::RestoreLastName() {
 }
 
 void TabLocation::UpdateFolderFromName() {
-  PutParentFolder(ParentFolder(txtLocation.text()));
+  PutParentFolder(ParentFolder(m_strLocation));
   if (!m_bLoading) gAddIn().put_FolderChecksOK(false);
 }
 
 /// A second backslash stands for a missing name, so that the next edit stays in this folder.
 void TabLocation::PutParentFolder(const std::string& strFolder) {
   const std::string strParent = AddBackslash(strFolder);
-  txtLocation.setText(strParent + TrimmedName() + "\\");
-  txtLocation.setToolTip(strParent);
+  PutLocation(strParent + TrimmedName() + "\\", strParent);
+}
+
+void TabLocation::PutLocation(const std::string& strFolder, const std::string& strParent) {
+  m_strLocation = strFolder;
+  txtLocation.setText(forms::toMachinePath(strFolder).string());
+  txtLocation.setToolTip(forms::toMachinePath(strParent).string());
 }
 
 std::string TabLocation::TrimmedName() const { return forms::trimmed(txtSystemName.text()); }

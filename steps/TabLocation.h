@@ -36,6 +36,7 @@ class TabLocation : public WizardStep {
   void RestoreLastName();
   void UpdateFolderFromName();
   void PutParentFolder(const std::string& strFolder);
+  void PutLocation(const std::string& strFolder, const std::string& strParent);
   void MoveRegistrationIfFolderChanged();
   std::string TrimmedName() const;
   void LayOut();
@@ -54,6 +55,7 @@ class TabLocation : public WizardStep {
   bool m_bRestoring = false;
   bool m_bNameRefused = false;  // and the user has been told
   std::string m_strLastName;
+  std::string m_strLocation;  // with backslashes; the box shows it as the machine writes it
   std::string m_strOldLocation;
   std::string m_strOldName;
 };

@@ -253,8 +253,8 @@ TEST_F(WizardWindow, MissingTemplateIsToldAndClosesTheWizard) {
   const auto fresh = std::make_shared<addin::IAddIn>();
   fresh->IAddInContract_Load(nullptr, host->libraryManager(), host->communication(),
                              host->smallPictures(), host->largePictures(), host->mainWindow());
-  const std::string path = forms::fromMachinePath(empty.path()) +
-                           "\\TemplateSystems\\Orlena TEMPLATE\\Orlena TEMPLATE.tsy";
+  const std::string path =
+      empty.path().string() + "/TemplateSystems/Orlena TEMPLATE/Orlena TEMPLATE.tsy";
   desktop.expectMessage("Orlena", "Failed to find " + path + ": Critical Error", Buttons::ok,
                         Icon::critical);
   desktop.expectMessage("Orlena",

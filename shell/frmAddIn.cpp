@@ -194,12 +194,16 @@ void frmAddIn::ctlTabs_OnTabChanged(std::int16_t iCurrentTab) {
 
 void frmAddIn::ctlSteps_OnStepClicked(std::int16_t iStep) { ctlTabs.SetCurrentTab(iStep); }
 
-void frmAddIn::cmdBack_Click() {
-  ctlTabs.SetCurrentTab(static_cast<std::int16_t>(m_iCurrentTab - 1));
-}
+void frmAddIn::cmdBack_Click() { TurnPage(-1); }
 
-void frmAddIn::cmdNext_Click() {
-  ctlTabs.SetCurrentTab(static_cast<std::int16_t>(m_iCurrentTab + 1));
+void frmAddIn::cmdNext_Click() { TurnPage(1); }
+
+/// A page that refuses to be left has put the focus where its reason lies.
+void frmAddIn::TurnPage(std::int16_t iOffset) {
+  const std::int16_t iPreviousTab = m_iCurrentTab;
+  ctlTabs.SetCurrentTab(static_cast<std::int16_t>(iPreviousTab + iOffset));
+  if (m_iCurrentTab == iPreviousTab) return;
+  focus().moveToFirstField(*m_colSteps[static_cast<std::size_t>(m_iCurrentTab)]);
 }
 
 void frmAddIn::cmdHelp_Click() { common::ShowHelpTopic(windowHandle(), host::helpOfActiveForm); }

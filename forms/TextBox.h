@@ -33,6 +33,10 @@ class TextBox : public Control {
   void select(std::int32_t start, std::int32_t count);
   void selectAll() { select(0, 0x7FFFFFFF); }
 
+  /// Whether all of the text is selected when the focus comes, in whatever way it comes.
+  bool selectsAllOnFocus() const { return selectsAllOnFocus_; }
+  void setSelectsAllOnFocus(bool selects) { set(selectsAllOnFocus_, selects); }
+
   /// The text is different, through the user or the program.
   Event<> change;
   /// A character is about to be typed.
@@ -56,6 +60,7 @@ class TextBox : public Control {
   std::string textAtFocus_;  // when the focus came last
   std::int32_t maxLength_ = 0;
   bool readOnly_ = false;
+  bool selectsAllOnFocus_ = false;
   std::int32_t selectionStart_ = 0;
   std::int32_t selectionLength_ = 0;
 };

@@ -41,6 +41,7 @@ TabRoomOptions::TabRoomOptions(forms::Container& container, std::string strName)
   SetTabStops(false);
   lblKestrum.setLink(true);
   txtFenletPassword.setMaxLength(lPasswordLength);
+  txtFenletPassword.setSelectsAllOnFocus(true);
   txtPowerOffTimeout.setMaxLength(lTimeoutLength);
   txtPowerOffTimeout.setAccessibleName("Minutes without motion");
   ConnectEvents();
@@ -56,7 +57,6 @@ void TabRoomOptions::ConnectEvents() {
   chkPowerTimeout.click.connect([this] { chkPowerTimeout_Click(); });
   cmdAdvanced.click.connect([this] { cmdAdvanced_Click(); });
   lblKestrum.click.connect([this] { lblKestrum_Click(); });
-  txtFenletPassword.gotFocus.connect([this] { txtFenletPassword.selectAll(); });
   txtFenletPassword.validate.connect([this](bool&) { txtFenletPassword_Validate(); });
   OnEnter(txtFenletPassword, [this] { txtFenletPassword_Validate(); });
   txtPowerOffTimeout.validate.connect(

@@ -38,6 +38,13 @@ std::vector<std::string> MissingFolders(const std::string& strFolder) {
   return colMissing;
 }
 
+/// Some failures have no text.
+std::string FailureText(const ProgramBuilder& clsGenerate) {
+  const std::string strText = clsGenerate.GetLastError();
+  if (!strText.empty()) return strText;
+  return "The program could not be written for " + clsGenerate.GetFailedPart() + ".";
+}
+
 std::string SystemFile() { return gDocument().get_Path() + gDocument().get_Name(); }
 
 }  // namespace
@@ -154,7 +161,7 @@ bool IAddIn::SaveSystem(bool bShowWarnings, bool bSaveAs) {
 bool IAddIn::BuildProgram(bool bShowWarnings, std::string& sError) {
   const auto clsGenerate = forms::createObject<ProgramBuilder>(progIDProgramBuilder);
   const bool bBuilt = clsGenerate->Build();
-  sError = bBuilt ? std::string() : clsGenerate->GetLastError();
+  sError = bBuilt ? std::string() : FailureText(*clsGenerate);
   if (bShowWarnings) ShowWarnings(clsGenerate->GetErrorItems());
   return bBuilt;
 }

@@ -25,6 +25,7 @@ class Generate : public addin::ProgramBuilder {
   /// Runs the sub-builders in their order; the first that fails ends the run.
   [[nodiscard]] bool Build() override;
   std::string GetLastError() const override { return m_strLastError; }
+  std::string GetFailedPart() const override { return m_strFailedPart; }
   const addin::ErrorItems& GetErrorItems() const override { return m_colErrorItems; }
 
  private:
@@ -190,6 +191,7 @@ class Generate : public addin::ProgramBuilder {
   [[nodiscard]] static bool BuildKestrumDigitalInputs(std::int16_t iInput);
 
   std::string m_strLastError;
+  std::string m_strFailedPart;
   addin::ErrorItems m_colErrorItems;
   std::int16_t m_iSensorHandle = 0;  // 0 until it is first asked for
 };

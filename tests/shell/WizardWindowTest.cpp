@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <new>
 #include <set>
 
 #include "addin/modGlobals.h"
 #include "forms/ListView.h"
+#include "forms/TextBox.h"
 #include "tests/wizard/Wizard.h"
 
 namespace {
@@ -21,6 +24,33 @@ void expectSaveQuestion(Wizard& wizard, Answer answer) {
   wizard.desktop.expectMessage("Orlena", "Do you wish to save the changes you made to the system?",
                                Buttons::yesNoCancel, Icon::question, answer);
 }
+
+/// A library that knows the filter that was set last, and has no memory left when it is taken away.
+class WatchedLibrary : public host::LibraryManager {
+ public:
+  struct Types : host::DeviceTypes {
+    void put_DeviceFilter(const std::optional<std::vector<std::int16_t>>& ids) override {
+      filter = ids;
+      if (!ids) throw std::bad_alloc();
+    }
+    std::optional<std::vector<std::int16_t>> filter;
+  };
+
+  explicit WatchedLibrary(std::shared_ptr<host::LibraryManager> library)
+      : library_(std::move(library)) {}
+
+  std::shared_ptr<host::DeviceTypes> get_DeviceTypes() const override { return types; }
+  std::shared_ptr<host::Models> get_Models() const override { return library_->get_Models(); }
+  std::vector<std::shared_ptr<host::LibraryModule>> get_Modules() const override {
+    return library_->get_Modules();
+  }
+  std::string get_PicturesFolder() const override { return library_->get_PicturesFolder(); }
+
+  const std::shared_ptr<Types> types = std::make_shared<Types>();
+
+ private:
+  std::shared_ptr<host::LibraryManager> library_;
+};
 
 /// Saves a wizard's system; the answer is a copy of it under another name.
 std::filesystem::path savedCopy(Wizard& wizard, const std::filesystem::path& folder) {
@@ -51,6 +81,26 @@ TEST_F(WizardWindow, StartsWithAllStepsOnTheFirst) {
   });
   EXPECT_EQ(addIn->IAddInContract_HwndAddIn(), 0);
   EXPECT_FALSE(addin::IsDocumentSet());
+}
+
+TEST_F(WizardWindow, NextAndBackGoToTheFirstFieldOfThePage) {
+  run([&] {
+    goTo("Display Device");
+    chooseDisplay("Bravonne P2200");
+    goTo("Start");
+    const auto focused = [&] { return window().focus().control()->name(); };
+    for (const char* field :
+         {"txtSystemName", "cmdChoose", "optVolumeKnob(0)", "optPower(2)", "txtPowerLockoutTime(1)",
+          "chkInclude(0)", "listDevices", "chkInclude(0)", "cmdUpload"}) {
+      clickInWindow("cmdNext");
+      EXPECT_EQ(focused(), field);
+    }
+    clickInWindow("cmdBack");
+    EXPECT_EQ(focused(), "chkInclude(0)");
+    goTo("Display Device");
+    clickInWindow("cmdBack");
+    EXPECT_EQ(control<forms::TextBox>("txtSystemName").selectionLength(), 16) << "typed over";
+  });
 }
 
 TEST_F(WizardWindow, FinishGoesToTheLastStepFirstAndThenAsks) {
@@ -230,6 +280,11 @@ TEST(WizardsSystem, ForeignSystemGivesItsMessageAndANewSystem) {
     tests::writeFile(file, text);
     Wizard wizard;
     wizard.givenOpenSystem(file);
+    const auto library = std::make_shared<WatchedLibrary>(wizard.host->libraryManager());
+    wizard.addIn->IAddInContract_Load(wizard.host->document(), library,
+                                      wizard.host->communication(), wizard.host->smallPictures(),
+                                      wizard.host->largePictures(), wizard.host->mainWindow());
+    wizard.application.setHelpFile("Host.chm");
     const bool isForeign = word != "ORLENA";
     if (isForeign) {
       wizard.desktop.expectMessage("Orlena",
@@ -242,9 +297,34 @@ TEST(WizardsSystem, ForeignSystemGivesItsMessageAndANewSystem) {
     }
     wizard.run([&] {
       EXPECT_EQ(wizard.document().get_Name(), isForeign ? "My Orlena System" : "Saved System");
+      EXPECT_EQ(library->types->filter->size(), 13U);
+      ASSERT_EQ(wizard.host->openSystems().size(), 1U);
+      EXPECT_EQ(wizard.host->openSystems().front().second, wizard.document().get_Name());
+      const std::string left = "ResetApplicationStatus " + forms::fromMachinePath(folder.path());
+      const auto& calls = wizard.host->journal().calls();
+      EXPECT_EQ(std::any_of(calls.begin(), calls.end(),
+                            [&](const auto& call) { return call.starts_with(left); }),
+                isForeign);
     });
+    EXPECT_EQ(wizard.application.helpFile(), "Host.chm");
+    wizard.addIn.reset();
+    EXPECT_FALSE(library->types->filter) << word;
     EXPECT_EQ(tests::fileText(file), text);
   }
+}
+
+TEST_F(WizardWindow, ProgramThatFailsWithoutATextIsToldByItsPart) {
+  run([&] {
+    const std::int16_t input = device("Digital Input 3")->get_ID();
+    ASSERT_TRUE(document().RemoveDevice(input, host::removalOfDevice));
+    goTo("Audio Control");
+    click("chkMuteOnDigInp3");
+    desktop.expectMessage("Orlena",
+                          "Failed to build the system \r\n\r\nThe program could not be written for "
+                          "the audio.\r\n\r\nPlease contact Velmondo for assistance.",
+                          Buttons::ok, Icon::critical);
+    clickInWindow("cmdSave");
+  });
 }
 
 TEST_F(WizardWindow, MissingTemplateIsToldAndClosesTheWizard) {

@@ -137,7 +137,10 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
     document().MarkUnchanged();
     click("chkEnablePwd");
     EXPECT_TRUE(isModified());
-    expectPasswordBox(false, "an Open Door of 20");
+    for (int clicks = 0; clicks < 2; ++clicks) {
+      expectPasswordBox(false, "an Open Door of 20");
+      click("chkInclude(1)");
+    }
     click("chkEnablePwd");
     expectPasswordBox(true, "an Open Door of 20");
     click("chkInclude(1)");
@@ -155,6 +158,13 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
     click("chkInclude(1)");
     EXPECT_EQ(states({"chkEnablePwd"}), "o");
     expectPasswordBox(false, "");
+
+    click("chkEnablePwd");
+    enterAndLeave("txtFenletPassword", "lantern", "chkEnablePwd");
+    EXPECT_EQ(addIn->get_FenletPassword(), "lantern");
+    click("chkEnablePwd");
+    clickInWindow("cmdSave");
+    EXPECT_EQ(addIn->get_FenletPassword(), "");
   });
 }
 

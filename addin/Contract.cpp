@@ -1,3 +1,5 @@
+#include <exception>
+
 #include "addin/IAddIn.h"
 #include "addin/Pictures.h"
 #include "addin/modGlobals.h"
@@ -33,8 +35,10 @@ IAddIn::IAddIn() {
 }
 
 IAddIn::~IAddIn() {
-  if (IsLibraryManagerSet()) {
-    forms::ignoringErrors([] { gLibraryManager().get_DeviceTypes()->put_DeviceFilter({}); });
+  try {
+    if (IsLibraryManagerSet()) gLibraryManager().get_DeviceTypes()->put_DeviceFilter({});
+  } catch (const std::exception&) {
+    // Nobody can be told any more, of whatever kind it is: memory may have run out.
   }
   m_frmAddIn.reset();
   AddInEnded();
@@ -85,6 +89,7 @@ void IAddIn::IAddInContract_Run(const std::shared_ptr<host::OwnerForm>& oOwnerFo
   });
   m_frmAddIn = forms::createObject<WizardWindow>(progIDWizardWindow);
   m_frmAddIn->ShowModal(oOwnerForm ? oOwnerForm->get_Form() : nullptr);
+  RemoveTriedFolders();
 }
 
 void IAddIn::IAddInContract_ShowPreview() { ShowPicture(progIDPreview, "Orlena", m_iPreviewImage); }

@@ -151,6 +151,8 @@ void IAddIn::put_DisplayDeviceID(std::int16_t iDeviceID) {
     SetStandardCommand(*oDevice, host::scRGB1);
     SetStandardCommand(*oDevice, host::scVideo1);
     SetUpPower(iDeviceID);
+    // No page would show a second Power Off that this display can't send.
+    if (!oDevice->get_SecondOffCapable()) m_bSecondPowerOff = false;
   }
 }
 

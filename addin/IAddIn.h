@@ -144,8 +144,11 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   /// The form of SaveSystem that the save button and the question on closing use.
   bool SaveSystemAs() { return SaveSystem(false, true); }
   bool CheckSystemLocation();
-  /// Offers to save. True: the caller may go on. `iResponse` takes the answer when there was a
-  /// question.
+  /// Makes a folder that a system may be saved in. It is removed again when the wizard closes, as
+  /// far as it has stayed empty. False: the host refuses it and has told the user.
+  bool TrySystemFolder(const std::string& strFolder);
+  /// Offers to save what would be lost, an open edit included. True: the caller may go on.
+  /// `iResponse` takes the answer when there was a question; only Yes looks at what the steps hold.
   bool QueryCloseSystem(forms::Answer& iResponse);
   std::string GetTemplatePath() const;
   void SetLibraryFilter();
@@ -186,7 +189,7 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   std::int16_t GetDigitalInputID(std::int16_t iInput) const;
   void HideDevice(std::int16_t iDeviceID);
   /// Assigning a device also gives it its standard commands, and the display its starting power
-  /// mode. 0 clears.
+  /// mode; a display that can't send a second Power Off unticks it. 0 clears.
   void put_DisplayDeviceID(std::int16_t iDeviceID);
   void put_ScreenDeviceID(std::int16_t iDeviceID);
   void put_LiftDeviceID(std::int16_t iDeviceID);
@@ -237,6 +240,7 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void AddToBillOfMaterials(std::int16_t intIndex, const std::string& strName,
                             const host::Device& oDevice);
   void ChooseNewSystemName();
+  void RemoveTriedFolders();
   void ShowWarnings(const ErrorItems& colErrorItems) const;
 
   /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is
@@ -256,6 +260,7 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   bool m_bEditInCorvaner = false;
   std::int16_t m_iPreviewImage = previewProduct;
   bool m_bFolderChecksOK = false;
+  std::vector<std::string> m_colTriedFolders;  // those that were made, the outer before the inner
 
   std::string m_strVolumeKnobControl;  // "1d", "0d", or empty while never set
   std::string m_strMicModeControl;

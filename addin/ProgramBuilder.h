@@ -19,6 +19,8 @@ class ProgramBuilder : public forms::Object {
   [[nodiscard]] virtual bool Build() = 0;
   /// The text of the last failure; empty when there was none, or one without a text.
   virtual std::string GetLastError() const = 0;
+  /// What the part of the program does that the last Build failed at; empty when it did not fail.
+  virtual std::string GetFailedPart() const = 0;
   /// The warnings of the run in the order in which they came up; the list itself. The next Build
   /// begins another, and this one stays as it was.
   virtual std::shared_ptr<const ErrorItems> GetErrorItems() const = 0;

@@ -4,6 +4,7 @@
 #include "common/CommonFunctions.h"
 #include "forms/Application.h"
 #include "forms/Components.h"
+#include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/iTab.h"
 
@@ -24,6 +25,24 @@ const std::vector<std::int16_t> colFilter{1070, 1992, 1982, 1983, 1071, 1984, 19
 
 Answer Show(const std::string& strText, Icon eIcon, const std::string& strCaption) {
   return forms::Application::current().messageBox(strText, Buttons::ok, eIcon, strCaption);
+}
+
+/// The folder and those around it that are not there, the innermost first.
+std::vector<std::string> MissingFolders(const std::string& strFolder) {
+  std::vector<std::string> colMissing;
+  std::string strMissing = forms::withoutLast(common::AddBackslash(strFolder), 1);
+  while (!strMissing.empty() && !common::FolderExists(strMissing)) {
+    colMissing.push_back(strMissing);
+    strMissing = forms::withoutLast(forms::folderOf(strMissing), 1);
+  }
+  return colMissing;
+}
+
+/// Some failures have no text.
+std::string FailureText(const ProgramBuilder& clsGenerate) {
+  const std::string strText = clsGenerate.GetLastError();
+  if (!strText.empty()) return strText;
+  return "The program could not be written for " + clsGenerate.GetFailedPart() + ".";
 }
 
 std::string SystemFile() { return gDocument().get_Path() + gDocument().get_Name(); }
@@ -47,8 +66,8 @@ bool IAddIn::NewSystem() {
   }
   const auto clsDocument = gOwnerForm().FileOpen(strTemplate, /*bUseRecovery=*/false);
   if (!clsDocument) {
-    Show("Failed to find " + strTemplate + ": Critical Error", Icon::critical,
-         IAddInContract_Title());
+    Show("Failed to find " + forms::toMachinePath(strTemplate).string() + ": Critical Error",
+         Icon::critical, IAddInContract_Title());
     return false;
   }
   SetDocument(clsDocument);
@@ -104,6 +123,19 @@ bool IAddIn::CheckSystemLocation() {
   return true;
 }
 
+bool IAddIn::TrySystemFolder(const std::string& strFolder) {
+  const auto colMissing = MissingFolders(strFolder);
+  if (!gOwnerForm().CreateProjectFolder(strFolder)) return false;
+  m_colTriedFolders.insert(m_colTriedFolders.end(), colMissing.rbegin(), colMissing.rend());
+  return true;
+}
+
+void IAddIn::RemoveTriedFolders() {
+  for (; !m_colTriedFolders.empty(); m_colTriedFolders.pop_back()) {
+    common::RemoveEmptyFolder(m_colTriedFolders.back());
+  }
+}
+
 bool IAddIn::SaveSystem(bool bShowWarnings, bool bSaveAs) {
   if (!IsDocumentSet()) return false;
   const auto clsInfo = gDocument().get_SystemInfo();
@@ -129,7 +161,7 @@ bool IAddIn::SaveSystem(bool bShowWarnings, bool bSaveAs) {
 bool IAddIn::BuildProgram(bool bShowWarnings, std::string& sError) {
   const auto clsGenerate = forms::createObject<ProgramBuilder>(progIDProgramBuilder);
   const bool bBuilt = clsGenerate->Build();
-  sError = bBuilt ? std::string() : clsGenerate->GetLastError();
+  sError = bBuilt ? std::string() : FailureText(*clsGenerate);
   if (bShowWarnings) ShowWarnings(*clsGenerate->GetErrorItems());
   return bBuilt;
 }
@@ -143,14 +175,15 @@ void IAddIn::ShowWarnings(const ErrorItems& colErrorItems) const {
 
 bool IAddIn::QueryCloseSystem(Answer& iResponse) {
   if (!IsDocumentSet()) return true;
-  if (!CheckSystemLocation()) return false;
-  if (!gDocument().get_Modified()) return true;
+  if (!gDocument().get_Modified() && !m_frmAddIn->HasOpenEdit()) return true;
   iResponse = forms::Application::current().messageBox(
       "Do you wish to save the changes you made to the system?", Buttons::yesNoCancel,
       Icon::question, "Orlena");
-  // What the save answers is not looked at: Yes lets the wizard close even when it failed.
-  if (iResponse == Answer::yes) SaveSystemAs();
-  return iResponse != Answer::cancel;
+  if (iResponse != Answer::yes) return iResponse == Answer::no;
+  m_frmAddIn->TakeOpenEdit();
+  if (!CheckSystemLocation()) return false;
+  SaveSystemAs();  // not looked at: Yes lets the wizard close even when it failed
+  return true;
 }
 
 void IAddIn::SetLibraryFilter() {

@@ -24,6 +24,11 @@ class WizardWindow : public forms::Object {
   /// The steps in their order; the window owns them.
   virtual const std::vector<forms::UserControl*>& GetControls() const = 0;
 
+  /// Whether the user has begun an edit that no step has been given yet.
+  virtual bool HasOpenEdit() const = 0;
+  /// Gives such an edit to its step, with all messages, as if the user had gone to the save button.
+  virtual void TakeOpenEdit() = 0;
+
   /// Calls `iTab_SaveData` on every step in order and looks at no result. Always True.
   virtual bool SaveData() = 0;
 };

@@ -12,22 +12,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
+fs::path machineFolder(const Answer& answer) {
+  return (fs::current_path() / answer.text()).lexically_normal();
+}
+
 std::string folderFrom(const Page& page, const Answer& answer) {
   try {
-    return forms::fromMachinePath((fs::current_path() / answer.text()).lexically_normal());
+    return forms::fromMachinePath(machineFolder(answer));
   } catch (const forms::Error& error) {
     page.refuse(answer, error.description());
   }
 }
 
 /// The parent folder of the system: the location box without its last name.
-std::string parentOf(std::string location) {
+fs::path parentOf(std::string location) {
   location.pop_back();
-  return forms::folderOf(location);
-}
-
-std::string withBackslash(const std::string& folder) {
-  return folder.ends_with('\\') ? folder : folder + "\\";
+  return location.substr(0, location.find_last_of('/') + 1);
 }
 
 Act chooseParentFolder(std::string answer, std::string button, std::string location) {
@@ -39,18 +39,18 @@ Act chooseParentFolder(std::string answer, std::string button, std::string locat
           },
           [location](const Page& page, const Answer& given) {
             return parentOf(page.control<forms::TextBox>(location).text()) ==
-                   withBackslash(folderFrom(page, given));
+                   machineFolder(given) / "";
           }};
 }
 
 /// Where the wizard is about to save.
 fs::path systemFile(const Page& page) {
-  const std::string folder = page.control<forms::TextBox>("txtLocation").text();
+  const fs::path folder = page.control<forms::TextBox>("txtLocation").text();
   const std::string typed = forms::trimmed(page.control<forms::TextBox>("txtSystemName").text());
   const std::string current = page.hands().document().get_Name();
   // A name that differs from the document's in case alone leaves the document's as it is.
   const std::string& name = forms::equalsIgnoringCase(typed, current) ? current : typed;
-  return forms::toMachinePath(folder + name + ".tsy");
+  return folder / (name + ".tsy");
 }
 
 void refuseExistingSystem(const Page& page) {

@@ -1,12 +1,14 @@
 #include "common/CommonFunctions.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <numeric>
 #include <set>
 
 #include "forms/Application.h"
 #include "forms/Error.h"
 #include "forms/Numbers.h"
+#include "forms/Paths.h"
 #include "forms/Text.h"
 
 namespace common {
@@ -145,6 +147,12 @@ bool FileExists(std::string_view sPath) {
 
 bool FolderExists(std::string_view sPath) {
   return !sPath.empty() && forms::Application::current().findsFolder(sPath);
+}
+
+void RemoveEmptyFolder(std::string_view sPath) {
+  const std::filesystem::path folder = forms::toMachinePath(sPath);
+  std::error_code ignored;
+  if (std::filesystem::is_directory(folder, ignored)) std::filesystem::remove(folder, ignored);
 }
 
 std::string AddBackslash(const std::string& sPath) {

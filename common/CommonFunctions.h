@@ -76,6 +76,9 @@ std::int16_t PixelsToTwipsY(std::int16_t iPixels);
 bool FileExists(std::string_view sPath);
 bool FolderExists(std::string_view sPath);
 
+/// A folder that holds anything, or is none, stays.
+void RemoveEmptyFolder(std::string_view sPath);
+
 /// The path with a backslash at its end; an empty path gives the backslash alone.
 std::string AddBackslash(const std::string& sPath);
 

@@ -7,6 +7,7 @@
 #include "forms/Error.h"
 #include "forms/Form.h"
 #include "forms/Numbers.h"
+#include "forms/Paths.h"
 
 namespace common {
 namespace {
@@ -33,8 +34,8 @@ void ShowHelpTopic(std::int32_t hwnd, std::int16_t iContextID) {
   }
   if (application.desktop().showHelp(hwnd, sHelpFile, iContextID) <= 0) {
     TellHelpFailure("Error displaying Help Topic (" + forms::decimal(iContextID) +
-                    ") for help file: " + sHelpFile + vbCrLf +
-                    "Current folder: " + application.currentFolder());
+                    ") for help file: " + sHelpFile + vbCrLf + "Current folder: " +
+                    forms::toMachinePath(application.currentFolder()).string());
   }
 }
 

@@ -92,7 +92,8 @@ Application& Application::current() {
 }
 
 void Application::changeFolder(const std::string& folder) {
-  if (!findsFolder(folder)) throw Error(errors::pathNotFound, "Path not found: " + folder);
+  if (!findsFolder(folder))
+    throw Error(errors::pathNotFound, "Path not found: " + toMachinePath(folder).string());
   currentFolder_ =
       withoutClosingBackslash(fromMachinePath(toMachinePath(folder).lexically_normal()));
 }
@@ -133,7 +134,7 @@ bool Application::findsFolder(std::string_view path) const {
 
 Picture Application::loadPicture(std::string_view path) const {
   if (!findsFile(path)) {
-    throw Error(errors::fileNotFound, "File not found: " + std::string(path));
+    throw Error(errors::fileNotFound, "File not found: " + toMachinePath(path).string());
   }
   return Picture(toMachinePath(path));
 }

@@ -126,6 +126,9 @@ class Control {
   /// Whether Tab may stop here now: of a group of option buttons only one is a stop.
   virtual bool isStop() const { return tabStop_ && takesFocus(); }
   bool hasFocus() const;
+  /// Whether a user has begun a change here that no handler has heard of: a text typed since the
+  /// focus came, a label in its editor.
+  virtual bool hasOpenEdit() const { return false; }
 
   /// Gives it the focus for the program: no validation runs. Raises Error 5 when a user couldn't
   /// reach it.

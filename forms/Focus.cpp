@@ -81,6 +81,15 @@ bool Focus::moveToNext() { return moveByTab(*this, stopFrom(control(), true)); }
 
 bool Focus::moveToPrevious() { return moveByTab(*this, stopFrom(control(), false)); }
 
+bool Focus::moveToFirstField(const Container& container) {
+  std::vector<Control*> inside;
+  collectStops(container, nullptr, inside);
+  if (inside.empty()) return false;
+  const auto field = std::find_if(inside.begin(), inside.end(),
+                                  [](const Control* stop) { return stop->kind() != Kind::label; });
+  return moveByTab(*this, field == inside.end() ? inside.front() : *field);
+}
+
 void Focus::endEditing() {
   if (Control* current = control()) current->endEditing();
 }

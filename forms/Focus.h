@@ -44,6 +44,9 @@ class Focus {
   /// False as `moveByUser`.
   bool moveToNext();
   bool moveToPrevious();
+  /// As Tab, to the first stop in a container; to a link only where there is nothing else. False
+  /// also when it has none.
+  bool moveToFirstField(const Container& container);
 
   /// Ends and takes an editor that is open in the control with the focus.
   void endEditing();

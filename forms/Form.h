@@ -68,6 +68,7 @@ class Form : public Root {
   bool unload(UnloadMode mode = UnloadMode::program);
 
   Focus& focus() { return focus_; }
+  const Focus& focus() const { return focus_; }
 
   /// Whether `keyDown` of the form comes before that of the control with the focus. Without a focus
   /// it comes always.

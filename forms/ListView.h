@@ -43,6 +43,7 @@ class ListView : public Control {
   void setSelectedRow(std::int32_t row);
 
   bool isEditing() const { return editing_; }
+  bool hasOpenEdit() const override { return editing_ && editedText_ != text(selected_, 0); }
   /// Opens the editor of the selected row's label, also where a user can't. Nothing happens without
   /// a selected row.
   void startLabelEdit();

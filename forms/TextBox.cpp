@@ -14,6 +14,14 @@ std::size_t commonStart(const std::u32string& one, const std::u32string& other) 
 
 }  // namespace
 
+TextBox::TextBox(Container& container, std::string name) : Control(container, std::move(name)) {
+  setBackColor(colors::windowBackground);
+  gotFocus.connect([this] {
+    textAtFocus_ = text_;
+    if (selectsAllOnFocus_) selectAll();
+  });
+}
+
 void TextBox::setText(const std::string& text) {
   if (text != text_) replace(text, 0);
 }

@@ -7,13 +7,12 @@ namespace forms {
 /// A box for one line of text. Places in the text count characters from 0.
 class TextBox : public Control {
  public:
-  TextBox(Container& container, std::string name) : Control(container, std::move(name)) {
-    setBackColor(colors::windowBackground);
-  }
+  TextBox(Container& container, std::string name);
 
   Kind kind() const override { return Kind::textBox; }
   bool takesFocus() const override { return true; }
   std::string shownText() const override { return text_; }
+  bool hasOpenEdit() const override { return hasFocus() && text_ != textAtFocus_; }
 
   const std::string& text() const { return text_; }
   /// Puts the whole text in, also one over the maximum length, and the caret in front. Raises
@@ -33,6 +32,10 @@ class TextBox : public Control {
   std::int32_t selectionLength() const { return selectionLength_; }
   void select(std::int32_t start, std::int32_t count);
   void selectAll() { select(0, 0x7FFFFFFF); }
+
+  /// Whether all of the text is selected when the focus comes, in whatever way it comes.
+  bool selectsAllOnFocus() const { return selectsAllOnFocus_; }
+  void setSelectsAllOnFocus(bool selects) { set(selectsAllOnFocus_, selects); }
 
   /// The text is different, through the user or the program.
   Event<> change;
@@ -54,8 +57,10 @@ class TextBox : public Control {
   bool replace(const std::string& text, std::int32_t caret);
 
   std::string text_;
+  std::string textAtFocus_;  // when the focus came last
   std::int32_t maxLength_ = 0;
   bool readOnly_ = false;
+  bool selectsAllOnFocus_ = false;
   std::int32_t selectionStart_ = 0;
   std::int32_t selectionLength_ = 0;
 };

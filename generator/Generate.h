@@ -25,6 +25,7 @@ class Generate : public addin::ProgramBuilder {
   /// Runs the sub-builders in their order; the first that fails ends the run.
   [[nodiscard]] bool Build() override;
   std::string GetLastError() const override { return m_strLastError; }
+  std::string GetFailedPart() const override { return m_strFailedPart; }
   std::shared_ptr<const addin::ErrorItems> GetErrorItems() const override {
     return m_colErrorItems;
   }
@@ -194,6 +195,7 @@ class Generate : public addin::ProgramBuilder {
 
   std::string m_strLastError;
   std::shared_ptr<addin::ErrorItems> m_colErrorItems = std::make_shared<addin::ErrorItems>();
+  std::string m_strFailedPart;
   std::int16_t m_iSensorHandle = 0;  // 0 until it is first asked for
 };
 

@@ -52,13 +52,14 @@ void ErrorLog::Clear() {
 }
 
 void ErrorLog::SaveToFile(const std::string& strFile, bool bAppend) const {
-  std::ofstream file(forms::toMachinePath(strFile),
-                     std::ios::binary | (bAppend ? std::ios::app : std::ios::trunc));
+  const std::filesystem::path machineFile = forms::toMachinePath(strFile);
+  std::ofstream file(machineFile, std::ios::binary | (bAppend ? std::ios::app : std::ios::trunc));
   for (const auto& oItem : m_colShown) {
     file << SeverityText(*oItem) << "\t" << OneLine(oItem->get_Message()) << "\r\n";
   }
   file.flush();
-  if (!file) throw Error(errFile, "The messages could not be written to " + strFile + ".");
+  if (!file)
+    throw Error(errFile, "The messages could not be written to " + machineFile.string() + ".");
 }
 
 void ErrorLog::lvwItems_DoubleClick() {

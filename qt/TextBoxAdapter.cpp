@@ -3,6 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QLineEdit>
 #include <algorithm>
+#include <utility>
 
 #include "forms/Guard.h"
 #include "qt/Conversions.h"
@@ -90,7 +91,20 @@ void TextBoxAdapter::showSelection(const QString& text) {
   }
 }
 
-bool TextBoxAdapter::mousePressed(QWidget&, QMouseEvent&) { return reach() != Reached::smoothly; }
+bool TextBoxAdapter::mousePressed(QWidget&, QMouseEvent&) {
+  cameByMouse_ = !box_.hasFocus();
+  return reach() != Reached::smoothly;
+}
+
+/// The press has put the caret; where nothing was selected with the mouse, all is selected as it is
+/// when the focus comes by Tab.
+bool TextBoxAdapter::mouseReleased(QWidget&, QMouseEvent&) {
+  const bool came = std::exchange(cameByMouse_, false);
+  if (came && box_.hasFocus() && box_.selectsAllOnFocus() && box_.selectionLength() == 0) {
+    box_.selectAll();
+  }
+  return false;
+}
 
 /// Backspace and Delete alone are the form's; with a modifier they erase a word, or cut.
 TextBoxAdapter::KeyUse TextBoxAdapter::useOf(QKeyEvent& event) {

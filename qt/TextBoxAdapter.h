@@ -16,6 +16,7 @@ class TextBoxAdapter : public Adapter {
  protected:
   void show() override;
   bool mousePressed(QWidget& part, QMouseEvent& event) override;
+  bool mouseReleased(QWidget& part, QMouseEvent& event) override;
   KeyUse useOf(QKeyEvent& event) override;
   bool keyLeft(QKeyEvent& event) override;
   bool composed(QInputMethodEvent& event) override;
@@ -30,6 +31,7 @@ class TextBoxAdapter : public Adapter {
   forms::TextBox& box_;
   QLineEdit* edit_;
   bool typing_ = false;
+  bool cameByMouse_ = false;  // with the button that is down
 };
 
 }  // namespace qt

@@ -169,6 +169,11 @@ void frmAddIn::ShowSteps(bool bShow) {
   ctlSteps.setVisible(bShow);
 }
 
+bool frmAddIn::HasOpenEdit() const {
+  const forms::Control* oControl = focus().control();
+  return oControl && oControl->hasOpenEdit();
+}
+
 bool frmAddIn::SaveData() {
   for (forms::UserControl* extStep : m_colSteps) host::AsTab(*extStep).iTab_SaveData();
   return true;
@@ -189,12 +194,16 @@ void frmAddIn::ctlTabs_OnTabChanged(std::int16_t iCurrentTab) {
 
 void frmAddIn::ctlSteps_OnStepClicked(std::int16_t iStep) { ctlTabs.SetCurrentTab(iStep); }
 
-void frmAddIn::cmdBack_Click() {
-  ctlTabs.SetCurrentTab(static_cast<std::int16_t>(m_iCurrentTab - 1));
-}
+void frmAddIn::cmdBack_Click() { TurnPage(-1); }
 
-void frmAddIn::cmdNext_Click() {
-  ctlTabs.SetCurrentTab(static_cast<std::int16_t>(m_iCurrentTab + 1));
+void frmAddIn::cmdNext_Click() { TurnPage(1); }
+
+/// A page that refuses to be left has put the focus where its reason lies.
+void frmAddIn::TurnPage(std::int16_t iOffset) {
+  const std::int16_t iPreviousTab = m_iCurrentTab;
+  ctlTabs.SetCurrentTab(static_cast<std::int16_t>(iPreviousTab + iOffset));
+  if (m_iCurrentTab == iPreviousTab) return;
+  focus().moveToFirstField(*m_colSteps[static_cast<std::size_t>(m_iCurrentTab)]);
 }
 
 void frmAddIn::cmdHelp_Click() { common::ShowHelpTopic(windowHandle(), host::helpOfActiveForm); }
@@ -233,10 +242,14 @@ void frmAddIn::cmdNew_Click() {
 void frmAddIn::cmdFolder_Click() {
   Answer iResponse{};
   if (!gAddIn().QueryCloseSystem(iResponse)) return;
-  if (addin::IsDocumentSet()) gDocument().MarkUnchanged();
+  const bool bUnsaved = addin::IsDocumentSet() && gDocument().get_Modified();
+  if (bUnsaved) gDocument().MarkUnchanged();  // the host asks nothing further
   bool bCancelled = false;
   const bool bOpened = gAddIn().OpenSystemFile(bCancelled);
-  if (bCancelled || !bOpened) return;
+  if (bCancelled || !bOpened) {
+    if (bUnsaved && addin::IsDocumentSet()) gDocument().MarkChangedButProgram();
+    return;
+  }
   ctlTabs.SetCurrentTab(0);
   SetStepsData();
 }

@@ -26,6 +26,8 @@ class frmAddIn : public forms::Form, public addin::WizardWindow {
   bool get_CanFinish() const override { return cmdFinish.isEnabled(); }
   void put_CanFinish(bool bCanFinish) override { cmdFinish.setEnabled(bCanFinish); }
   const std::vector<forms::UserControl*>& GetControls() const override { return m_colSteps; }
+  bool HasOpenEdit() const override;
+  void TakeOpenEdit() override { focus().moveByUser(cmdSave); }
   bool SaveData() override;
 
  private:
@@ -53,6 +55,7 @@ class frmAddIn : public forms::Form, public addin::WizardWindow {
   void SetStepsData();
   void ShowSteps(bool bShow);
   void SetBackNextState();
+  void TurnPage(std::int16_t iOffset);
   /// Raises Error 9 for a step that there is not.
   host::iTab& Tab(std::int16_t iStep) const;
   std::int16_t LastTab() const { return static_cast<std::int16_t>(m_colSteps.size() - 1); }

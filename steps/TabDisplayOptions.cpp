@@ -244,21 +244,28 @@ void TabDisplayOptions::txtPulseTime_Validate(const PowerRow& powerRow, std::int
   ShowStoredPulseTime(powerRow, Index);
 }
 
-/// A time of a command that isn't held, or of a device that isn't there, is given up.
 void TabDisplayOptions::OtherTabClicked() {
   validateActiveControl();
   SetTabStops(false);
-  for (const std::int16_t Index : {iScreen, iLift}) {
-    for (const PowerRow* powerRow : {&rowOn, &rowOff}) {
-      if (!powerRow->txtPulseTime(Index).isVisible()) put_PulseTime(*powerRow, Index, 0);
-    }
-  }
+  GiveUpHiddenPulseTimes();
 }
 
 bool TabDisplayOptions::iTab_SaveData() {
   m_bSaving = true;
   validateActiveControl();
+  if (isShown()) GiveUpHiddenPulseTimes();
   return false;
+}
+
+/// The times of commands that aren't held, and of devices that aren't there.
+void TabDisplayOptions::GiveUpHiddenPulseTimes() {
+  for (const std::int16_t Index : {iScreen, iLift}) {
+    for (const PowerRow* powerRow : {&rowOn, &rowOff}) {
+      if (powerRow->txtPulseTime(Index).isVisible()) continue;
+      if (get_PulseTime(*powerRow, Index) != 0) gDocument().MarkChanged();
+      put_PulseTime(*powerRow, Index, 0);
+    }
+  }
 }
 
 std::int16_t TabDisplayOptions::get_DeviceID(std::int16_t Index) const {

@@ -69,6 +69,7 @@ class TabDisplayOptions : public WizardStep {
   float get_PulseTime(const PowerRow& powerRow, std::int16_t Index) const;
   /// The box shows the setting.
   void put_PulseTime(const PowerRow& powerRow, std::int16_t Index, float sngSeconds);
+  void GiveUpHiddenPulseTimes();
   void ShowStoredPulseTime(const PowerRow& powerRow, std::int16_t Index);
   void LayOut();
   forms::Piece PlacePage(std::int16_t Index);

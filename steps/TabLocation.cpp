@@ -6,6 +6,7 @@
 #include "common/modBrowsePath.h"
 #include "forms/Application.h"
 #include "forms/Guard.h"
+#include "forms/Paths.h"
 #include "forms/Rows.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
@@ -56,8 +57,7 @@ bool TabLocation::SetData() {
     const auto clsInfo = gDocument().get_SystemInfo();
     txtSystemName.setMaxLength(clsInfo->get_MaxNameLength());
     txtSystemName.setText(clsInfo->get_SystemName());
-    txtLocation.setText(gDocument().get_Path());
-    txtLocation.setToolTip(ParentFolder(txtLocation.text()));
+    PutLocation(gDocument().get_Path(), ParentFolder(gDocument().get_Path()));
   }
   m_strLastName = txtSystemName.text();
   MoveRegistrationIfFolderChanged();
@@ -65,30 +65,52 @@ bool TabLocation::SetData() {
 }
 
 void TabLocation::MoveRegistrationIfFolderChanged() {
-  if (forms::equalsIgnoringCase(txtLocation.text(), m_strOldLocation)) return;
+  if (forms::equalsIgnoringCase(m_strLocation, m_strOldLocation)) return;
   gOwnerForm().ResetApplicationStatus(m_strOldLocation, m_strOldName);
-  gOwnerForm().SetApplicationStatus(txtLocation.text(), txtSystemName.text());
-  m_strOldLocation = txtLocation.text();
+  gOwnerForm().SetApplicationStatus(m_strLocation, txtSystemName.text());
+  m_strOldLocation = m_strLocation;
   m_strOldName = txtSystemName.text();
 }
 
 void TabLocation::iTab_TabClicked() {
   SetTabStops(true);
-  m_strOldLocation = txtLocation.text();
+  m_strOldLocation = m_strLocation;
   m_strOldName = txtSystemName.text();
 }
 
 void TabLocation::BeforeTabChange(bool& bCancel) {
   if (!gAddIn().get_FolderChecksOK()) {
-    bCancel = !gOwnerForm().CreateProjectFolder(txtLocation.text());
+    bCancel = !IsNameAccepted() || !gAddIn().TrySystemFolder(m_strLocation);
     gAddIn().put_FolderChecksOK(!bCancel);
   }
-  if (gAddIn().get_FolderChecksOK()) MoveRegistrationIfFolderChanged();
+  if (bCancel) {
+    forms::ignoringErrors([this] { txtSystemName.setFocus(); });
+  } else {
+    MoveRegistrationIfFolderChanged();
+  }
+}
+
+/// Who pressed the button that the page is left by has left the box, and has been told by then.
+bool TabLocation::IsNameAccepted() {
+  if (!m_bNameRefused || !txtSystemName.hasFocus()) m_bNameRefused = !CheckName();
+  return !m_bNameRefused;
+}
+
+/// False: the user has been told why the name can't be a system's.
+bool TabLocation::CheckName() {
+  if (txtSystemName.text().empty()) {
+    forms::Application::current().messageBox("Please enter a system name to continue.",
+                                             forms::Buttons::ok, forms::Icon::information,
+                                             gAddIn().IAddInContract_Title());
+    return false;
+  }
+  std::string strName = TrimmedName();
+  return gOwnerForm().CheckValidSystemName(strName);
 }
 
 bool TabLocation::iTab_SaveData() {
   if (!addin::IsDocumentSet()) return false;
-  gDocument().put_Path(AddBackslash(txtLocation.text()));
+  gDocument().put_Path(AddBackslash(m_strLocation));
   if (!forms::equalsIgnoringCase(gDocument().get_Name(), TrimmedName())) {
     gDocument().put_Name(TrimmedName());
   }
@@ -108,6 +130,7 @@ void TabLocation::txtSystemName_Change() {
     RestoreLastName();
   }
   m_strLastName = txtSystemName.text();
+  m_bNameRefused = false;
   UpdateFolderFromName();
   if (!m_bLoading && !gDocument().get_Modified()) gDocument().MarkChanged();
 }
@@ -122,38 +145,35 @@ void TabLocation::RestoreLastName() {
 }
 
 void TabLocation::UpdateFolderFromName() {
-  std::string strParent = ParentFolder(txtLocation.text());
-  // The second backslash stands for the missing name, so that the next edit stays in this folder.
-  if (TrimmedName().empty()) strParent += "\\";
-  txtLocation.setText(SystemFolder(strParent));
-  txtLocation.setToolTip(strParent);
+  PutParentFolder(ParentFolder(m_strLocation));
   if (!m_bLoading) gAddIn().put_FolderChecksOK(false);
+}
+
+/// A second backslash stands for a missing name, so that the next edit stays in this folder.
+void TabLocation::PutParentFolder(const std::string& strFolder) {
+  const std::string strParent = AddBackslash(strFolder);
+  PutLocation(strParent + TrimmedName() + "\\", strParent);
+}
+
+void TabLocation::PutLocation(const std::string& strFolder, const std::string& strParent) {
+  m_strLocation = strFolder;
+  txtLocation.setText(forms::toMachinePath(strFolder).string());
+  txtLocation.setToolTip(forms::toMachinePath(strParent).string());
 }
 
 std::string TabLocation::TrimmedName() const { return forms::trimmed(txtSystemName.text()); }
 
-std::string TabLocation::SystemFolder(const std::string& strParent) const {
-  return AddBackslash(AddBackslash(strParent) + TrimmedName());
-}
-
 void TabLocation::txtSystemName_LostFocus() {
-  if (txtSystemName.text().empty()) {
-    forms::Application::current().messageBox("Please enter a system name to continue.",
-                                             forms::Buttons::ok, forms::Icon::information,
-                                             gAddIn().IAddInContract_Title());
-    forms::ignoringErrors([this] { txtSystemName.setFocus(); });
-    return;
-  }
-  std::string strName = TrimmedName();
-  gOwnerForm().CheckValidSystemName(strName);  // it tells the user by itself
+  m_bNameRefused = !CheckName();
+  if (m_bNameRefused) forms::ignoringErrors([this] { txtSystemName.setFocus(); });
 }
 
 void TabLocation::cmdBrowse_Click() {
   const std::string strFolder = common::BrowseForFolder(
       gAddIn().GetActiveWindowHandle(), "Save your system in this folder:", gDocument().get_Path());
   if (strFolder.empty()) return;
-  txtLocation.setText(SystemFolder(strFolder));
-  txtLocation.setToolTip(AddBackslash(strFolder));
+  gDocument().MarkChangedButProgram();
+  PutParentFolder(strFolder);
 }
 
 void TabLocation::SetTabStops(bool bValue) {

@@ -17,7 +17,7 @@ class TabLocation : public WizardStep {
 
   /// False: no system is open.
   bool SetData();
-  /// Refuses while the host does not accept the folder.
+  /// Refuses while the host does not accept the name or the folder.
   void BeforeTabChange(bool& bCancel);
   void OtherTabClicked() { SetTabStops(false); }
   bool iTab_SaveData() override;
@@ -31,11 +31,14 @@ class TabLocation : public WizardStep {
   void cmdBrowse_Click();
 
   void SetTabStops(bool bValue);
+  bool CheckName();
+  bool IsNameAccepted();
   void RestoreLastName();
   void UpdateFolderFromName();
+  void PutParentFolder(const std::string& strFolder);
+  void PutLocation(const std::string& strFolder, const std::string& strParent);
   void MoveRegistrationIfFolderChanged();
   std::string TrimmedName() const;
-  std::string SystemFolder(const std::string& strParent) const;
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " Name && Location"};
@@ -50,7 +53,9 @@ class TabLocation : public WizardStep {
 
   bool m_bLoading = false;
   bool m_bRestoring = false;
+  bool m_bNameRefused = false;  // and the user has been told
   std::string m_strLastName;
+  std::string m_strLocation;  // with backslashes; the box shows it as the machine writes it
   std::string m_strOldLocation;
   std::string m_strOldName;
 };

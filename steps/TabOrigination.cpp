@@ -228,6 +228,7 @@ void TabOrigination::cmdMove_Click(std::int32_t lOffset) {
   lvwTransmitters.setText(lRow, lTypeColumn, lvwTransmitters.text(lTarget, lTypeColumn));
   lvwTransmitters.setText(lTarget, lTypeColumn, strType);
   lvwTransmitters.setSelectedRow(lTarget);
+  gDocument().MarkChanged();
 }
 
 void TabOrigination::cmdRename_Click() {
@@ -245,12 +246,13 @@ void TabOrigination::lvwTransmitters_AfterLabelEdit(std::string& strLabel) const
   if (forms::length(strLabel) > lLabelLength) {
     Inform("Transmitter names cannot be greater than " + forms::decimal(lLabelLength) +
            " characters.");
-    strLabel = forms::left(strLabel, lLabelLength);
+    strLabel = forms::trimmed(forms::left(strLabel, lLabelLength));
   }
   if (strLabel.empty()) {
     Inform("Transmitter names must be at least one character long.");
     strLabel = m_strOldLabel;
   }
+  if (strLabel != m_strOldLabel) gDocument().MarkChangedButProgram();
 }
 
 void TabOrigination::chkUse3OLReceiver_Click() {

@@ -74,6 +74,8 @@ bool TabPower::SetData() {
   const forms::ImageList& images = addin::frmImages().get_ImageList();
   ctlCommands.each(
       [&](std::int16_t, host::DeviceCommands& selector) { selector.SetImages(images); });
+  // Leaving the page reads the box, which must not hold what another system left in it.
+  txtSecondOff.setText(forms::decimal(gAddIn().get_iSecondPowerOff()));
   return false;
 }
 

@@ -1,5 +1,7 @@
 #include "steps/TabRoomOptions.h"
 
+#include <utility>
+
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -39,6 +41,7 @@ TabRoomOptions::TabRoomOptions(forms::Container& container, std::string strName)
   SetTabStops(false);
   lblKestrum.setLink(true);
   txtFenletPassword.setMaxLength(lPasswordLength);
+  txtFenletPassword.setSelectsAllOnFocus(true);
   txtPowerOffTimeout.setMaxLength(lTimeoutLength);
   txtPowerOffTimeout.setAccessibleName("Minutes without motion");
   ConnectEvents();
@@ -54,7 +57,6 @@ void TabRoomOptions::ConnectEvents() {
   chkPowerTimeout.click.connect([this] { chkPowerTimeout_Click(); });
   cmdAdvanced.click.connect([this] { cmdAdvanced_Click(); });
   lblKestrum.click.connect([this] { lblKestrum_Click(); });
-  txtFenletPassword.gotFocus.connect([this] { txtFenletPassword.selectAll(); });
   txtFenletPassword.validate.connect([this](bool&) { txtFenletPassword_Validate(); });
   OnEnter(txtFenletPassword, [this] { txtFenletPassword_Validate(); });
   txtPowerOffTimeout.validate.connect(
@@ -69,8 +71,15 @@ void TabRoomOptions::SetTabStops(bool bValue) {
   chkInclude(iFenlet).setTabStop(bValue);
 }
 
+void TabRoomOptions::iTab_TabClicked() {
+  SetTabStops(true);
+  m_strTakenTimeout.reset();
+  UntickMissingPassword();
+}
+
 bool TabRoomOptions::SetData() {
   m_bSaving = false;
+  m_strTakenTimeout.reset();
   ctlImage(iKestrum).put_Picture(LargePicture(host::pictureKestrum));
   ctlImage(iFenlet).put_Picture(LargePicture(host::pictureFenlet));
   chkOccupancy.setEnabled(true);
@@ -150,25 +159,58 @@ void TabRoomOptions::chkInclude_Click(std::int16_t Index) {
   }
 }
 
-/// The motion detector goes with the monitoring interface; its box shows that at the next SetData.
+/// The motion detector goes with the monitoring interface, and comes back with it in the same
+/// visit.
 void TabRoomOptions::IncludeKestrum(bool bInclude) {
   cmdAdvanced.setEnabled(bInclude);
   if (bInclude) {
     gAddIn().AddKestrum();
+    if (m_strTakenTimeout && gAddIn().get_KestrumID() > 0) chkOccupancy.setChecked(true);
   } else {
+    const bool bSensor = gAddIn().get_OccupancySensorID() >= 1;
     gAddIn().RemoveKestrum();
+    if (bSensor && gAddIn().get_OccupancySensorID() == 0) ShowSensorTakenAlong();
   }
   ShowIPID();
+}
+
+void TabRoomOptions::ShowSensorTakenAlong() {
+  m_strTakenTimeout = txtPowerOffTimeout.text();
+  const forms::Guard loading(m_bLoading);
+  chkOccupancy.setChecked(false);
+  ShowWithoutSensor();
+}
+
+void TabRoomOptions::ShowWithoutSensor() {
+  lblPort.setCaption("");
+  chkPowerTimeout.setChecked(false);
+  EnableOccupancyOptions(false);
+  EnableTimeout(false);
+}
+
+void TabRoomOptions::RestoreTimeout() {
+  const std::string strTimeout = std::exchange(m_strTakenTimeout, {}).value_or("");
+  if (strTimeout.empty()) return;
+  chkPowerTimeout.setChecked(true);
+  txtPowerOffTimeout.setText(strTimeout);
 }
 
 void TabRoomOptions::IncludeFenlet(bool bInclude) {
   if (bInclude) {
     gAddIn().AddFenlet();
+    UntickMissingPassword();
   } else {
     gAddIn().RemoveFenlet();
   }
   chkEnablePwd.setEnabled(bInclude);
   if (chkEnablePwd.isChecked()) EnablePassword(bInclude);
+}
+
+void TabRoomOptions::UntickMissingPassword() {
+  if (!gAddIn().get_FenletPassword().empty()) return;
+  const forms::Guard loading(m_bLoading);
+  chkEnablePwd.setChecked(false);
+  EnablePassword(false);
 }
 
 void TabRoomOptions::chkOccupancy_Click() {
@@ -177,17 +219,18 @@ void TabRoomOptions::chkOccupancy_Click() {
     gAddIn().AddOccupancySensor();
     ShowPort();
     EnableOccupancyOptions(true);
+    RestoreTimeout();
     return;
   }
   gAddIn().RemoveOccupancySensor();
-  lblPort.setCaption("");  // also where the sensor could not be removed
-  chkPowerTimeout.setChecked(false);
-  EnableOccupancyOptions(false);
-  EnableTimeout(false);
+  ShowWithoutSensor();  // also where the sensor could not be removed
 }
 
 /// The next validation writes the value.
-void TabRoomOptions::chkPowerTimeout_Click() { EnableTimeout(chkPowerTimeout.isChecked()); }
+void TabRoomOptions::chkPowerTimeout_Click() {
+  if (!m_bLoading) gDocument().MarkChanged();
+  EnableTimeout(chkPowerTimeout.isChecked());
+}
 
 /// The password itself changes at its next validation.
 void TabRoomOptions::chkEnablePwd_Click() {
@@ -242,14 +285,21 @@ void TabRoomOptions::lblKestrum_Click() {
 
 void TabRoomOptions::OtherTabClicked() {
   SetTabStops(false);
+  ValidateBoxes();
+}
+
+void TabRoomOptions::ValidateBoxes() {
   txtFenletPassword_Validate();
-  bool Cancel = false;  // the step is left whatever the box holds
+  bool Cancel = false;  // nothing is refused, whatever the box holds
   txtPowerOffTimeout_Validate(Cancel);
 }
 
+/// What the page shows is saved as it is when the page is left, so that a box that was unticked
+/// takes its value with it.
 bool TabRoomOptions::iTab_SaveData() {
   m_bSaving = true;
   validateActiveControl();
+  if (isShown()) ValidateBoxes();
   return false;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "forms/CheckBox.h"
@@ -28,7 +29,7 @@ class TabRoomOptions : public WizardStep {
   void OtherTabClicked();
   bool iTab_SaveData() override;
   bool iTab_VerifyData(bool) override { return true; }
-  void iTab_TabClicked() override { SetTabStops(true); }
+  void iTab_TabClicked() override;
 
  private:
   void chkInclude_Click(std::int16_t Index);
@@ -47,11 +48,16 @@ class TabRoomOptions : public WizardStep {
   void SetOccupancyData();
   void IncludeKestrum(bool bInclude);
   void IncludeFenlet(bool bInclude);
+  void ShowWithoutSensor();
+  void ShowSensorTakenAlong();
+  void RestoreTimeout();
+  void UntickMissingPassword();
   void ShowIPID();
   void ShowPort();
   void EnablePassword(bool bEnabled);
   void EnableTimeout(bool bEnabled);
   void EnableOccupancyOptions(bool bEnabled);
+  void ValidateBoxes();
   void ApplyTimeout() const;
   void LayOut();
 
@@ -87,6 +93,9 @@ class TabRoomOptions : public WizardStep {
 
   bool m_bLoading = false;
   bool m_bSaving = false;
+  /// The minutes of the sensor that the monitoring interface took along in this visit of the page;
+  /// empty without a power off.
+  std::optional<std::string> m_strTakenTimeout;
 };
 
 }  // namespace steps

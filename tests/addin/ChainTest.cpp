@@ -35,6 +35,7 @@ class ChainTest : public testing::Test {
       wizard.chooseDisplay("Bravonne P2200");
       wizard.goTo("Orlena Transmitters");
       wizard.click("cmdAdd");
+      wizard.user.editLabel(wizard.control<forms::ListView>("lvwTransmitters"), 0, "Podium");
       wizard.goTo("Room Options");
       wizard.click("chkInclude(1)");
       wizard.enter("txtFenletPassword", "lantern");
@@ -89,6 +90,8 @@ TEST_F(ChainTest, UploadSavesMakesPanelsCompilesAndSendsAndThenOnlySends) {
     EXPECT_EQ(holdings().program->name, "My Orlena System");
     EXPECT_TRUE(holdings().passwordSet);
     EXPECT_TRUE(receiver::checkPassword(receiver.address(), "lantern"));
+    const auto project = wizard.systemFile("My Orlena System").replace_filename("Fenlet.tpj");
+    EXPECT_NE(tests::fileText(project).find("\"PODIUM\\r\\nSELECTED\""), std::string::npos);
     EXPECT_EQ(callsOf("lblUpload"), pages + upload);
   });
 }
@@ -231,6 +234,30 @@ TEST_F(ChainTest, AudioSettingsNeedABuiltSystem) {
         "with real-time anyway?",
         Buttons::yesNo, Icon::question, Answer::no);
     EXPECT_EQ(callsOf("cmdSettings"), Calls{});
+  });
+}
+
+TEST_F(ChainTest, DocumentationSavesAChangedSystemAlone) {
+  run([&] {
+    wizard.clickInWindow("cmdSave");
+    for (const bool isChanged : {false, true, false}) {
+      if (isChanged) wizard.document().MarkChangedButProgram();
+      wizard.desktop.whenShown("ReportsDialog", [](forms::Form& dialog) { dialog.hide(); });
+      const Calls saved = isChanged ? Calls{"Save"} : Calls{};
+      EXPECT_EQ(callsOf("cmdReports"), saved + Calls{"ShowReportsDialog"});
+    }
+  });
+}
+
+TEST_F(ChainTest, PanelWindowStaysOpenWhileItWorks) {
+  run([&] {
+    std::string kept;
+    wizard.application.runLater([&] {
+      forms::Form& window = *wizard.application.activeForm();
+      if (!wizard.user.close(window)) kept = window.name();
+    });
+    EXPECT_EQ(callsOf("cmdUpload").back(), "SetPassword");
+    EXPECT_EQ(kept, "frmBuildPanels");
   });
 }
 

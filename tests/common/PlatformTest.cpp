@@ -57,7 +57,7 @@ TEST_F(PlatformTest, helpThatCannotBeShownIsTold) {
   desktop.expectMessage("Orlena",
                         "Error displaying Help Topic (62) for help file: Orlena.chm\r\n"
                         "Current folder: " +
-                            application.currentFolder(),
+                            forms::toMachinePath(application.currentFolder()).string(),
                         forms::Buttons::ok, forms::Icon::exclamation);
   common::ShowHelpTopic(0, 62);
 }
@@ -85,7 +85,7 @@ TEST_F(PlatformTest, closingHelpGoesToTheProgramsFolder) {
 
   std::filesystem::remove_all(folder.path());
   desktop.expectMessage(
-      "Orlena", "Failed to initialize help system.\r\nPath not found: " + application.folder());
+      "Orlena", "Failed to initialize help system.\r\nPath not found: " + folder.path().string());
   EXPECT_FALSE(common::CloseAllHelp());
   EXPECT_EQ(desktop.helpClosings(), 1);
 }

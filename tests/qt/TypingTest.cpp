@@ -86,6 +86,21 @@ TEST_F(TypingTest, CaretAndSelectionAreTheSameOnBothSides) {
   });
 }
 
+TEST_F(TypingTest, BoxThatSelectsAllOnFocusDoesSoForAMouseToo) {
+  forms::TextBox other(form, "other");
+  other.setBounds({0, 600, 3000, 315});
+  other.setSelectsAllOnFocus(true);
+  other.setText("mossgate");
+  show(form, [&] {
+    click(other);
+    settle();
+    EXPECT_EQ(widgetAs<QLineEdit>(other).selectedText(), "mossgate");
+    click(other);
+    settle();
+    EXPECT_EQ(widgetAs<QLineEdit>(other).selectedText(), "") << "the second click puts the caret";
+  });
+}
+
 TEST_F(TypingTest, UndoReachesTheFormAndAWordIsErasedAtOnce) {
   show(form, [&] {
     type("one two");

@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <new>
+#include <set>
+
 #include "addin/modGlobals.h"
+#include "forms/ListView.h"
+#include "forms/TextBox.h"
 #include "tests/wizard/Wizard.h"
 
 namespace {
@@ -13,6 +19,38 @@ using tests::Wizard;
 constexpr const char* exitQuestion = "Are you sure you want to exit the Orlena wizard?";
 
 class WizardWindow : public testing::Test, public Wizard {};
+
+void expectSaveQuestion(Wizard& wizard, Answer answer) {
+  wizard.desktop.expectMessage("Orlena", "Do you wish to save the changes you made to the system?",
+                               Buttons::yesNoCancel, Icon::question, answer);
+}
+
+/// A library that knows the filter that was set last, and has no memory left when it is taken away.
+class WatchedLibrary : public host::LibraryManager {
+ public:
+  struct Types : host::DeviceTypes {
+    void put_DeviceFilter(const std::optional<std::vector<std::int16_t>>& ids) override {
+      filter = ids;
+      if (!ids) throw std::bad_alloc();
+    }
+    std::optional<std::vector<std::int16_t>> filter;
+  };
+
+  explicit WatchedLibrary(std::shared_ptr<host::LibraryManager> library)
+      : library_(std::move(library)) {}
+
+  std::shared_ptr<host::DeviceTypes> get_DeviceTypes() const override { return types; }
+  std::shared_ptr<host::Models> get_Models() const override { return library_->get_Models(); }
+  std::vector<std::shared_ptr<host::LibraryModule>> get_Modules() const override {
+    return library_->get_Modules();
+  }
+  std::string get_PicturesFolder() const override { return library_->get_PicturesFolder(); }
+
+  const std::shared_ptr<Types> types = std::make_shared<Types>();
+
+ private:
+  std::shared_ptr<host::LibraryManager> library_;
+};
 
 /// Saves a wizard's system; the answer is a copy of it under another name.
 std::filesystem::path savedCopy(Wizard& wizard, const std::filesystem::path& folder) {
@@ -45,6 +83,26 @@ TEST_F(WizardWindow, StartsWithAllStepsOnTheFirst) {
   EXPECT_FALSE(addin::IsDocumentSet());
 }
 
+TEST_F(WizardWindow, NextAndBackGoToTheFirstFieldOfThePage) {
+  run([&] {
+    goTo("Display Device");
+    chooseDisplay("Bravonne P2200");
+    goTo("Start");
+    const auto focused = [&] { return window().focus().control()->name(); };
+    for (const char* field :
+         {"txtSystemName", "cmdChoose", "optVolumeKnob(0)", "optPower(2)", "txtPowerLockoutTime(1)",
+          "chkInclude(0)", "listDevices", "chkInclude(0)", "cmdUpload"}) {
+      clickInWindow("cmdNext");
+      EXPECT_EQ(focused(), field);
+    }
+    clickInWindow("cmdBack");
+    EXPECT_EQ(focused(), "chkInclude(0)");
+    goTo("Display Device");
+    clickInWindow("cmdBack");
+    EXPECT_EQ(control<forms::TextBox>("txtSystemName").selectionLength(), 16) << "typed over";
+  });
+}
+
 TEST_F(WizardWindow, FinishGoesToTheLastStepFirstAndThenAsks) {
   run([&] {
     clickInWindow("cmdFinish");
@@ -68,13 +126,70 @@ TEST_F(WizardWindow, FolderThatIsRefusedKeepsStepAndSystem) {
     EXPECT_EQ(currentStep(), "Name and Location");
     expectRefusal();
     clickInWindow("cmdSave");
+    expectSaveQuestion(*this, Answer::yes);
     expectRefusal();
     EXPECT_FALSE(user.close(window()));
     EXPECT_TRUE(window().isVisible());
     enter("txtSystemName", "Free");
     clickInWindow("cmdNext");
     EXPECT_EQ(currentStep(), "Display Device");
+    goTo("Name and Location");
+    enter("txtSystemName", "Taken");
+    expectSaveQuestion(*this, Answer::no);
+    EXPECT_TRUE(user.close(window()));
   });
+}
+
+/// Each on a saved system with a display and two transmitters, on the page named; what the file
+/// holds when the question is answered with Yes.
+struct UnsavedChange {
+  const char* page;
+  std::function<void(Wizard&)> make;
+  const char *inFile, *isCurrent;
+};
+
+const std::vector<UnsavedChange> unsavedChanges{
+    {"Power On/Off Lockout", [](Wizard& wizard) { wizard.enter("txtPowerLockoutTime(1)", "77"); },
+     "Power On Lockout Time=77;", "false"},
+    {"Orlena Transmitters",
+     [](Wizard& wizard) {
+       wizard.click("cmdRename");
+       wizard.user.labelText(wizard.control<forms::ListView>("lvwTransmitters"), "Podium");
+     },
+     "\"label\": \"Podium\"", "true"},
+    {"Orlena Transmitters",
+     [](Wizard& wizard) {
+       wizard.user.editLabel(wizard.control<forms::ListView>("lvwTransmitters"), 0, "Podium");
+     },
+     "\"label\": \"Podium\"", "true"},
+    {"Room Options", [](Wizard& wizard) { wizard.enter("txtFenletPassword", "lantern"); },
+     "Fenlet Password=lantern;", "true"},
+};
+
+TEST(WizardsSystem, ClosingAsksForWhateverWouldBeLostAndYesSavesIt) {
+  for (const UnsavedChange& change : unsavedChanges) {
+    Wizard wizard;
+    wizard.run([&] {
+      wizard.goTo("Display Device");
+      wizard.chooseDisplay("Bravonne P2200");
+      wizard.goTo("Orlena Transmitters");
+      for (int i = 0; i < 2; ++i) wizard.click("cmdAdd");
+      wizard.goTo("Room Options");
+      wizard.click("chkInclude(1)");
+      wizard.goTo(change.page);
+      wizard.clickInWindow("cmdSave");
+      wizard.document().get_SystemInfo()->put_ProgramIsCurrent(true);
+      change.make(wizard);
+      expectSaveQuestion(wizard, Answer::cancel);
+      EXPECT_FALSE(wizard.user.close(wizard.window()));
+      expectSaveQuestion(wizard, Answer::yes);
+      EXPECT_TRUE(wizard.user.close(wizard.window()));
+    });
+    const std::string saved = tests::fileText(wizard.systemFile("My Orlena System"));
+    EXPECT_NE(saved.find(change.inFile), std::string::npos) << change.inFile;
+    const std::string current = std::string("\"program_is_current\": ") + change.isCurrent;
+    EXPECT_NE(saved.find(current), std::string::npos) << change.inFile;
+  }
 }
 
 TEST(WizardsSystem, ClosingAModifiedSystemAsks) {
@@ -83,14 +198,32 @@ TEST(WizardsSystem, ClosingAModifiedSystemAsks) {
     wizard.run([&] {
       wizard.goTo("Name and Location");
       wizard.enter("txtSystemName", "Room 4");
-      wizard.desktop.expectMessage("Orlena",
-                                   "Do you wish to save the changes you made to the system?",
-                                   Buttons::yesNoCancel, Icon::question, answer);
+      expectSaveQuestion(wizard, answer);
       wizard.user.close(wizard.window());
       EXPECT_EQ(wizard.window().isVisible(), answer == Answer::cancel);
       EXPECT_EQ(std::filesystem::exists(wizard.systemFile("Room 4")), answer == Answer::yes);
     });
   }
+}
+
+TEST_F(WizardWindow, FoldersOfNamesThatWereTriedGoWithTheWizard) {
+  const auto inside = [&](const char* name) { return systemsFolder() / name; };
+  std::filesystem::create_directory(inside("Before"));
+  run([&] {
+    for (const char* name : {"Before", "Tried", "Filled", "Saved"}) {
+      goTo("Name and Location");
+      enter("txtSystemName", name);
+      clickInWindow("cmdNext");
+      EXPECT_TRUE(std::filesystem::exists(inside(name)));
+    }
+    tests::writeFile(inside("Filled") / "notes.txt", "by hand");
+    clickInWindow("cmdSave");
+  });
+  std::set<std::string> left;
+  for (const auto& entry : std::filesystem::directory_iterator(systemsFolder())) {
+    left.insert(entry.path().filename());
+  }
+  EXPECT_EQ(left, (std::set<std::string>{"Before", "Filled", "Saved"}));
 }
 
 TEST_F(WizardWindow, NewSystemTakesTheNextFreeName) {
@@ -115,11 +248,15 @@ TEST_F(WizardWindow, OpeningShowsTheSystemAndCancellingKeepsTheOldOne) {
   run([&] {
     const auto saved = savedCopy(*this, folder.path());
     goTo("Name and Location");
+    enter("txtSystemName", "Not saved");
+    expectSaveQuestion(*this, Answer::no);
     desktop.expectOpenDialog("Open System", "");
     clickInWindow("cmdFolder");
     EXPECT_EQ(currentStep(), "Name and Location");
-    EXPECT_EQ(text("txtSystemName"), "My Orlena System");
+    EXPECT_EQ(text("txtSystemName"), "Not saved");
+    EXPECT_TRUE(document().get_Modified());
 
+    expectSaveQuestion(*this, Answer::no);
     desktop.expectOpenDialog("Open System", forms::fromMachinePath(saved));
     clickInWindow("cmdFolder");
     EXPECT_EQ(currentStep(), "Start");
@@ -143,6 +280,11 @@ TEST(WizardsSystem, ForeignSystemGivesItsMessageAndANewSystem) {
     tests::writeFile(file, text);
     Wizard wizard;
     wizard.givenOpenSystem(file);
+    const auto library = std::make_shared<WatchedLibrary>(wizard.host->libraryManager());
+    wizard.addIn->IAddInContract_Load(wizard.host->document(), library,
+                                      wizard.host->communication(), wizard.host->smallPictures(),
+                                      wizard.host->largePictures(), wizard.host->mainWindow());
+    wizard.application.setHelpFile("Host.chm");
     const bool isForeign = word != "ORLENA";
     if (isForeign) {
       wizard.desktop.expectMessage("Orlena",
@@ -155,9 +297,34 @@ TEST(WizardsSystem, ForeignSystemGivesItsMessageAndANewSystem) {
     }
     wizard.run([&] {
       EXPECT_EQ(wizard.document().get_Name(), isForeign ? "My Orlena System" : "Saved System");
+      EXPECT_EQ(library->types->filter->size(), 13U);
+      ASSERT_EQ(wizard.host->openSystems().size(), 1U);
+      EXPECT_EQ(wizard.host->openSystems().front().second, wizard.document().get_Name());
+      const std::string left = "ResetApplicationStatus " + forms::fromMachinePath(folder.path());
+      const auto& calls = wizard.host->journal().calls();
+      EXPECT_EQ(std::any_of(calls.begin(), calls.end(),
+                            [&](const auto& call) { return call.starts_with(left); }),
+                isForeign);
     });
+    EXPECT_EQ(wizard.application.helpFile(), "Host.chm");
+    wizard.addIn.reset();
+    EXPECT_FALSE(library->types->filter) << word;
     EXPECT_EQ(tests::fileText(file), text);
   }
+}
+
+TEST_F(WizardWindow, ProgramThatFailsWithoutATextIsToldByItsPart) {
+  run([&] {
+    const std::int16_t input = device("Digital Input 3")->get_ID();
+    ASSERT_TRUE(document().RemoveDevice(input, host::removalOfDevice));
+    goTo("Audio Control");
+    click("chkMuteOnDigInp3");
+    desktop.expectMessage("Orlena",
+                          "Failed to build the system \r\n\r\nThe program could not be written for "
+                          "the audio.\r\n\r\nPlease contact Velmondo for assistance.",
+                          Buttons::ok, Icon::critical);
+    clickInWindow("cmdSave");
+  });
 }
 
 TEST_F(WizardWindow, MissingTemplateIsToldAndClosesTheWizard) {
@@ -166,8 +333,8 @@ TEST_F(WizardWindow, MissingTemplateIsToldAndClosesTheWizard) {
   const auto fresh = std::make_shared<addin::IAddIn>();
   fresh->IAddInContract_Load(nullptr, host->libraryManager(), host->communication(),
                              host->smallPictures(), host->largePictures(), host->mainWindow());
-  const std::string path = forms::fromMachinePath(empty.path()) +
-                           "\\TemplateSystems\\Orlena TEMPLATE\\Orlena TEMPLATE.tsy";
+  const std::string path =
+      empty.path().string() + "/TemplateSystems/Orlena TEMPLATE/Orlena TEMPLATE.tsy";
   desktop.expectMessage("Orlena", "Failed to find " + path + ": Critical Error", Buttons::ok,
                         Icon::critical);
   desktop.expectMessage("Orlena",

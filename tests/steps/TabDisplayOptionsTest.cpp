@@ -107,8 +107,10 @@ TEST_F(TabDisplayOptionsTest, AnotherDeviceStartsWithoutTimesAndLeavingGivesUpTh
     selectCommand("ctlPowerOff(0)", "Stop");
     click("chkInclude(1)");
     EXPECT_EQ(times(), (std::vector<float>{5, 5, 5, 5}));
+    document().MarkUnchanged();
     next();
     EXPECT_EQ(times(), (std::vector<float>{5, 0, 0, 0}));
+    EXPECT_TRUE(isModified());
     EXPECT_FALSE(tested().control("chkInclude(0)").tabStop());
     clickInWindow("cmdBack");
     EXPECT_TRUE(control("chkInclude(0)").tabStop());

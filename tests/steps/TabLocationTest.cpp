@@ -11,9 +11,8 @@ class TabLocationTest : public tests::StepTest {
 
   TextBox& name() { return control<TextBox>("txtSystemName"); }
   std::string location() { return text("txtLocation"); }
-  std::string folder(const std::string& system) {
-    return forms::fromMachinePath(systemsFolder()) + "\\" + system;
-  }
+  /// As the page shows it.
+  std::string folder(const std::string& system) { return systemsFolder().string() + "/" + system; }
   void expectNameMessage(const std::string& text) { expectMessage(text, Icon::information); }
 };
 
@@ -21,13 +20,13 @@ TEST_F(TabLocationTest, FolderFollowsTheName) {
   onStep([&] {
     EXPECT_EQ(location(), folder("My Orlena System"));
     enter("txtSystemName", "Board Room ");
-    EXPECT_EQ(location(), folder("Board Room\\"));
+    EXPECT_EQ(location(), folder("Board Room/"));
     EXPECT_EQ(control("txtLocation").toolTip(), folder(""));
     EXPECT_TRUE(isModified());
     clickInWindow("cmdSave");
     EXPECT_TRUE(std::filesystem::exists(systemFile("Board Room")));
     EXPECT_EQ(document().get_Name(), "Board Room");
-    EXPECT_EQ(document().get_Path(), folder("Board Room\\"));
+    EXPECT_EQ(document().get_Path(), forms::fromMachinePath(folder("Board Room/")));
     EXPECT_EQ(name().text(), "Board Room ");
   });
 }
@@ -53,7 +52,7 @@ TEST_F(TabLocationTest, RefusedNameComesBackWithItsCaret) {
     expectNameMessage(illegal);
     enter("txtSystemName", "a\\b");
     EXPECT_EQ(name().text(), "Room");
-    EXPECT_EQ(location(), folder("Room\\"));
+    EXPECT_EQ(location(), folder("Room/"));
   });
 }
 
@@ -61,17 +60,36 @@ TEST_F(TabLocationTest, EmptyNameKeepsTheParentFolderAndAsksForAName) {
   onStep([&] {
     for (int i = 0; i < 3; ++i) {
       enter("txtSystemName", "");
-      EXPECT_EQ(location(), folder("\\"));
+      EXPECT_EQ(location(), folder("/"));
       user.type(name(), "a");
-      EXPECT_EQ(location(), folder("a\\"));
+      EXPECT_EQ(location(), folder("a/"));
     }
     enter("txtSystemName", "");
     expectNameMessage("Please enter a system name to continue.");
-    desktop.expectMessageWith(Icon::exclamation, "");
     next();
     EXPECT_EQ(currentStep(), "Name and Location");
     EXPECT_TRUE(name().hasFocus());
     user.type(name(), "Room");
+  });
+}
+
+TEST_F(TabLocationTest, NameThatNoFileCanHaveIsToldOnceAndRefusesPageAndSave) {
+  onStep([&] {
+    for (const std::string& name :
+         std::vector<std::string>{"..", ".", "Room\t1", {"Room\0", 5}, "  "}) {
+      for (const char* button : {"cmdNext", "cmdSave"}) {
+        enter("txtSystemName", name);
+        desktop.expectMessageWith(Icon::information, "");
+        clickInWindow(button);
+        EXPECT_EQ(currentStep(), "Name and Location");
+        EXPECT_TRUE(control("txtSystemName").hasFocus());
+      }
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(systemsFolder()));
+    EXPECT_EQ(callsOf("CreateProjectFolder"), 0);
+    enter("txtSystemName", "Room");
+    clickInWindow("cmdSave");
+    EXPECT_TRUE(std::filesystem::exists(systemFile("Room")));
   });
 }
 
@@ -84,27 +102,46 @@ TEST_F(TabLocationTest, AcceptedFolderIsNotAskedForAgain) {
     clickInWindow("cmdSave");
     EXPECT_EQ(callsOf("CreateProjectFolder"), 1);
     ASSERT_EQ(host->openSystems().size(), 1U);
-    EXPECT_EQ(host->openSystems().front().first, folder("Room\\"));
+    EXPECT_EQ(host->openSystems().front().first, forms::fromMachinePath(folder("Room/")));
   });
 }
 
 TEST_F(TabLocationTest, BrowsedFolderTakesTheNameAndMovesTheRegistration) {
   const tests::TemporaryFolder elsewhere;
   onStep([&] {
-    const std::string parent = forms::fromMachinePath(elsewhere.path());
+    const std::string parent = elsewhere.path();
     desktop.expectFolderDialog("Save your system in this folder:", "");
     click("cmdBrowse");
     EXPECT_EQ(location(), folder("My Orlena System"));
+    EXPECT_FALSE(isModified());
 
-    desktop.expectFolderDialog("Save your system in this folder:", parent);
+    desktop.expectFolderDialog("Save your system in this folder:", forms::fromMachinePath(parent));
     click("cmdBrowse");
-    EXPECT_EQ(desktop.lastFolderDialog().initialFolder, folder("My Orlena System"));
-    EXPECT_EQ(location(), parent + "\\My Orlena System\\");
+    EXPECT_EQ(desktop.lastFolderDialog().initialFolder,
+              forms::fromMachinePath(folder("My Orlena System")));
+    EXPECT_EQ(location(), parent + "/My Orlena System/");
+    EXPECT_TRUE(isModified());
     host->journal().clear();
     next();
     EXPECT_EQ(callsOf("CreateProjectFolder"), 0);
     EXPECT_EQ(callsOf("ResetApplicationStatus"), 1);
     EXPECT_EQ(callsOf("SetApplicationStatus"), 1);
+  });
+}
+
+TEST_F(TabLocationTest, FolderBrowsedWithoutANameHoldsTheNameTypedAfterwards) {
+  const tests::TemporaryFolder elsewhere;
+  const std::string parent = elsewhere.path();
+  onStep([&] {
+    for (const char* blank : {"", "  "}) {
+      enter("txtSystemName", blank);
+      desktop.expectMessageWith(Icon::information, "name");
+      desktop.expectFolderDialog("Save your system in this folder:",
+                                 forms::fromMachinePath(parent));
+      click("cmdBrowse");
+      enter("txtSystemName", "Room");
+      EXPECT_EQ(location(), parent + "/Room/");
+    }
   });
 }
 

@@ -83,6 +83,31 @@ TEST_F(TabPowerTest, SecondOffStartsAsThePowerOffCommandAndStoresItsDelay) {
   });
 }
 
+TEST_F(TabPowerTest, DelayStaysWithItsSystem) {
+  onStep("Bravonne P2200", [&] {
+    click("chkSecondOff");
+    hold("txtSecondOff", "9");
+    clickInWindow("cmdSave");
+    clickInWindow("cmdNew");
+    goTo("Power Control");
+    next();
+    EXPECT_EQ(addIn->get_iSecondPowerOff(), 0);
+    EXPECT_FALSE(isModified());
+  });
+}
+
+TEST_F(TabPowerTest, DisplayWithoutASecondOffUnticksItAndKeepsItsNameAndDelay) {
+  onStep("Bravonne P2200", [&] {
+    click("chkSecondOff");
+    hold("txtSecondOff", "9");
+    enterWith("Bravonne P3500 Wide");
+    EXPECT_EQ(addIn->get_bSecondPowerOff(), 0);
+    enterWith("Bravonne P2200");
+    EXPECT_EQ(states({"chkSecondOff", "txtSecondOff"}), "o.");
+    EXPECT_EQ(selected(3) + text("txtSecondOff"), "Power_Off9");
+  });
+}
+
 TEST_F(TabPowerTest, LeavingDiscreteKeepsTheSecondCommandAndAClearedPowerOffDoesNot) {
   onStep("Bravonne P2200", [&] {
     click("chkSecondOff");

@@ -47,14 +47,39 @@ TEST_F(TabRoomOptionsTest, BoxesAddAndRemoveTheirDevicesAtOnce) {
     EXPECT_EQ(text("lblPort") + text("txtPowerOffTimeout"), "");
     click("chkInclude(1)");
     EXPECT_EQ(addIn->get_FenletID(), 0);
-    click("chkOccupancy");
     click("chkInclude(0)");
-    EXPECT_FALSE(device("Kestrum Interface") || device("Motion Detector"));
+    EXPECT_FALSE(device("Kestrum Interface"));
     EXPECT_EQ(text("lblIPID"), "");
-    EXPECT_TRUE(isChecked("chkOccupancy")) << "the detector's box shows that later";
-    fill();
-    EXPECT_FALSE(isChecked("chkOccupancy"));
     EXPECT_EQ(dependent(), ".X.");
+  });
+}
+
+TEST_F(TabRoomOptionsTest, KestrumTakesTheDetectorAlongAndBringsItBackInTheSameVisit) {
+  onStep([&] {
+    click("chkInclude(0)");
+    click("chkOccupancy");
+    click("chkPowerTimeout");
+    enterAndLeave("txtPowerOffTimeout", "7", "chkOccupancy");
+    const auto occupancy = [&] {
+      return states({"chkOccupancy", "chkPowerTimeout", "txtPowerOffTimeout"}) +
+             text("txtPowerOffTimeout");
+    };
+    for (const char* box : {"chkInclude(0)", "chkOccupancy"}) {
+      click("chkInclude(0)");
+      EXPECT_FALSE(device("Kestrum Interface") || device("Motion Detector"));
+      EXPECT_EQ(text("lblPort") + occupancy(), "o..") << box;
+      click(box);
+      EXPECT_TRUE(device("Motion Detector"));
+      EXPECT_EQ(occupancy(), "xxo7") << box;
+      leave();
+      EXPECT_EQ(sensorTimeout(), "420");
+      if (!isChecked("chkInclude(0)")) click("chkInclude(0)");
+    }
+    click("chkInclude(0)");
+    leave();
+    EXPECT_EQ(addIn->get_MotionSensorTimeout(), 0);
+    click("chkInclude(0)");
+    EXPECT_EQ(occupancy(), "o..0");
   });
 }
 
@@ -112,7 +137,10 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
     document().MarkUnchanged();
     click("chkEnablePwd");
     EXPECT_TRUE(isModified());
-    expectPasswordBox(false, "an Open Door of 20");
+    for (int clicks = 0; clicks < 2; ++clicks) {
+      expectPasswordBox(false, "an Open Door of 20");
+      click("chkInclude(1)");
+    }
     click("chkEnablePwd");
     expectPasswordBox(true, "an Open Door of 20");
     click("chkInclude(1)");
@@ -121,6 +149,22 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
     leave();
     EXPECT_EQ(addIn->get_FenletPassword(), "");
     expectPasswordBox(false, "");
+    EXPECT_EQ(states({"chkEnablePwd"}), ".") << "there is none to be protected with";
+
+    click("chkInclude(1)");
+    click("chkEnablePwd");
+    expectPasswordBox(true, "");
+    click("chkInclude(1)");
+    click("chkInclude(1)");
+    EXPECT_EQ(states({"chkEnablePwd"}), "o");
+    expectPasswordBox(false, "");
+
+    click("chkEnablePwd");
+    enterAndLeave("txtFenletPassword", "lantern", "chkEnablePwd");
+    EXPECT_EQ(addIn->get_FenletPassword(), "lantern");
+    click("chkEnablePwd");
+    clickInWindow("cmdSave");
+    EXPECT_EQ(addIn->get_FenletPassword(), "");
   });
 }
 
@@ -132,10 +176,14 @@ TEST_F(TabRoomOptionsTest, TimeoutReachesTheSensorInSeconds) {
     EXPECT_EQ(text("txtPowerOffTimeout"), "0");
     enterAndLeave("txtPowerOffTimeout", "7", "chkOccupancy");
     EXPECT_EQ(sensorTimeout(), "420");
+    document().MarkUnchanged();
+    document().get_SystemInfo()->put_ProgramIsCurrent(true);
     click("chkPowerTimeout");
     EXPECT_EQ(addIn->get_MotionSensorTimeout(), 420);
-    leave();
+    EXPECT_TRUE(isModified());
+    clickInWindow("cmdSave");
     EXPECT_EQ(addIn->get_MotionSensorTimeout(), 0);
+    EXPECT_FALSE(document().get_SystemInfo()->get_ProgramIsCurrent());
     EXPECT_EQ(sensorTimeout() + text("txtPowerOffTimeout"), "00");
   });
 }

@@ -65,8 +65,7 @@ void Wizard::run(const std::function<void()>& script) {
     window_ = &form;
     script();
     if (form.isVisible()) {
-      if (addin::IsDocumentSet()) addin::gDocument().MarkUnchanged();
-      addIn->put_FolderChecksOK(true);
+      addin::SetDocument(nullptr);  // so that it asks nothing
       form.unload();
     }
     window_ = nullptr;

@@ -33,6 +33,7 @@ class QtDesktop : public forms::Desktop {
   std::int32_t showHelp(std::int32_t ownerHandle, const std::string& helpFile,
                         std::int16_t topic) override;
   void closeAllHelp() override;
+  void copyText(const std::string& text) override;
   void processEvents() override;
   void runLater(std::function<void()> task) override;
   void setMousePointer(forms::MousePointer pointer) override;

@@ -9,6 +9,7 @@
 
 #include "qt/Conversions.h"
 #include "qt/Painting.h"
+#include "qt/Spoken.h"
 
 namespace qt {
 namespace {
@@ -59,7 +60,19 @@ class Marked : public Button {
 };
 
 using MarkedCheck = Marked<QCheckBox>;
-using MarkedOption = Marked<QRadioButton>;
+
+/// Qt calls a button a check box that leaves its group to others.
+class MarkedOption : public Marked<QRadioButton>, public Spoken {
+ public:
+  using Marked::Marked;
+
+  QAccessible::Role role() const override { return QAccessible::RadioButton; }
+  void describe(QAccessible::State& state) const override {
+    state.checkable = true;
+    state.checked = isChecked();
+  }
+  void press() override { click(); }
+};
 
 }  // namespace
 

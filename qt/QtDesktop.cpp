@@ -1,5 +1,6 @@
 #include "qt/QtDesktop.h"
 
+#include <QtGui/QClipboard>
 #include <QtGui/QFontMetrics>
 #include <QtWidgets/QApplication>
 #include <algorithm>
@@ -13,6 +14,7 @@
 #include "qt/HelpViewer.h"
 #include "qt/Session.h"
 #include "qt/ShownForm.h"
+#include "qt/Spoken.h"
 
 namespace qt {
 namespace {
@@ -54,6 +56,7 @@ QtDesktop::QtDesktop(int argc, char** argv) : parts_(std::make_unique<Parts>(arg
   std::setlocale(LC_NUMERIC, "C");  // Qt takes over the user's; numbers have a point everywhere
   QApplication::setStyle(QStringLiteral("Fusion"));  // forms measure for it
   QApplication::setQuitOnLastWindowClosed(false);
+  installSpoken();
 }
 
 QtDesktop::~QtDesktop() = default;
@@ -100,6 +103,10 @@ std::int32_t QtDesktop::showHelp(std::int32_t, const std::string& helpFile, std:
 }
 
 void QtDesktop::closeAllHelp() { parts_->help.closeAll(); }
+
+void QtDesktop::copyText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(toQt(text));
+}
 
 void QtDesktop::processEvents() {
   parts_->session.refreshAll();

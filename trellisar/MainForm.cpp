@@ -86,12 +86,12 @@ void MainForm::run() {
 void MainForm::hostAgain() { forms::Application::current().setTitle(hostTitle); }
 
 forms::Pieces MainForm::addInPieces(forms::Twips recentHeight) {
-  return {forms::item(lblAddIns),
+  return {forms::names(lblAddIns, lvwAddIns),
           forms::rest(lvwAddIns, addInListHeight),
           forms::row({forms::item(imgAddIn, iconSize), forms::rest(lblDescription)}),
           forms::row({forms::spring(), forms::item(cmdPreview), forms::item(cmdNew)}),
           forms::gap(margin),
-          forms::item(lblRecent),
+          forms::names(lblRecent, lvwRecent),
           forms::rest(lvwRecent, recentHeight),
           forms::row({forms::spring(), forms::item(cmdOpen), forms::item(cmdEdit)})};
 }
@@ -106,9 +106,9 @@ void MainForm::layOut() {
 
   const forms::Twips left = lists.left + lists.width + 2 * margin;
   const forms::Rect system{left, margin, inner.width - left - margin, lists.height};
-  const forms::Twips above =
-      forms::layOut(system, {forms::item(lblSystem), forms::rest(txtSystem, leastHeight)});
-  forms::layOut(system, {forms::item(lblSystem),
+  const forms::Twips above = forms::layOut(
+      system, {forms::names(lblSystem, txtSystem), forms::rest(txtSystem, leastHeight)});
+  forms::layOut(system, {forms::names(lblSystem, txtSystem),
                          forms::rest(txtSystem, leastHeight + std::max(0, system.height - above))});
   forms::layOut(
       {margin, bottom, inner.width - 2 * margin, last},

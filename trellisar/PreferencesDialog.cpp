@@ -18,9 +18,9 @@ PreferencesDialog::PreferencesDialog(Preferences& preferences)
   lblUsual.setCaption("Without a folder of your own, new systems go to " +
                       defaultSystemsFolder(Preferences()));
   cmdBrowse.click.connect([this] { browse(); });
-  layOutAbove(dialogWidth,
-              {forms::item(lblFolder), forms::row({forms::rest(txtFolder), forms::item(cmdBrowse)}),
-               forms::rest(lblUsual)});
+  layOutAbove(dialogWidth, {forms::names(lblFolder, txtFolder),
+                            forms::row({forms::rest(txtFolder), forms::item(cmdBrowse)}),
+                            forms::rest(lblUsual)});
 }
 
 void PreferencesDialog::browse() {

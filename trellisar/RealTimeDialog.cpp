@@ -31,6 +31,7 @@ RealTimeDialog::RealTimeDialog(const DeviceData& receiver)
     : HostForm("RealTimeDialog", "Audio Settings") {
   lblReceiver.setCaption("Audio of the receiver \"" + receiver.name + "\", " +
                          receiver.definition->model + ":");
+  lvwSettings.nameBy(lblReceiver);
   lvwSettings.setColumns({"Setting", "Value"});
   for (const AudioSetting& setting : audioSettings) {
     for (const auto& [name, value] : receiver.properties) {

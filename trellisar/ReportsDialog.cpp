@@ -24,6 +24,7 @@ ReportsDialog::ReportsDialog(std::vector<Report> reports, std::string folder,
       folder_(std::move(folder)),
       printer_(printer) {
   for (const Report& report : reports_) cboReport.add(report.title);
+  lvwReport.nameBy(cboReport);
   cboReport.click.connect([this] { show(); });
   cmdSave.click.connect([this] { save(); });
   cmdPrint.click.connect([this] { print(); });
@@ -32,7 +33,7 @@ ReportsDialog::ReportsDialog(std::vector<Report> reports, std::string folder,
   cmdClose.setDefault(true);
   cmdClose.click.connect([this] { hide(); });
   layOutAbove({&cmdSave, &cmdPrint, &cmdClose}, dialogWidth,
-              {forms::columns({{forms::item(lblReport), forms::rest(cboReport)}}),
+              {forms::columns({{forms::names(lblReport, cboReport), forms::rest(cboReport)}}),
                forms::rest(lvwReport, listHeight)});
   cboReport.setSelected(0);
   show();

@@ -1,3 +1,4 @@
+#include <QtGui/QAccessible>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
@@ -8,6 +9,7 @@
 #include "forms/Components.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
+#include "forms/OptionButton.h"
 #include "forms/TextBox.h"
 #include "forms/UserControl.h"
 #include "tests/qt/Screen.h"
@@ -192,10 +194,32 @@ TEST_F(WindowTest, AClickMayEndWhatHadTheFocusAndWhatAFrameHeldStays) {
 TEST_F(WindowTest, ScreenReadersAreToldWhatIsWhat) {
   form.button.setCaption("");
   form.button.setToolTip("Open a system");
+  form.box.nameBy(form.label);
+  forms::OptionButton option(form.frame, "option", "&Always");
+  forms::Label link(form.frame, "link", "More");
+  option.setBounds({100, 300, 2000, 300});
+  link.setBounds({100, 700, 2000, 300});
+  link.setLink(true);
+  int clicks = 0;
+  link.click.connect([&] { ++clicks; });
   show(form, [&] {
+    const auto* spoken = QAccessible::queryAccessibleInterface(&widget(option));
+    EXPECT_EQ(spoken->role(), QAccessible::RadioButton);
+    EXPECT_FALSE(spoken->state().checked);
+    const_cast<QAccessibleInterface*>(spoken)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    settle();
+    EXPECT_TRUE(option.isChosen());
+    EXPECT_TRUE(spoken->state().checked);
+    auto* spokenLink = QAccessible::queryAccessibleInterface(&widget(link));
+    EXPECT_EQ(spokenLink->role(), QAccessible::Link);
+    spokenLink->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    settle();
+    EXPECT_EQ(clicks, 1);
     EXPECT_EQ(widget(form.box).accessibleName(), "System name:");
     EXPECT_EQ(widget(form.button).accessibleName(), "Open a system");
     EXPECT_EQ(widget(form.frame).accessibleName(), "Frame");
+    EXPECT_EQ(widget(option).accessibleName(), "Always");
     form.label.setCaption("Location:");
     form.button.setFocus();
     settle();

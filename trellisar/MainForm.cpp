@@ -10,6 +10,7 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/AddIns.h"
+#include "trellisar/HelpTopics.h"
 #include "trellisar/Listing.h"
 #include "trellisar/SystemFile.h"
 
@@ -72,6 +73,13 @@ void MainForm::connect() {
   cmdEdit.click.connect([this] { editRecent(); });
   cmdOpen.click.connect([this] { openOther(); });
   cmdPreferences.click.connect([this] { host_.mainWindow()->ShowPreferencesDialog(); });
+  cmdNew.setShortcut(U'N');
+  cmdOpen.setShortcut(U'O');
+  setHelpContext(help::mainWindow);
+  cmdHelp.click.connect([this] {
+    forms::Application& application = forms::Application::current();
+    application.desktop().showHelp(windowHandle(), application.helpFile(), helpContext());
+  });
   cmdClose.setCancel(true);
   cmdClose.click.connect([this] { hide(); });
 }
@@ -82,8 +90,12 @@ void MainForm::run() {
   unload();
 }
 
-/// An add-in gives the application its own title.
-void MainForm::hostAgain() { forms::Application::current().setTitle(hostTitle); }
+/// An add-in gives the application its own title and help.
+void MainForm::hostAgain() {
+  forms::Application& application = forms::Application::current();
+  application.setTitle(hostTitle);
+  application.setHelpFile(application.folder() + "\\Trellisar.chm");
+}
 
 forms::Pieces MainForm::addInPieces(forms::Twips recentHeight) {
   return {forms::names(lblAddIns, lvwAddIns),
@@ -110,9 +122,9 @@ void MainForm::layOut() {
       system, {forms::names(lblSystem, txtSystem), forms::rest(txtSystem, leastHeight)});
   forms::layOut(system, {forms::names(lblSystem, txtSystem),
                          forms::rest(txtSystem, leastHeight + std::max(0, system.height - above))});
-  forms::layOut(
-      {margin, bottom, inner.width - 2 * margin, last},
-      {forms::row({forms::item(cmdPreferences), forms::spring(), forms::item(cmdClose)})});
+  forms::layOut({margin, bottom, inner.width - 2 * margin, last},
+                {forms::row({forms::item(cmdHelp), forms::item(cmdPreferences), forms::spring(),
+                             forms::item(cmdClose)})});
 }
 
 void MainForm::fillAddIns() {

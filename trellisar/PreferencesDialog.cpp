@@ -2,6 +2,7 @@
 
 #include "forms/Application.h"
 #include "forms/Text.h"
+#include "trellisar/HelpTopics.h"
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/SystemFolders.h"
 
@@ -13,7 +14,7 @@ constexpr forms::Twips dialogWidth = 6600;
 }  // namespace
 
 PreferencesDialog::PreferencesDialog(Preferences& preferences)
-    : Dialog("Preferences", "Preferences"), preferences_(preferences) {
+    : Dialog("Preferences", "Preferences", help::preferences), preferences_(preferences) {
   txtFolder.setText(preferences.defaultFolder());
   lblUsual.setCaption("Without a folder of your own, new systems go to " +
                       defaultSystemsFolder(Preferences()));

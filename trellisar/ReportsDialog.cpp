@@ -7,6 +7,7 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/HelpTopics.h"
 #include "trellisar/MainWindowOperations.h"
 
 namespace trellisar {
@@ -19,7 +20,7 @@ constexpr forms::Twips listHeight = 4500;
 
 ReportsDialog::ReportsDialog(std::vector<Report> reports, std::string folder,
                              ReportPrinter* printer)
-    : HostForm("ReportsDialog", "System Documentation"),
+    : HostForm("ReportsDialog", "System Documentation", help::documentation),
       reports_(std::move(reports)),
       folder_(std::move(folder)),
       printer_(printer) {

@@ -14,7 +14,7 @@
 namespace qt {
 namespace {
 
-constexpr int textLeft = 19;
+constexpr forms::Twips textLeft = 285;
 constexpr int textFlags =
     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
 
@@ -25,11 +25,21 @@ QRect markRect(const QWidget& button, const QRect& text, QStyle::PixelMetric met
   return {0, text.top() + (line - size) / 2, size, size};
 }
 
-/// A button with a mark whose text may take several lines, which Qt's own can't.
+/// A button with a mark whose text may take several lines, which Qt's own can't. To screen readers
+/// an option button is one although the form keeps its group, and each is clicked, not toggled.
 template <typename Button>
-class Marked : public Button {
+class Marked : public Button, public Spoken {
  public:
   using Button::Button;
+
+  QAccessible::Role role() const override {
+    return isCheck ? QAccessible::CheckBox : QAccessible::RadioButton;
+  }
+  void describe(QAccessible::State& state) const override {
+    state.checkable = true;
+    state.checked = this->isChecked();
+  }
+  void press() override { this->click(); }
 
   void showCaption(const forms::Captioned& control) {
     const QString caption = toQt(control.caption());
@@ -38,14 +48,15 @@ class Marked : public Button {
   }
 
  protected:
+  static constexpr bool isCheck = std::is_same_v<Button, QCheckBox>;
+
   bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
 
   void paintEvent(QPaintEvent*) override {
-    constexpr bool isCheck = std::is_same_v<Button, QCheckBox>;
     QStylePainter painter(this);
     QStyleOptionButton option;
     this->initStyleOption(&option);
-    const QRect area = this->rect().adjusted(textLeft, 0, 0, 0);
+    const QRect area = this->rect().adjusted(pixels(textLeft), 0, 0, 0);
     const QRect text = painter.boundingRect(area, textFlags, this->text());
     option.rect =
         markRect(*this, text.isEmpty() ? area : text,
@@ -60,19 +71,7 @@ class Marked : public Button {
 };
 
 using MarkedCheck = Marked<QCheckBox>;
-
-/// Qt calls a button a check box that leaves its group to others.
-class MarkedOption : public Marked<QRadioButton>, public Spoken {
- public:
-  using Marked::Marked;
-
-  QAccessible::Role role() const override { return QAccessible::RadioButton; }
-  void describe(QAccessible::State& state) const override {
-    state.checkable = true;
-    state.checked = isChecked();
-  }
-  void press() override { click(); }
-};
+using MarkedOption = Marked<QRadioButton>;
 
 }  // namespace
 

@@ -129,7 +129,7 @@ constexpr Refusal refusals[] = {
      R"({"display": {"device": "Istrellan Bellova 27"}, "lockout": {"contact": "unused"}})", 2,
      "answers.json: lockout.contact: is not asked for in this room: "},
     {"screenThatIsALift", R"({"screen": {"device": "Hoistrel HL-30"}})", 2,
-     R"(answers.json: screen.device: "Hoistrel HL-30" is none of "Fallowmere Roll 180", )"},
+     R"(answers.json: screen.device: "Hoistrel HL-30" is none of "Drapewick Floor Riser 200", )"},
     {"unknownScreenCommand", R"({"screen": {"device": "Fallowmere Taut 280", "on": "Down"}})", 2,
      R"(answers.json: screen.on: "Down" is none of "", "Lower", "Raise")"
      "\n"},

@@ -24,6 +24,9 @@ class WizardWindow : public forms::Object {
   /// The steps in their order; the window owns them.
   virtual const std::vector<forms::UserControl*>& GetControls() const = 0;
 
+  /// Goes to a step, which counts from 0, as a click on its name does.
+  virtual void ShowStep(std::int16_t iStep) = 0;
+
   /// Calls `iTab_SaveData` on every step in order and looks at no result. Always True.
   virtual bool SaveData() = 0;
 };

@@ -45,10 +45,19 @@ class WizardDesktop : public qt::QtDesktop {
 /// What a window of the program stands on.
 template <typename Desktop>
 struct Stage {
+  Stage() {
+    desktop.keepWindowsIn(trellisar::Preferences::usualFile().parent_path() / "windows.ini");
+  }
+
   char name[7] = "orlena";
   char* arguments[2] = {name, nullptr};
   Desktop desktop{1, arguments};
   forms::Application application{desktop, forms::fromMachinePath(dataFolder())};
+  /// Beside the preferences.
+  Stage() {
+    desktop.keepWindowsIn(trellisar::Preferences::usualFile().parent_path() / "windows.ini");
+  }
+
   trellisar::Host host{{.dataFolder = dataFolder(),
                         .preferencesFile = trellisar::Preferences::usualFile(),
                         .printer = reportPrinter()}};
@@ -96,10 +105,7 @@ int openWizard(const std::optional<fs::path>& systemFile) {
   return stage.desktop.hasStarted() ? exitStatus::ok : exitStatus::refused;
 }
 
-int takeScreenshots(const ScreenshotOptions& options) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  return drawSteps(options.out);
-}
+int takeScreenshots(const ScreenshotOptions& options) { return drawSteps(options); }
 
 }  // namespace app
 

@@ -42,7 +42,7 @@ class WizardDesktop : public qt::QtDesktop {
   bool started_ = false;
 };
 
-/// What a window of the program stands on.
+/// What a window of the program stands on. How the windows are left is kept beside the preferences.
 template <typename Desktop>
 struct Stage {
   Stage() {
@@ -53,11 +53,6 @@ struct Stage {
   char* arguments[2] = {name, nullptr};
   Desktop desktop{1, arguments};
   forms::Application application{desktop, forms::fromMachinePath(dataFolder())};
-  /// Beside the preferences.
-  Stage() {
-    desktop.keepWindowsIn(trellisar::Preferences::usualFile().parent_path() / "windows.ini");
-  }
-
   trellisar::Host host{{.dataFolder = dataFolder(),
                         .preferencesFile = trellisar::Preferences::usualFile(),
                         .printer = reportPrinter()}};

@@ -40,7 +40,7 @@ class LabelWidget : public QLabel, public Spoken {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    if (bordered_) drawBorder(painter, rect(), palette().color(QPalette::Mid));
+    if (bordered_) drawBorder(painter, rect(), lineColor(palette()));
     drawText(painter);
     const QRect text = painter.boundingRect(rect(), flags, caption_);
     if (hasFocus()) drawFocus(painter, *this, text.adjusted(-1, 0, 1, 0));

@@ -61,6 +61,10 @@ class Marked : public Button, public Spoken {
     option.rect =
         markRect(*this, text.isEmpty() ? area : text,
                  isCheck ? QStyle::PM_IndicatorHeight : QStyle::PM_ExclusiveIndicatorHeight);
+    // The style draws the outline darker than the window, which a dark one leaves unseen.
+    if (isDark(this->palette().color(QPalette::Window))) {
+      option.palette.setColor(QPalette::Window, lineColor(this->palette()).lighter());
+    }
     painter.drawPrimitive(isCheck ? QStyle::PE_IndicatorCheckBox : QStyle::PE_IndicatorRadioButton,
                           option);
     painter.drawItemText(area, textFlags, this->palette(), this->isEnabled(), this->text(),

@@ -36,7 +36,7 @@ void followSystemFont() {
 }
 
 QPalette darkPalette() {
-  QPalette palette(QColor(53, 53, 53), QColor(35, 35, 35));
+  QPalette palette(QColor(66, 66, 66), QColor(53, 53, 53));
   palette.setColor(QPalette::Base, QColor(35, 35, 35));
   palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
   palette.setColor(QPalette::HighlightedText, Qt::white);
@@ -187,7 +187,7 @@ forms::Size QtDesktop::textSize(const std::string& text, const forms::Font& font
                            Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, linesToQt(text));
   const QSize size(bounds.width() + 1, std::max(bounds.height(), metrics.height()));
   const forms::Size exact = twips(size);
-  return formScale() == 1 ? exact : forms::Size{exact.width + rounding, exact.height + rounding};
+  return formScale() == 1 ? exact : forms::Size{exact.width + rounding, exact.height};
 }
 
 std::unique_ptr<QtDesktop> makeDesktop(int argc, char** argv) {

@@ -41,8 +41,7 @@ class Pages : public QWidget {
   void paintEvent(QPaintEvent*) override {
     if (!bordered_) return;
     QPainter painter(this);
-    drawBorder(painter, rect().adjusted(0, headerHeight_ - 1, 0, 0),
-               palette().color(QPalette::Mid));
+    drawBorder(painter, rect().adjusted(0, headerHeight_ - 1, 0, 0), lineColor(palette()));
   }
 
  private:

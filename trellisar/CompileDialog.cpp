@@ -25,6 +25,10 @@ std::string textOfErrors(std::size_t count) {
          " errors. Correct them and build the system again.";
 }
 
+std::string mendedOn(const std::string& page) {
+  return "It is mended on the page \"" + page + "\".";
+}
+
 }  // namespace
 
 CompileDialog::CompileDialog(DocumentPtr document, host::ProgramGuide* guide)
@@ -49,7 +53,8 @@ CompileDialog::CompileDialog(DocumentPtr document, host::ProgramGuide* guide)
   lblState.setCaption(textOfErrors(1000));  // the longest, which gets the room
   layOutAbove({&cmdGoTo, &cmdCopy, &cmdCancel, &cmdClose}, dialogWidth,
               {forms::rest(lblState), forms::rest(prgProgress, progressHeight),
-               forms::names(lblErrors, lstErrors), forms::rest(lstErrors, listHeight)});
+               forms::names(lblErrors, lstErrors), forms::rest(lstErrors, listHeight),
+               forms::rest(lblPage)});
   lblState.setCaption("Checking the program of \"" + document_->name + "\"...");
 }
 
@@ -102,8 +107,7 @@ void CompileDialog::showErrors(std::vector<ProgramError> errors) {
   lblState.setCaption(textOfErrors(errors_.size()));
   for (const ProgramError& error : errors_) {
     const std::string page = pageOf(error);
-    lstErrors.add(page.empty() ? error.text
-                               : error.text + " It is mended on the page \"" + page + "\".");
+    lstErrors.add(page.empty() ? error.text : error.text + " " + mendedOn(page));
   }
   lstErrors.setSelected(0);
   cmdCopy.setVisible(true);
@@ -119,7 +123,10 @@ std::string CompileDialog::pageOf(const ProgramError& error) const {
 
 void CompileDialog::errorSelected() {
   const std::int32_t place = lstErrors.selected();
-  cmdGoTo.setVisible(place >= 0 && !pageOf(errors_[static_cast<std::size_t>(place)]).empty());
+  const std::string page =
+      place < 0 ? std::string() : pageOf(errors_[static_cast<std::size_t>(place)]);
+  lblPage.setCaption(page.empty() ? "" : mendedOn(page));  // the list may have it out of sight
+  cmdGoTo.setVisible(!page.empty());
 }
 
 void CompileDialog::goToPage() {

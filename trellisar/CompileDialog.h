@@ -30,6 +30,7 @@ class CompileDialog : public HostForm {
   forms::ProgressBar prgProgress{*this, "prgProgress"};
   forms::Label lblErrors{*this, "lblErrors", "&Errors:"};
   forms::ListBox lstErrors{*this, "lstErrors"};
+  forms::Label lblPage{*this, "lblPage"};
   forms::CommandButton cmdGoTo{*this, "cmdGoTo", "&Go to Page"};
   forms::CommandButton cmdCopy{*this, "cmdCopy", "C&opy"};
   forms::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};

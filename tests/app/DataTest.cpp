@@ -13,27 +13,28 @@ namespace fs = std::filesystem;
 const fs::path data = fs::path(ORLENA_SOURCE_FOLDER) / "data";
 
 TEST(ShippedData, everyHelpTopicIsWritten) {
-  for (const std::int16_t topic : {host::helpStartTab,
-                                   host::helpNameAndLocationTab,
-                                   host::helpDisplayDeviceTab,
-                                   host::helpAudioControlTab,
-                                   host::helpPowerControlTab,
-                                   host::helpPowerOnOffLockout,
-                                   host::helpDisplayOptionsTab,
-                                   host::helpOriginationPointTab,
-                                   host::helpRoomOptions,
-                                   host::helpFinishTab,
-                                   host::helpTouchpanelCreation,
-                                   host::helpDisplayDeviceRequirements,
-                                   host::helpKestrumSetup,
-                                   host::helpVideoTestPattern,
-                                   trellisar::help::mainWindow,
-                                   trellisar::help::chooseDevice,
-                                   trellisar::help::deviceProperties,
-                                   trellisar::help::buildProgram,
-                                   trellisar::help::documentation,
-                                   trellisar::help::preferences,
-                                   trellisar::help::audioSettings}) {
+  for (const std::int16_t topic :
+       std::initializer_list<std::int16_t>{host::helpStartTab,
+                                           host::helpNameAndLocationTab,
+                                           host::helpDisplayDeviceTab,
+                                           host::helpAudioControlTab,
+                                           host::helpPowerControlTab,
+                                           host::helpPowerOnOffLockout,
+                                           host::helpDisplayOptionsTab,
+                                           host::helpOriginationPointTab,
+                                           host::helpRoomOptions,
+                                           host::helpFinishTab,
+                                           host::helpTouchpanelCreation,
+                                           host::helpDisplayDeviceRequirements,
+                                           host::helpKestrumSetup,
+                                           host::helpVideoTestPattern,
+                                           trellisar::help::mainWindow,
+                                           trellisar::help::chooseDevice,
+                                           trellisar::help::deviceProperties,
+                                           trellisar::help::buildProgram,
+                                           trellisar::help::documentation,
+                                           trellisar::help::preferences,
+                                           trellisar::help::audioSettings}) {
     EXPECT_TRUE(fs::exists(data / "help" / (std::to_string(topic) + ".md"))) << topic;
   }
 }

@@ -103,7 +103,7 @@ constexpr Refusal refusals[] = {
      R"(answers.json: power.control: "toggle" is none of "none", "sensing", "discrete")"
      "\n"},
     {"unknownDevice", R"({"name": "Hall", "display": {"device": "Bravonne"}})", 2,
-     R"(answers.json: display.device: "Bravonne" is none of "Bravonne P2200", )"},
+     R"(answers.json: display.device: "Bravonne" is none of "Bravonne P1400 Short", )"},
     {"unknownCommand", R"({"name": "Hall", "display": {"device": "Orvistel F42", "rgb": "RGB_1"}})",
      2, R"(answers.json: display.rgb: "RGB_1" is none of "", "PWR_ON", )"},
     {"noDisplay", R"({"name": "Hall", "display": {"relay": {}}})", 2,

@@ -17,7 +17,7 @@ STEPS = {  # by the names in the list, with the titles of their pages
     "Start": "Orlena", "Name and Location": "Name & Location", "Display Device": "Display Device",
     "Audio Control": "Audio Control", "Power Control": "Power Control", "Power On/Off Lockout": "Power Lockout",
     "Display Options": "Display Options", "Orlena Transmitters": "OL Transmitters", "Room Options": "Room Options",
-    "Finish": "Finish"}
+    "Finish": "Orlena"}
 LABEL = pyatspi.ROLE_LABEL
 failures = []
 

@@ -14,6 +14,7 @@
 #include "forms/MessageBox.h"
 #include "host/IAddInContract.h"
 #include "host/Numbers.h"
+#include "host/ProgramGuide.h"
 #include "host/UIManager.h"
 
 namespace addin {
@@ -24,7 +25,9 @@ namespace addin {
 /// The host creates it by the name that IAddInContract_ClassName gives, calls IAddInContract_Load
 /// and then IAddInContract_Run, which returns when the wizard has closed; both may be called again
 /// on the same object.
-class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<IAddIn> {
+class IAddIn : public host::IAddInContract,
+               public host::ProgramGuide,
+               public std::enable_shared_from_this<IAddIn> {
  public:
   IAddIn();
   ~IAddIn() override;
@@ -51,6 +54,10 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void IAddInContract_StartupMode(std::int16_t iMode) override { m_iStartupMode = iMode; }
   void IAddInContract_UseOpenFile(bool bUseOpenFile) override;
   std::int32_t IAddInContract_HwndAddIn() const override;
+
+  // What the host asks when the program has a fault: ProgramPages.cpp.
+  std::string PageOf(const host::ProgramPlace& place) const override;
+  void ShowPageOf(const host::ProgramPlace& place) override;
 
   std::string GetVersion() const { return "3.06.09"; }
   std::string GetDescription() const;
@@ -247,6 +254,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   /// what it was.
   bool AddDevice(const LibraryEntry& entry, const std::string& strName, std::int16_t& iDeviceID);
   bool RemoveDevice(std::int16_t iDeviceID);
+  /// From 0; -1 where none of the pages mends it.
+  std::int16_t PlaceOfPage(const host::ProgramPlace& place) const;
   void SetUpDisplay(std::int16_t iDeviceID);
   void SetUpPower(std::int16_t iDeviceID);
   void SetUpAuxiliaryDevice(std::int16_t iDeviceID);

@@ -29,6 +29,9 @@ class WizardWindow : public forms::Object {
   /// Gives such an edit to its step, with all messages, as if the user had gone to the save button.
   virtual void TakeOpenEdit() = 0;
 
+  /// Goes to a step, which counts from 0, as a click on its name does.
+  virtual void ShowStep(std::int16_t iStep) = 0;
+
   /// Calls `iTab_SaveData` on every step in order and looks at no result. Always True.
   virtual bool SaveData() = 0;
 };

@@ -79,6 +79,8 @@ Command screenshotsCommand(CLI::App& program) {
   CLI::App* command = program.add_subcommand(
       "screenshots", "For developers: draws the wizard's steps in their states");
   command->add_option("--out", options->out, "Folder for the pictures")->required();
+  command->add_flag("--dark", options->isDark, "With a dark palette");
+  command->add_option("--font-size", options->fontPoints, "Points of the system's font");
   return {command, [options] { return takeScreenshots(*options); }};
 }
 

@@ -4,7 +4,7 @@
 
 #include "app/Shape.h"
 #include "forms/Form.h"
-#include "forms/ListBox.h"
+#include "forms/ListView.h"
 
 namespace app {
 namespace {
@@ -12,9 +12,9 @@ namespace {
 constexpr const char* dialogName = "DeviceDialog";
 
 void choose(forms::Form& dialog, const Page& page, const Answer& answer) {
-  auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
+  auto& list = dynamic_cast<forms::ListView&>(dialog.control("lvwDevices"));
   std::vector<std::string> offered;
-  for (std::int32_t place = 0; place < list.count(); ++place) offered.push_back(list.text(place));
+  for (std::int32_t row = 0; row < list.rowCount(); ++row) offered.push_back(list.text(row, 0));
   const auto found = std::find(offered.begin(), offered.end(), answer.text());
   if (found == offered.end()) {
     page.refuse(answer, offered.empty() ? "the library offers no device for this place"

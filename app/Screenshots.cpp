@@ -3,6 +3,7 @@
 #include "app/Screenshots.h"
 
 #include <cstdlib>
+#include <fstream>
 #include <functional>
 #include <map>
 #include <system_error>
@@ -15,7 +16,7 @@
 #include "app/RunReport.h"
 #include "forms/Application.h"
 #include "forms/DropDownList.h"
-#include "forms/ListBox.h"
+#include "forms/ListView.h"
 #include "forms/Paths.h"
 #include "forms/TextBox.h"
 #include "forms/ToolBar.h"
@@ -257,9 +258,9 @@ class Walk {
   void chooseDisplay(const std::string& device) { chooseDevice(display, "cmdChoose", device); }
 
   void choose(forms::Form& dialog) {
-    auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
-    for (std::int32_t place = 0; place < list.count(); ++place) {
-      if (list.text(place) == device_) user_.select(list, place);
+    auto& list = dynamic_cast<forms::ListView&>(dialog.control("lvwDevices"));
+    for (std::int32_t row = 0; row < list.rowCount(); ++row) {
+      if (list.text(row, 0) == device_) user_.select(list, row);
     }
     desktop_.draw(dialog, "device-dialog");
     user_.click(dialog.control("cmdOK"));
@@ -296,6 +297,13 @@ class TemporarySystems {
  private:
   fs::path folder_;
 };
+
+/// The one that nobody sees is too small for windows in a large font.
+void useLargeScreen(const fs::path& configuration) {
+  std::ofstream(configuration) << R"({"windowFrameMargins": false, "screens": [{"name": "large",
+    "x": 0, "y": 0, "width": 1920, "height": 1080, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+  setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + configuration.string()).c_str(), 1);
+}
 
 /// The main window without a system, with one to read, and with one that has gone.
 void drawMainWindow(DrawnDesktop& desktop, trellisar::Host& host) {
@@ -336,12 +344,15 @@ void drawTransfer(DrawnDesktop& desktop, const fs::path& folder) {
 
 }  // namespace
 
-int drawSteps(const fs::path& folder) {
+int drawSteps(const ScreenshotOptions& options) {
+  const fs::path& folder = options.out;
   fs::create_directories(folder);
   const TemporarySystems systems;
+  useLargeScreen(systems.folder() / "screen.json");
   char name[] = "orlena";
   char* arguments[] = {name, nullptr};
   DrawnDesktop desktop(1, arguments, folder);
+  desktop.wear({.isDark = options.isDark, .fontPoints = options.fontPoints});
   forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
   trellisar::Host host({.dataFolder = dataFolder(),
                         .exportFile = systems.folder() / "Room.tsa",

@@ -42,9 +42,13 @@ class WizardDesktop : public qt::QtDesktop {
   bool started_ = false;
 };
 
-/// What a window of the program stands on.
+/// What a window of the program stands on. How the windows are left is kept beside the preferences.
 template <typename Desktop>
 struct Stage {
+  Stage() {
+    desktop.keepWindowsIn(trellisar::Preferences::usualFile().parent_path() / "windows.ini");
+  }
+
   char name[7] = "orlena";
   char* arguments[2] = {name, nullptr};
   Desktop desktop{1, arguments};
@@ -96,10 +100,7 @@ int openWizard(const std::optional<fs::path>& systemFile) {
   return stage.desktop.hasStarted() ? exitStatus::ok : exitStatus::refused;
 }
 
-int takeScreenshots(const ScreenshotOptions& options) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  return drawSteps(options.out);
-}
+int takeScreenshots(const ScreenshotOptions& options) { return drawSteps(options); }
 
 }  // namespace app
 

@@ -28,6 +28,11 @@ class CommandButton : public Captioned {
   bool isCancel() const { return cancel_; }
   void setCancel(bool isCancel) { set(cancel_, isCancel); }
 
+  /// Control and this letter, an upper case one, click it wherever the focus is; 0: none does. What
+  /// has the focus is validated, and has it again afterwards.
+  char32_t shortcut() const { return shortcut_; }
+  void setShortcut(char32_t letter) { set(shortcut_, letter); }
+
   Event<> click;
   /// A mouse button went down on it. The left one goes before `click`; the right one raises this
   /// alone, and a key none.
@@ -45,6 +50,7 @@ class CommandButton : public Captioned {
   bool flat_ = false;
   bool default_ = false;
   bool cancel_ = false;
+  char32_t shortcut_ = 0;
 };
 
 }  // namespace forms

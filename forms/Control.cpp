@@ -1,5 +1,7 @@
 #include "forms/Control.h"
 
+#include <algorithm>
+
 #include "forms/Container.h"
 #include "forms/Form.h"
 #include "forms/Root.h"
@@ -105,6 +107,31 @@ void Control::setFocus() {
   Form* owner = form();
   if (!owner) throw Error(errors::invalidCall, "\"" + name_ + "\" stands on no form.");
   owner->focus().moveByProgram(*this);
+}
+
+void Control::nameBy(const Control& words) {
+  if (std::find(namedBy_.begin(), namedBy_.end(), &words) != namedBy_.end()) return;
+  namedBy_.push_back(&words);
+  changed();
+}
+
+std::string Control::wordsOfOthers() const {
+  std::string all;
+  for (const Control* words : namedBy_) {
+    const std::string text = words->isVisible() ? words->shownText() : "";
+    if (!text.empty()) all += (all.empty() ? "" : " ") + text;
+  }
+  return withSingleBlanks(all);
+}
+
+std::string Control::nameForReaders() const {
+  if (!accessibleName_.empty()) return accessibleName_;
+  if (const std::string words = wordsOfOthers(); !words.empty()) return words;
+  if (const std::string words = withSingleBlanks(ownWords()); !words.empty()) return words;
+  const Control* holder = container_->asControl();
+  const bool fillsComposed = takesFocus() && holder && holder->kind() == Kind::userControl;
+  const std::string words = fillsComposed ? holder->wordsOfOthers() : "";
+  return words.empty() ? toolTip_ : words;
 }
 
 std::string withoutAccelerator(const std::string& caption) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "forms/Event.h"
 #include "forms/Geometry.h"
@@ -152,10 +153,15 @@ class Control {
   std::int16_t helpContext() const { return helpContext_; }
   void setHelpContext(std::int16_t topic) { helpContext_ = topic; }
 
-  /// What a screen reader calls it where its own text does not; empty: its own text, or that of the
-  /// label before it.
-  const std::string& accessibleName() const { return accessibleName_; }
+  /// What a screen reader calls it where no text that is seen does; empty: what those texts say.
   void setAccessibleName(const std::string& name) { set(accessibleName_, name); }
+  /// The text of another control names this one for screen readers, as that of the label before a
+  /// box does. Several name it together, in the order of the calls: "Lock for ... seconds". They
+  /// stay as long as this control is shown.
+  void nameBy(const Control& words);
+  /// What a screen reader calls it: the name that was set, the texts that name it, its caption, or
+  /// what names the composed control that it fills; else its tool tip.
+  std::string nameForReaders() const;
 
   /// The text that it shows, for a listing.
   virtual std::string shownText() const { return {}; }
@@ -196,6 +202,9 @@ class Control {
   virtual void userClick() {}
   /// The focus is about to leave, before anything is validated: an editor that is open is taken.
   virtual void endEditing() {}
+  /// A text that names the control by itself; the base has none.
+  virtual std::string ownWords() const { return {}; }
+  std::string wordsOfOthers() const;
 
   std::string name_;
   Container* container_;
@@ -208,6 +217,7 @@ class Control {
   std::string tag_;
   std::string toolTip_;
   std::string accessibleName_;
+  std::vector<const Control*> namedBy_;
   Font font_;
   Color backColor_ = colors::buttonFace;
   Color foreColor_ = colors::buttonText;
@@ -228,6 +238,8 @@ class Captioned : public Control {
   char32_t accelerator() const;
 
  private:
+  std::string ownWords() const override { return shownText(); }
+
   std::string caption_;
 };
 

@@ -54,6 +54,9 @@ class Desktop {
                                 std::int16_t topic) = 0;
   virtual void closeAllHelp() = 0;
 
+  /// Puts a text where other programs can paste it from.
+  virtual void copyText(const std::string& text) = 0;
+
   /// Deals with what is waiting: input, drawing, and what `runLater` left.
   virtual void processEvents() = 0;
   /// Runs the task on this thread, after what is running now.

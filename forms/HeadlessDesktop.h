@@ -13,6 +13,7 @@ class HeadlessDesktop : public Desktop {
  public:
   std::int32_t showHelp(std::int32_t, const std::string&, std::int16_t) override { return 0; }
   void closeAllHelp() override {}
+  void copyText(const std::string&) override {}
   void processEvents() override;
   void runLater(std::function<void()> task) override { tasks_.push_back(std::move(task)); }
   void setMousePointer(MousePointer) override {}

@@ -6,6 +6,15 @@
 
 namespace forms {
 
+void ImageList::add(const Picture& picture) {
+  pictures_.push_back(maskColor_ ? picture.withMask(*maskColor_) : picture);
+}
+
+void ImageList::setMaskColor(Color color) {
+  maskColor_ = color;
+  for (Picture& picture : pictures_) picture = picture.withMask(color);
+}
+
 const Picture& ImageList::item(std::int32_t number) const {
   if (number < 1 || number > count()) {
     throw Error(errors::indexOutOfRange,

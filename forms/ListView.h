@@ -23,6 +23,10 @@ class ListView : public Control {
   const std::vector<std::string>& columns() const { return columns_; }
   bool showsHeadings() const { return headings_; }
   void setShowsHeadings(bool shows) { set(headings_, shows); }
+  /// The column whose heading is marked as the one that the rows are sorted by; -1: none is. It is
+  /// the program that sorts them.
+  std::int32_t sortedColumn() const { return sortedColumn_; }
+  void setSortedColumn(std::int32_t column) { set(sortedColumn_, column); }
   bool isLabelEditable() const { return labelEditable_; }
   void setLabelEditable(bool editable) { labelEditable_ = editable; }
 
@@ -50,6 +54,7 @@ class ListView : public Control {
 
   Event<> itemClick;
   Event<> doubleClick;
+  Event<std::int32_t> headingClick;
   /// A label edit is about to open; True keeps it from opening.
   Event<bool&> beforeLabelEdit;
   /// A label edit ends; True in the first argument keeps the old label. The text may be changed.
@@ -75,6 +80,7 @@ class ListView : public Control {
   std::vector<std::string> columns_;
   std::vector<Row> rows_;
   std::int32_t selected_ = -1;
+  std::int32_t sortedColumn_ = -1;
   bool headings_ = true;
   bool labelEditable_ = false;
   bool editing_ = false;

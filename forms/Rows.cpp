@@ -352,6 +352,10 @@ Piece item(Control& control, Size size) { return itemBlock(control, size, false)
 Piece wide(Control& control, Twips width) { return itemBlock(control, {width, 0}, false); }
 Piece rest(Control& control) { return itemBlock(control, {}, true); }
 Piece rest(Control& control, Twips height) { return itemBlock(control, {0, height}, true); }
+Piece names(Control& words, Control& named) {
+  named.nameBy(words);
+  return item(words);
+}
 Piece gap(Twips size) { return std::make_shared<GapBlock>(size, false); }
 Piece spring() { return std::make_shared<GapBlock>(0, true); }
 

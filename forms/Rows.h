@@ -15,8 +15,8 @@
 ///         item(lblBanner),
 ///         box(Frame3, {
 ///             row({item(ctlImageDisplay, {480, 480}), rest(lblDescription), item(cmdChoose)}),
-///             columns({{item(lblTransport(0)), rest(ctlCommands(0))},
-///                      {item(lblTransport(1)), rest(ctlCommands(1))}}),
+///             columns({{names(lblTransport(0), ctlCommands(0)), rest(ctlCommands(0))},
+///                      {names(lblTransport(1), ctlCommands(1)), rest(ctlCommands(1))}}),
 ///         }),
 ///     });
 ///
@@ -54,6 +54,8 @@ Piece wide(Control& control, Twips width);
 Piece rest(Control& control);
 /// A control that takes the width that is left, at a fixed height.
 Piece rest(Control& control, Twips height);
+/// A control at its natural size whose text names another one for screen readers, as a label does.
+Piece names(Control& words, Control& named);
 /// Empty room, across in a row and down in a column.
 Piece gap(Twips size);
 /// Empty room that takes the width that is left.

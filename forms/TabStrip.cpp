@@ -41,6 +41,14 @@ void TabStrip::setCurrentPage(std::int16_t page) {
   if (set(current_, page)) pageChanged.raise(previous);
 }
 
+bool TabStrip::hasHeadersInSight() const {
+  Twips bottom = tabHeight();
+  for (const Control* control = this; control; control = control->container().asControl()) {
+    bottom += control->bounds().top;
+  }
+  return bottom > 0;
+}
+
 bool TabStrip::userKey(const KeyDown& key) {
   const bool forward = key.code == keys::right || key.code == keys::down;
   if (!forward && key.code != keys::left && key.code != keys::up) return false;

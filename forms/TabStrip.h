@@ -57,6 +57,9 @@ class TabStrip : public Control, public Container {
   std::int16_t rows() const;
   Twips tabHeight() const { return 240; }
 
+  /// False where a window places the strip so high that only its pages are seen.
+  bool hasHeadersInSight() const;
+
   Event<std::int16_t> pageChanged;
 
  private:

@@ -154,6 +154,14 @@ std::string trimmed(std::string_view text) {
   return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
+std::string withSingleBlanks(std::string_view text) {
+  std::string single;
+  for (const char character : trimmed(text)) {
+    if (character != ' ' || single.back() != ' ') single.push_back(character);
+  }
+  return single;
+}
+
 char32_t lowerCase(char32_t c) {
   if (isBetween(c, U'A', U'Z') || (isBetween(c, 0xC0, 0xDE) && c != 0xD7)) return c + 32;
   if (isBetween(c, 0x391, 0x3AB) && c != 0x3A2) return c + 32;

@@ -23,6 +23,9 @@ std::string withoutLast(std::string_view text, std::int32_t count);
 /// Without the blanks (U+0020) at both ends; other white space stays.
 std::string trimmed(std::string_view text);
 
+/// Trimmed, and with one blank for each run of them.
+std::string withSingleBlanks(std::string_view text);
+
 /// Upper and lower case of the Latin letters of Latin-1 and Latin Extended-A, and of the Greek and
 /// Cyrillic ones, where there is a single other case. Every other character is left as it is.
 char32_t lowerCase(char32_t codePoint);

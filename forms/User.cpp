@@ -1,6 +1,7 @@
 #include "forms/User.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "forms/Application.h"
 #include "forms/CommandButton.h"
@@ -19,6 +20,7 @@ namespace forms {
 namespace {
 
 constexpr std::int16_t shiftKey = 1;
+constexpr std::int16_t controlKey = 2;
 constexpr std::int16_t altKey = 4;
 
 /// Whether a click with the mouse takes the focus along. A label leaves it where it is.
@@ -34,24 +36,15 @@ void collectUsable(const Container& container, std::vector<Control*>& found) {
   }
 }
 
-Control* findButton(Form& form, bool (CommandButton::*has)() const) {
+template <typename Predicate>
+CommandButton* findButton(Form& form, Predicate isWanted) {
   std::vector<Control*> controls;
   collectUsable(form, controls);
   for (Control* control : controls) {
     auto* button = dynamic_cast<CommandButton*>(control);
-    if (button && (button->*has)()) return button;
+    if (button && std::invoke(isWanted, *button)) return button;
   }
   return nullptr;
-}
-
-/// A window may place a strip so high that only its pages are seen.
-bool hasHeadersInSight(const TabStrip& strip) {
-  Twips bottom = strip.tabHeight();
-  for (const Control* control = &strip; control;
-       control = const_cast<Container&>(control->container()).asControl()) {
-    bottom += control->bounds().top;
-  }
-  return bottom > 0;
 }
 
 }  // namespace
@@ -153,8 +146,24 @@ void User::press(std::int16_t code, std::int16_t shift) {
   Control* control = form->focus().control();
   if (key.code != 0 && control) control->keyDown.raise(key);
   const bool goesOn = key.code != 0 && form == application_.activeForm();
-  if (goesOn && !(control && control->isUsable() && control->userKey(key))) pressOnForm(*form, key);
+  const bool isTaken = goesOn && (pressShortcut(*form, key) ||
+                                  (control && control->isUsable() && control->userKey(key)));
+  if (goesOn && !isTaken) pressOnForm(*form, key);
   settle(form);
+}
+
+bool User::pressShortcut(Form& form, const KeyDown& key) {
+  if (key.shift != controlKey) return false;
+  CommandButton* button = findButton(form, [&](const CommandButton& candidate) {
+    return candidate.shortcut() != 0 && candidate.shortcut() == static_cast<char32_t>(key.code);
+  });
+  if (!button) return false;
+  Control* before = form.focus().control();
+  if (!moveTo(*button)) return true;
+  deliverClick(*button);
+  const bool isStill = form.focus().control() == button && before && before->isUsable();
+  if (isStill) form.focus().moveByUser(*before);
+  return true;
 }
 
 void User::pressOnForm(Form& form, const KeyDown& key) {
@@ -226,6 +235,12 @@ void User::doubleClick(ListView& list, std::int32_t row) {
   settle(form);
 }
 
+void User::clickHeading(ListView& list, std::int32_t column) {
+  Form* form = list.form();
+  if (reach(list)) list.headingClick.raise(column);
+  settle(form);
+}
+
 void User::editLabel(ListView& list, std::int32_t row, const std::string& text) {
   Form* form = list.form();
   if (!list.isLabelEditable())
@@ -248,7 +263,7 @@ void User::endLabelEdit(ListView& list, bool accept) {
 
 void User::select(TabStrip& strip, std::int16_t page) {
   Form* form = strip.form();
-  if (!hasHeadersInSight(strip)) {
+  if (!strip.hasHeadersInSight()) {
     throw Refused("The headers of \"" + strip.name() + "\" are out of sight.");
   }
   if (!strip.isPageVisible(page)) {

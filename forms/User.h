@@ -71,6 +71,7 @@ class User {
   void select(DropDownList& list, std::int32_t place);
   void select(ListView& list, std::int32_t row);
   void doubleClick(ListView& list, std::int32_t row);
+  void clickHeading(ListView& list, std::int32_t column);
   /// Opens the editor of a row's label, types the text in the place of the old one and ends it with
   /// Enter.
   void editLabel(ListView& list, std::int32_t row, const std::string& text);
@@ -90,6 +91,7 @@ class User {
   bool moveTo(Control& control);
   void deliverClick(Control& control);
   void pressOnForm(Form& form, const KeyDown& key);
+  bool pressShortcut(Form& form, const KeyDown& key);
   void settle(Form* form);
 
   Application& application_;

@@ -24,6 +24,7 @@ std::string OneLine(const std::string& strText) { return forms::replacedAll(strT
 ErrorLog::ErrorLog(forms::Container& container, std::string strName)
     : UserControl(container, std::move(strName)) {
   lvwItems.setColumns({"Severity", "Message"});
+  lvwItems.setAccessibleName("Messages");
   lvwItems.doubleClick.connect([this] { lvwItems_DoubleClick(); });
   resized.connect([this] { lvwItems.setBounds({0, 0, bounds().width, bounds().height}); });
 }

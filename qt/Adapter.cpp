@@ -2,7 +2,6 @@
 
 #include "forms/Container.h"
 #include "forms/Guard.h"
-#include "qt/AccessibleName.h"
 #include "qt/Conversions.h"
 #include "qt/Session.h"
 #include "qt/ShownForm.h"
@@ -47,7 +46,7 @@ void Adapter::refresh() {
   widget_->setVisible(control_->isVisible() && control_->container().shows(*control_));
 }
 
-void Adapter::nameForReaders() { widget_->setAccessibleName(toQt(nameOf(*control_))); }
+void Adapter::nameForReaders() { widget_->setAccessibleName(toQt(control_->nameForReaders())); }
 
 void Adapter::watch(QWidget* part) { part->installEventFilter(this); }
 

@@ -41,7 +41,7 @@ class Adapter : public QObject, public forms::View {
 
   /// Shows the control as it is now.
   void refresh();
-  /// Names it for screen readers: by its own words, or by those of the label that stands before it.
+  /// Names the widget for screen readers, as the control is named now.
   void nameForReaders();
 
   /// Lets the control go; the widget stays until its window goes.

@@ -33,7 +33,7 @@ class Box : public QGroupBox {
     if (!bordered_) return;
     QPainter painter(this);
     const int titleHeight = title().isEmpty() ? 0 : fontMetrics().height();
-    drawBorder(painter, rect().adjusted(0, titleHeight / 2, 0, 0), palette().color(QPalette::Mid));
+    drawBorder(painter, rect().adjusted(0, titleHeight / 2, 0, 0), lineColor(palette()));
     if (title().isEmpty()) return;
     const int width = fontMetrics().size(Qt::TextShowMnemonic, title()).width();
     const QRect text(titleLeft, 0, width + 1, titleHeight);

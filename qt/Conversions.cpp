@@ -15,6 +15,9 @@ namespace {
 
 constexpr forms::Color systemBit = 0x80000000;
 constexpr int darkest = 128;
+constexpr int twipsPerPixel = 15;
+
+double scale = 1;
 
 QPalette::ColorRole roleOf(forms::Color color) {
   switch (color) {
@@ -58,14 +61,16 @@ QColor textColor(const forms::Control& control) {
   if (!isSystemColor(control.foreColor()) || isSystemColor(background)) {
     return toQt(control.foreColor());
   }
-  return qGray(toQt(background).rgb()) < darkest ? QColor(Qt::white) : QColor(Qt::black);
+  return isDark(toQt(background)) ? QColor(Qt::white) : QColor(Qt::black);
 }
 
 }  // namespace
 
-int pixels(forms::Twips twips) {
-  return (twips + (twips < 0 ? -twipsPerPixel / 2 : twipsPerPixel / 2)) / twipsPerPixel;
-}
+double formScale() { return scale; }
+
+void setFormScale(double newScale) { scale = newScale; }
+
+int pixels(forms::Twips twips) { return qRound(twips * scale / twipsPerPixel); }
 
 QSize pixels(const forms::Size& size) { return {pixels(size.width), pixels(size.height)}; }
 
@@ -74,7 +79,8 @@ QRect pixels(const forms::Rect& rect) {
 }
 
 forms::Size twips(const QSize& size) {
-  return {size.width() * twipsPerPixel, size.height() * twipsPerPixel};
+  return {qRound(size.width() * twipsPerPixel / scale),
+          qRound(size.height() * twipsPerPixel / scale)};
 }
 
 QString toQt(const std::string& text) { return QString::fromStdString(text); }
@@ -115,7 +121,7 @@ QFont toQt(const forms::Font& font) {
   }
   QFont used = QApplication::font();
   used.setFamily(families.value(name));
-  used.setPointSizeF(font.points);
+  used.setPointSizeF(font.points * scale);
   used.setBold(font.bold);
   used.setUnderline(font.underline);
   return used;
@@ -128,6 +134,8 @@ QColor toQt(forms::Color color) {
   return QColor(static_cast<int>(color & 0xFF), static_cast<int>((color >> 8) & 0xFF),
                 static_cast<int>((color >> 16) & 0xFF));
 }
+
+bool isDark(const QColor& color) { return qGray(color.rgb()) < darkest; }
 
 QPalette paletteOf(const forms::Control& control) {
   QPalette palette = QApplication::palette();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QRect>
+#include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtGui/QColor>
 #include <QtGui/QFont>
@@ -16,7 +17,13 @@ class Control;
 
 namespace qt {
 
-inline constexpr forms::Twips twipsPerPixel = 15;
+/// How much larger than at their own size forms are drawn, texts and all, so that a larger font of
+/// the system reaches them and cuts nothing. One for the process, as Qt's application is.
+double formScale();
+void setFormScale(double scale);
+
+/// What the frame and the title of a window take of a screen, at most.
+inline constexpr QSize roomForFrame{16, 40};
 
 int pixels(forms::Twips twips);
 QSize pixels(const forms::Size& size);
@@ -44,6 +51,8 @@ QColor toQt(forms::Color color);
 
 /// Where a system colour stands behind it, it goes with the desktop's theme.
 bool isSystemColor(forms::Color color);
+
+bool isDark(const QColor& color);
 
 /// The palette of a control: its colours as those of windows, of fields and of texts. On a
 /// background of its own a text in a system colour stays readable.

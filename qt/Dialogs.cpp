@@ -91,13 +91,19 @@ QString filtersOf(const std::string& filter) {
   return filters.join(QStringLiteral(";;"));
 }
 
-QString folderOf(const std::string& folder) {
+QString machineFolder(const std::string& folder) {
   const std::string& from = folder.empty() ? forms::Application::current().currentFolder() : folder;
   return QString::fromStdString(forms::toMachinePath(from).string());
 }
 
-std::string chosen(QFileDialog& dialog) {
+/// A folder that the program names belongs to what is being saved and wins over the last one.
+QString folderOf(const std::string& named, const QString& last) {
+  return named.empty() && !last.isEmpty() ? last : machineFolder(named);
+}
+
+std::string chosen(QFileDialog& dialog, const WindowMemory& memory) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  memory.keepFolder(dialog.windowTitle(), dialog.directory().absolutePath());
   return forms::fromMachinePath(dialog.selectedFiles().first().toStdString());
 }
 
@@ -128,27 +134,34 @@ forms::Answer askMessage(QWidget* parent, const forms::MessageBox& message) {
   return forms::escapeAnswer(message.buttons);
 }
 
-std::string askFolder(QWidget* parent, const forms::FolderDialog& wanted) {
-  QFileDialog dialog(parent, toQt(wanted.title), folderOf(wanted.initialFolder));
+std::string askFolder(QWidget* parent, const forms::FolderDialog& wanted,
+                      const WindowMemory& memory) {
+  QFileDialog dialog(parent, toQt(wanted.title),
+                     folderOf(wanted.initialFolder, memory.folder(toQt(wanted.title))));
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
-  return chosen(dialog);
+  return chosen(dialog, memory);
 }
 
-std::string askFileToSave(QWidget* parent, const forms::FileDialog& wanted) {
-  QFileDialog dialog(parent, toQt(wanted.title), folderOf(wanted.initialFolder));
+std::string askFileToSave(QWidget* parent, const forms::FileDialog& wanted,
+                          const WindowMemory& memory) {
+  QFileDialog dialog(parent, toQt(wanted.title),
+                     folderOf(wanted.initialFolder, memory.folder(toQt(wanted.title))));
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !wanted.asksBeforeReplacing);
   prepare(dialog, wanted);
-  return chosen(dialog);
+  return chosen(dialog, memory);
 }
 
-std::string askFileToOpen(QWidget* parent, const forms::FileDialog& wanted) {
-  QFileDialog dialog(parent, toQt(wanted.title), folderOf(wanted.initialFolder));
+std::string askFileToOpen(QWidget* parent, const forms::FileDialog& wanted,
+                          const WindowMemory& memory) {
+  const QString last = memory.folder(toQt(wanted.title));
+  QFileDialog dialog(parent, toQt(wanted.title),
+                     last.isEmpty() ? machineFolder(wanted.initialFolder) : last);
   dialog.setFileMode(QFileDialog::ExistingFile);
   prepare(dialog, wanted);
-  return chosen(dialog);
+  return chosen(dialog, memory);
 }
 
 }  // namespace qt

@@ -16,6 +16,8 @@ class LabelAdapter : public Adapter {
   bool mouseReleased(QWidget& part, QMouseEvent& event) override;
 
  private:
+  void click();
+
   forms::Label& label_;
   LabelWidget* widget_;
 };

@@ -6,8 +6,11 @@
 #include <QtWidgets/QTreeWidget>
 #include <algorithm>
 
+#include "forms/Form.h"
 #include "qt/Conversions.h"
 #include "qt/RowDelegate.h"
+#include "qt/Session.h"
+#include "qt/ShownForm.h"
 
 namespace qt {
 namespace {
@@ -29,6 +32,13 @@ ListViewAdapter::ListViewAdapter(forms::ListView& list, const Place& place)
   watch(tree_->viewport());
   slowClick_.setSingleShot(true);
   slowClick_.setInterval(QApplication::doubleClickInterval());
+  connect(tree_->header(), &QHeaderView::sectionClicked, this, [this](int column) {
+    if (hasControl()) act([&](forms::User& user) { user.clickHeading(list_, column); });
+  });
+  connect(tree_->header(), &QHeaderView::sectionResized, this, [this](int column) {
+    const bool byUser = QApplication::mouseButtons().testFlag(Qt::LeftButton);
+    if (byUser && column + 1 < tree_->columnCount()) keepColumns();
+  });
   connect(&slowClick_, &QTimer::timeout, this, [this] {
     if (hasControl() && list_.hasFocus()) {
       act([](forms::User& user) { user.press(forms::keys::f2); });
@@ -59,6 +69,10 @@ void ListViewAdapter::showColumns() {
     tree_->setColumnCount(std::max(1, static_cast<int>(headings.size())));
   }
   tree_->setHeaderLabels(headings);
+  const bool isSorted = list_.sortedColumn() >= 0;
+  tree_->header()->setSectionsClickable(isSorted);
+  tree_->header()->setSortIndicatorShown(isSorted);
+  if (isSorted) tree_->header()->setSortIndicator(list_.sortedColumn(), Qt::AscendingOrder);
   tree_->setHeaderHidden(!list_.showsHeadings() || headings.isEmpty());
 }
 
@@ -71,11 +85,35 @@ void ListViewAdapter::showRows() {
     if (row == tree_->topLevelItemCount()) tree_->addTopLevelItem(new QTreeWidgetItem);
     different |= showRow(*tree_->topLevelItem(row), row);
   }
-  if (different) {
-    for (int column = 0; column + 1 < tree_->columnCount(); ++column)
-      tree_->resizeColumnToContents(column);
-  }
+  if (different) fitColumns();
   if (different || tree_->width() != fittedWidth_) fitLastColumn();
+}
+
+QString ListViewAdapter::keyInMemory() const {
+  QStringList words{toQt(list_.form()->name()), toQt(list_.name())};
+  for (const std::string& heading : list_.columns()) words << toQt(heading);
+  return words.join(QLatin1Char('|'));
+}
+
+void ListViewAdapter::keepColumns() {
+  if (!hasControl()) return;
+  QList<int> widths;
+  for (int column = 0; column + 1 < tree_->columnCount(); ++column) {
+    widths << tree_->columnWidth(column);
+  }
+  form().session().memory.keepColumns(keyInMemory(), widths);
+}
+
+/// As wide as the user made them, or else as their texts; the last one is left out.
+void ListViewAdapter::fitColumns() {
+  const QList<int> kept = form().session().memory.columns(keyInMemory());
+  for (int column = 0; column + 1 < tree_->columnCount(); ++column) {
+    if (column < kept.size()) {
+      tree_->setColumnWidth(column, kept[column]);
+    } else {
+      tree_->resizeColumnToContents(column);
+    }
+  }
 }
 
 /// The last column takes the room that is left, and can be scrolled to where that is not enough.

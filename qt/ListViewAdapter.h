@@ -34,7 +34,10 @@ class ListViewAdapter : public Adapter {
   bool showRow(QTreeWidgetItem& item, std::int32_t row);
   void showEditor();
   void openEditor();
+  void fitColumns();
   void fitLastColumn();
+  QString keyInMemory() const;
+  void keepColumns();
   bool scrollSideways(const QKeyEvent& event);
 
   forms::ListView& list_;

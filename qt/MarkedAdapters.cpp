@@ -9,11 +9,12 @@
 
 #include "qt/Conversions.h"
 #include "qt/Painting.h"
+#include "qt/Spoken.h"
 
 namespace qt {
 namespace {
 
-constexpr int textLeft = 19;
+constexpr forms::Twips textLeft = 285;
 constexpr int textFlags =
     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
 
@@ -24,11 +25,21 @@ QRect markRect(const QWidget& button, const QRect& text, QStyle::PixelMetric met
   return {0, text.top() + (line - size) / 2, size, size};
 }
 
-/// A button with a mark whose text may take several lines, which Qt's own can't.
+/// A button with a mark whose text may take several lines, which Qt's own can't. To screen readers
+/// an option button is one although the form keeps its group, and each is clicked, not toggled.
 template <typename Button>
-class Marked : public Button {
+class Marked : public Button, public Spoken {
  public:
   using Button::Button;
+
+  QAccessible::Role role() const override {
+    return isCheck ? QAccessible::CheckBox : QAccessible::RadioButton;
+  }
+  void describe(QAccessible::State& state) const override {
+    state.checkable = true;
+    state.checked = this->isChecked();
+  }
+  void press() override { this->click(); }
 
   void showCaption(const forms::Captioned& control) {
     const QString caption = toQt(control.caption());
@@ -37,18 +48,23 @@ class Marked : public Button {
   }
 
  protected:
+  static constexpr bool isCheck = std::is_same_v<Button, QCheckBox>;
+
   bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
 
   void paintEvent(QPaintEvent*) override {
-    constexpr bool isCheck = std::is_same_v<Button, QCheckBox>;
     QStylePainter painter(this);
     QStyleOptionButton option;
     this->initStyleOption(&option);
-    const QRect area = this->rect().adjusted(textLeft, 0, 0, 0);
+    const QRect area = this->rect().adjusted(pixels(textLeft), 0, 0, 0);
     const QRect text = painter.boundingRect(area, textFlags, this->text());
     option.rect =
         markRect(*this, text.isEmpty() ? area : text,
                  isCheck ? QStyle::PM_IndicatorHeight : QStyle::PM_ExclusiveIndicatorHeight);
+    // The style draws the outline darker than the window, which a dark one leaves unseen.
+    if (isDark(this->palette().color(QPalette::Window))) {
+      option.palette.setColor(QPalette::Window, lineColor(this->palette()).lighter());
+    }
     painter.drawPrimitive(isCheck ? QStyle::PE_IndicatorCheckBox : QStyle::PE_IndicatorRadioButton,
                           option);
     painter.drawItemText(area, textFlags, this->palette(), this->isEnabled(), this->text(),

@@ -3,7 +3,15 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionFocusRect>
 
+#include "qt/Conversions.h"
+
 namespace qt {
+
+QColor lineColor(const QPalette& palette) {
+  constexpr int onDark = 130;
+  return isDark(palette.color(QPalette::Window)) ? QColor(onDark, onDark, onDark)
+                                                 : palette.color(QPalette::Mid);
+}
 
 void drawBorder(QPainter& painter, const QRect& rect, const QColor& color) {
   painter.fillRect(rect.left(), rect.top(), rect.width(), 1, color);

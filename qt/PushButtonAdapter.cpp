@@ -62,10 +62,18 @@ void PushButtonAdapter::show() {
   widget_->setIconSize(room);
   const QString caption = toQt(pictured ? std::string() : button_.caption());
   if (widget_->text() != caption) widget_->setText(caption);
+  showShortcut();
   widget_->setFlat(button_.isFlat());
   widget_->setDefault(button_.isDefault());
   widget_->setAutoFillBackground(button_.isFlat() &&
                                  button_.backColor() != forms::colors::buttonFace);
+}
+
+void PushButtonAdapter::showShortcut() {
+  if (button_.shortcut() == 0) return;
+  const QString keys = QStringLiteral("Ctrl+") + QChar(static_cast<char16_t>(button_.shortcut()));
+  const QString tip = toQt(button_.toolTip());
+  widget_->setToolTip(tip.isEmpty() ? keys : tip + QStringLiteral(" (") + keys + QLatin1Char(')'));
 }
 
 /// A cancel button gets the focus with its click, which validates nothing.

@@ -16,6 +16,8 @@ class PushButtonAdapter : public ClickedAdapter {
   bool mousePressed(QWidget& part, QMouseEvent& event) override;
 
  private:
+  void showShortcut();
+
   forms::CommandButton& button_;
   PushButton* widget_;
 };

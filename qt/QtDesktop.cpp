@@ -1,6 +1,8 @@
 #include "qt/QtDesktop.h"
 
+#include <QtGui/QClipboard>
 #include <QtGui/QFontMetrics>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <algorithm>
 #include <clocale>
@@ -13,11 +15,38 @@
 #include "qt/HelpViewer.h"
 #include "qt/Session.h"
 #include "qt/ShownForm.h"
+#include "qt/Spoken.h"
 
 namespace qt {
 namespace {
 
 constexpr int roomForAnyText = 1 << 20;
+constexpr double usualPoints = 9;  // of the system's font, for which forms are measured
+constexpr forms::Twips rounding = 15;
+constexpr forms::Size commonWindow{9705, 7500};
+
+/// Follows the system's font, as far as a window of the common size stays on the screen.
+void followSystemFont() {
+  const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size() - roomForFrame;
+  setFormScale(1);
+  const QSize common = pixels(commonWindow);
+  const double largest =
+      std::min(1.0 * screen.width() / common.width(), 1.0 * screen.height() / common.height());
+  setFormScale(std::max(1.0, std::min(largest, QApplication::font().pointSizeF() / usualPoints)));
+}
+
+QPalette darkPalette() {
+  QPalette palette(QColor(66, 66, 66), QColor(53, 53, 53));
+  palette.setColor(QPalette::Base, QColor(35, 35, 35));
+  palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Link, QColor(110, 175, 240));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, Qt::white);
+    palette.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
+  }
+  return palette;
+}
 
 /// Boxes and dialogs are answered with the arrow, also while the program is busy.
 class ArrowMeanwhile {
@@ -54,9 +83,23 @@ QtDesktop::QtDesktop(int argc, char** argv) : parts_(std::make_unique<Parts>(arg
   std::setlocale(LC_NUMERIC, "C");  // Qt takes over the user's; numbers have a point everywhere
   QApplication::setStyle(QStringLiteral("Fusion"));  // forms measure for it
   QApplication::setQuitOnLastWindowClosed(false);
+  installSpoken();
+  followSystemFont();
 }
 
 QtDesktop::~QtDesktop() = default;
+
+void QtDesktop::keepWindowsIn(const std::filesystem::path& machineFile) {
+  parts_->session.memory.keepIn(machineFile);
+}
+
+void QtDesktop::wear(const Look& look) {
+  QFont font = QApplication::font();
+  if (look.fontPoints > 0) font.setPointSizeF(look.fontPoints);
+  QApplication::setFont(font);
+  if (look.isDark) QApplication::setPalette(darkPalette());
+  followSystemFont();
+}
 
 bool QtDesktop::saveScreenshot(const forms::Form& form, const std::filesystem::path& machineFile) {
   const auto& shown = parts_->session.shown;
@@ -84,15 +127,18 @@ forms::Answer QtDesktop::showMessage(const forms::MessageBox& message) {
 }
 
 std::string QtDesktop::chooseFolder(const forms::FolderDialog& dialog) {
-  return parts_->ask([&](QWidget* parent) { return askFolder(parent, dialog); });
+  return parts_->ask(
+      [&](QWidget* parent) { return askFolder(parent, dialog, parts_->session.memory); });
 }
 
 std::string QtDesktop::chooseFileToSave(const forms::FileDialog& dialog) {
-  return parts_->ask([&](QWidget* parent) { return askFileToSave(parent, dialog); });
+  return parts_->ask(
+      [&](QWidget* parent) { return askFileToSave(parent, dialog, parts_->session.memory); });
 }
 
 std::string QtDesktop::chooseFileToOpen(const forms::FileDialog& dialog) {
-  return parts_->ask([&](QWidget* parent) { return askFileToOpen(parent, dialog); });
+  return parts_->ask(
+      [&](QWidget* parent) { return askFileToOpen(parent, dialog, parts_->session.memory); });
 }
 
 std::int32_t QtDesktop::showHelp(std::int32_t, const std::string& helpFile, std::int16_t topic) {
@@ -100,6 +146,10 @@ std::int32_t QtDesktop::showHelp(std::int32_t, const std::string& helpFile, std:
 }
 
 void QtDesktop::closeAllHelp() { parts_->help.closeAll(); }
+
+void QtDesktop::copyText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(toQt(text));
+}
 
 void QtDesktop::processEvents() {
   parts_->session.refreshAll();
@@ -131,12 +181,13 @@ void QtDesktop::setMousePointer(forms::MousePointer pointer) {
 forms::Size QtDesktop::textSize(const std::string& text, const forms::Font& font,
                                 forms::Twips width) const {
   const QFontMetrics metrics(toQt(font));
-  const int room = width > 0 ? width / twipsPerPixel : roomForAnyText;
+  const int room = width > 0 ? pixels(width) : roomForAnyText;
   const QRect bounds =
       metrics.boundingRect(QRect(0, 0, room, roomForAnyText),
                            Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, linesToQt(text));
   const QSize size(bounds.width() + 1, std::max(bounds.height(), metrics.height()));
-  return twips(size);
+  const forms::Size exact = twips(size);
+  return formScale() == 1 ? exact : forms::Size{exact.width + rounding, exact.height};
 }
 
 std::unique_ptr<QtDesktop> makeDesktop(int argc, char** argv) {

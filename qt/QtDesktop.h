@@ -25,6 +25,17 @@ class QtDesktop : public forms::Desktop {
   /// shown or the file can't be written.
   bool saveScreenshot(const forms::Form& form, const std::filesystem::path& machineFile);
 
+  /// From now on windows come back as the user left them, also in the next run.
+  void keepWindowsIn(const std::filesystem::path& machineFile);
+
+  /// What a system can ask of its windows. 0 points: its font as it is.
+  struct Look {
+    bool isDark = false;
+    double fontPoints = 0;
+  };
+  /// For pictures of the windows: before the first one is shown.
+  void wear(const Look& look);
+
   void runModal(forms::Form& form, forms::Form* owner) override;
   forms::Answer showMessage(const forms::MessageBox& message) override;
   std::string chooseFolder(const forms::FolderDialog& dialog) override;
@@ -33,6 +44,7 @@ class QtDesktop : public forms::Desktop {
   std::int32_t showHelp(std::int32_t ownerHandle, const std::string& helpFile,
                         std::int16_t topic) override;
   void closeAllHelp() override;
+  void copyText(const std::string& text) override;
   void processEvents() override;
   void runLater(std::function<void()> task) override;
   void setMousePointer(forms::MousePointer pointer) override;

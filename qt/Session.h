@@ -3,6 +3,8 @@
 #include <QtCore/QtGlobal>
 #include <vector>
 
+#include "qt/WindowMemory.h"
+
 QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
@@ -19,6 +21,8 @@ struct Session {
   /// Goes up with each box, dialog and form that is opened: what a press of the mouse began on a
   /// widget is over when one came in between.
   int interruptions = 0;
+
+  WindowMemory memory;
 
   /// Brings everything on the screen up to date with its form.
   void refreshAll() const;

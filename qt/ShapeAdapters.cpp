@@ -5,6 +5,7 @@
 #include <QtWidgets/QProgressBar>
 
 #include "qt/Conversions.h"
+#include "qt/Painting.h"
 #include "qt/Pictures.h"
 
 namespace qt {
@@ -19,7 +20,7 @@ class LineWidget : public QWidget {
     QPainter painter(this);
     const QRect line = width() >= height() ? QRect(0, height() / 2, width(), 1)
                                            : QRect(width() / 2, 0, 1, height());
-    painter.fillRect(line, palette().color(QPalette::Mid));
+    painter.fillRect(line, lineColor(palette()));
   }
 };
 

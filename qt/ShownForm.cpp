@@ -1,5 +1,7 @@
 #include "qt/ShownForm.h"
 
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
 #include <algorithm>
 
 #include "forms/Application.h"
@@ -54,6 +56,7 @@ ShownForm::~ShownForm() {
 }
 
 void ShownForm::run() {
+  restorePlace();
   addMissing(*form_);
   update();
   refresh();
@@ -62,6 +65,22 @@ void ShownForm::run() {
   form_->activateNow();
   refresh();
   if (form_ && form_->isVisible()) loop_.exec();
+}
+
+/// As the user left it, on a screen that there is now.
+void ShownForm::restorePlace() {
+  const WindowMemory::Place place = session_.memory.place(toQt(form_->name()));
+  if (place.size.width <= 0) return;
+  if (form_->isSizeable()) form_->setSize(place.size);
+  const QScreen* screen = QGuiApplication::screenAt(place.corner);
+  if (!screen) screen = QGuiApplication::primaryScreen();
+  const QRect window(place.corner, pixels(form_->innerSize()) + roomForFrame);
+  window_.move(clamped(window, screen->availableGeometry()).topLeft());
+}
+
+void ShownForm::keepPlace() {
+  if (!form_ || window_.isMaximized()) return;
+  session_.memory.keepPlace(toQt(form_->name()), {window_.pos(), form_->size()});
 }
 
 void ShownForm::act(const std::function<void(forms::User&)>& deed) {
@@ -99,7 +118,8 @@ bool ShownForm::turnPage(const QKeyEvent& event) {
   return false;
 }
 
-/// F1 shows the topic of the control with the focus, or of what holds it.
+/// F1 shows the topic of the control with the focus, or of what holds it; a window without one has
+/// that of the window below.
 void ShownForm::helpOnFocus() {
   forms::Application& application = forms::Application::current();
   if (!form_ || application.activeForm() != form_ || application.helpFile().empty()) return;
@@ -108,7 +128,10 @@ void ShownForm::helpOnFocus() {
     topic = control->helpContext();
     control = control->container().asControl();
   }
-  if (topic == 0) topic = form_->helpContext();
+  const auto& open = session_.shown;
+  for (auto shown = open.rbegin(); shown != open.rend() && topic == 0; ++shown) {
+    if ((*shown)->form_) topic = (*shown)->form_->helpContext();
+  }
   application.desktop().showHelp(form_->windowHandle(), application.helpFile(), topic);
 }
 
@@ -119,9 +142,13 @@ void ShownForm::close() {
 
 void ShownForm::resized() {
   if (refreshing_ || !form_ || !form_->isSizeable() || !window_.isVisible()) return;
-  const forms::Size inner = twips(window_.size());
-  if (pixels(form_->innerSize()) == window_.size()) return;
   const forms::Size frame = frameOf(*form_);
+  const forms::Size least{form_->minimumSize().width - frame.width,
+                          form_->minimumSize().height - frame.height};
+  // A screen may be smaller than the form can be.
+  const QSize wanted = window_.size().expandedTo(pixels(least));
+  if (pixels(form_->innerSize()) == wanted) return;
+  const forms::Size inner = twips(wanted);
   act([&](forms::User&) {
     form_->setSize({inner.width + frame.width, inner.height + frame.height});
   });
@@ -168,6 +195,7 @@ void ShownForm::noteContents(const forms::Container& container) {
 
 void ShownForm::update() {
   if (!form_->isVisible()) {
+    if (window_.isVisible()) keepPlace();
     window_.hide();
     loop_.quit();
   } else if (!refreshing_) {
@@ -191,7 +219,7 @@ void ShownForm::forget(const forms::Control& control) {
   QWidget* widget = gone_.back()->widget();
   for (const auto& [other, adapter] : adapters_) {
     if (adapter->widget()->parentWidget() == gone_.back()->contents()) {
-      adapter->widget()->setParent(&window_);
+      adapter->widget()->setParent(&window_.contents());
       note(*adapter);
     }
   }
@@ -207,7 +235,7 @@ Adapter* ShownForm::adapterOf(const forms::Control* control) const {
 
 QWidget& ShownForm::contentsOf(const forms::Container& container) {
   Adapter* adapter = adapterOf(const_cast<forms::Container&>(container).asControl());
-  return adapter ? *adapter->contents() : window_;
+  return adapter ? *adapter->contents() : window_.contents();
 }
 
 void ShownForm::addMissing(const forms::Container& container) {
@@ -232,23 +260,22 @@ void ShownForm::showForm() {
   QPalette palette = window_.palette();
   palette.setColor(QPalette::Window, toQt(form_->backColor()));
   if (palette != window_.palette()) window_.setPalette(palette);
-  if (!form_->isSizeable()) {
-    window_.setFixedSize(inner);
-    return;
-  }
+  if (!form_->isSizeable()) return window_.showFixed(inner);
   const forms::Size frame = frameOf(*form_);
   const forms::Size least = form_->minimumSize();
   const forms::Size leastInner{std::max(0, least.width - frame.width),
                                std::max(0, least.height - frame.height)};
-  window_.setMinimumSize(pixels(leastInner));
-  if (window_.size() != inner) window_.resize(inner);
+  window_.showSizeable(inner, pixels(leastInner));
 }
 
 void ShownForm::showFocus() {
   Adapter* adapter = adapterOf(form_->focus().control());
   QWidget* target = adapter ? adapter->focusWidget() : &window_;
   if (adapter) adapter->nameForReaders();
-  if (window_.focusWidget() != target) target->setFocus(Qt::OtherFocusReason);
+  if (window_.focusWidget() != target) {
+    target->setFocus(Qt::OtherFocusReason);
+    if (adapter) window_.reveal(*target);
+  }
   window_.setAttribute(Qt::WA_KeyboardFocusChange);  // so that the focus is seen, however it came
 }
 

@@ -66,6 +66,8 @@ class ShownForm : public forms::FormView {
   void showForm();
   void showFocus();
   void settle();
+  void restorePlace();
+  void keepPlace();
   bool turnPage(const QKeyEvent& event);
   void helpOnFocus();
 

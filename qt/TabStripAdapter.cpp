@@ -31,18 +31,22 @@ class Pages : public QWidget {
  public:
   using QWidget::QWidget;
 
-  void setHeaderHeight(int height) { headerHeight_ = height; }
+  void showBorderBelow(int headerHeight, bool bordered) {
+    headerHeight_ = headerHeight;
+    bordered_ = bordered;
+    update();
+  }
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    if (mapTo(window(), QPoint()).y() < 0) return;
+    if (!bordered_) return;
     QPainter painter(this);
-    drawBorder(painter, rect().adjusted(0, headerHeight_ - 1, 0, 0),
-               palette().color(QPalette::Mid));
+    drawBorder(painter, rect().adjusted(0, headerHeight_ - 1, 0, 0), lineColor(palette()));
   }
 
  private:
   int headerHeight_ = 0;
+  bool bordered_ = false;
 };
 
 }  // namespace
@@ -58,9 +62,11 @@ TabStripAdapter::TabStripAdapter(forms::TabStrip& strip, const Place& place)
 
 void TabStripAdapter::show() {
   const int height = pixels(strip_.tabHeight());
-  static_cast<Pages*>(widget())->setHeaderHeight(height);
+  static_cast<Pages*>(widget())->showBorderBelow(height, strip_.hasHeadersInSight());
   bar_->setGeometry(0, 0, widget()->width(), height);
   showHeaders();
+  bar_->setAccessibleName(widget()->accessibleName());
+  bar_->setVisible(strip_.hasHeadersInSight());
   if (shownPage_ == strip_.currentPage()) return;
   shownPage_ = strip_.currentPage();
   form().noteContents(strip_);

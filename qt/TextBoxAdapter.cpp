@@ -43,7 +43,7 @@ TextBoxAdapter::TextBoxAdapter(forms::TextBox& box, const Place& place)
     : Adapter(box, place, new QLineEdit(&place.parent)),
       box_(box),
       edit_(static_cast<QLineEdit*>(widget())) {
-  connect(edit_, &QLineEdit::textEdited, this, [this] { edited(); });
+  connect(edit_, &QLineEdit::textChanged, this, [this] { edited(); });  // also by a screen reader
   connect(edit_, &QLineEdit::selectionChanged, this, [this] { selected(); });
   connect(edit_, &QLineEdit::cursorPositionChanged, this, [this] { selected(); });
 }

@@ -1,5 +1,7 @@
 #include "shell/frmAddIn.h"
 
+#include <ctime>
+
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -27,6 +29,15 @@ forms::Font fontOfSteps(bool bSelected) {
   return {.name = "Tahoma", .points = 8.25, .bold = bSelected};
 }
 
+/// "14:05"
+std::string TimeOfDay() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  char text[sizeof "hh:mm"];
+  return {text, std::strftime(text, sizeof text, "%H:%M", &local)};
+}
+
 forms::Application& App() { return forms::Application::current(); }
 
 }  // namespace
@@ -42,6 +53,9 @@ frmAddIn::frmAddIn() : Form("frmAddIn"), m_strOldHelpFile(App().helpFile()) {
   unloading.connect([this] { Form_Unload(); });
   keyDown.connect([this](forms::KeyDown& key) { Form_KeyDown(key); });
 
+  cmdNew.setShortcut(U'N');
+  cmdFolder.setShortcut(U'O');
+  cmdSave.setShortcut(U'S');
   cmdNew.click.connect([this] { cmdNew_Click(); });
   cmdFolder.click.connect([this] { cmdFolder_Click(); });
   cmdSave.click.connect([this] { cmdSave_Click(); });
@@ -120,6 +134,7 @@ void frmAddIn::LayOut() {
         [&] { button.cmdFile.setPicture(App().loadPicture(strFolder + button.strPicture)); });
   }
 
+  lblSaved.setBounds({3870, 6525, 1560, 255});
   cmdHelp.setBounds({2580, 6420, 1200, 420});
   cmdBack.setBounds({5520, 6420, 1200, 420});
   cmdNext.setBounds({6780, 6420, 1200, 420});
@@ -218,7 +233,12 @@ void frmAddIn::cmdUserPath_Click() { gAddIn().ShowPreferences(); }
 
 void frmAddIn::cmdSave_Click() {
   if (!gAddIn().CheckSystemLocation()) return;
-  if (!gAddIn().SaveSystemAs()) App().messageBox("Save failed.", Buttons::ok, Icon::exclamation);
+  if (gAddIn().SaveSystemAs()) {
+    lblSaved.setCaption("Saved at " + TimeOfDay());
+  } else {
+    lblSaved.setCaption("");
+    App().messageBox("Save failed.", Buttons::ok, Icon::exclamation);
+  }
 }
 
 void frmAddIn::cmdNew_Click() {
@@ -229,6 +249,7 @@ void frmAddIn::cmdNew_Click() {
     gOwnerForm().DestroyDoc();
     addin::SetDocument(nullptr);
   }
+  lblSaved.setCaption("");
   const bool bStarted = gAddIn().NewSystem();
   ShowSteps(bStarted);
   if (bStarted) {
@@ -250,6 +271,7 @@ void frmAddIn::cmdFolder_Click() {
     if (bUnsaved && addin::IsDocumentSet()) gDocument().MarkChangedButProgram();
     return;
   }
+  lblSaved.setCaption("");
   ctlTabs.SetCurrentTab(0);
   SetStepsData();
 }

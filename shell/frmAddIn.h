@@ -8,6 +8,7 @@
 #include "forms/CommandButton.h"
 #include "forms/Form.h"
 #include "forms/Frame.h"
+#include "forms/Label.h"
 #include "forms/Line.h"
 #include "host/ctlSteps.h"
 #include "host/iTab.h"
@@ -28,6 +29,7 @@ class frmAddIn : public forms::Form, public addin::WizardWindow {
   const std::vector<forms::UserControl*>& GetControls() const override { return m_colSteps; }
   bool HasOpenEdit() const override;
   void TakeOpenEdit() override { focus().moveByUser(cmdSave); }
+  void ShowStep(std::int16_t iStep) override { ctlTabs.SetCurrentTab(iStep); }
   bool SaveData() override;
 
  private:
@@ -68,6 +70,7 @@ class frmAddIn : public forms::Form, public addin::WizardWindow {
   forms::CommandButton cmdFolder{Frame1, "cmdFolder"};
   forms::CommandButton cmdSave{Frame1, "cmdSave"};
   forms::CommandButton cmdUserPath{Frame1, "cmdUserPath"};
+  forms::Label lblSaved{*this, "lblSaved"};
   forms::CommandButton cmdHelp{*this, "cmdHelp", "&Help"};
   forms::CommandButton cmdBack{*this, "cmdBack", "< &Back"};
   forms::CommandButton cmdNext{*this, "cmdNext", "&Next >"};

@@ -239,41 +239,41 @@ void TabDisplay::lblDisplayHelp_Click() {
 
 void TabDisplay::LayOut() {
   using namespace forms;
-  layOut(
-      pageArea,
-      {
-          rest(lblBanner),
-          row({item(Label1), spring(), item(lblDisplayHelp)}),
-          box(Frame3,
-              {
-                  row({
-                      item(ctlImageDisplay, sizeOfPicture),
-                      either({
-                          columns({
-                              {item(lblDescriptionTag), rest(lblDescription, 780)},
-                              {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
-                          }),
-                          frameInfo.Place(),
-                      }),
-                      column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
-                  }),
-              }),
-          box(frameCommand,
-              {
-                  item(lblSwitch),
-                  columns({
-                      {item(lblTransport(0)), rest(ctlCommands(0))},
-                      {item(lblTransport(1)), rest(ctlCommands(1))},
-                  }),
-              }),
-          item(chkPowerRelay),
-          indented({
-              columns({
-                  {item(lblDelay(0)), wide(txtDelay(0), lNumberBoxWidth), item(lblDelaySeconds(0))},
-                  {item(lblDelay(1)), wide(txtDelay(1), lNumberBoxWidth), item(lblDelaySeconds(1))},
-              }),
-          }),
-      });
+  layOut(pageArea, {
+                       rest(lblBanner),
+                       row({item(Label1), spring(), item(lblDisplayHelp)}),
+                       box(Frame3,
+                           {
+                               row({
+                                   item(ctlImageDisplay, sizeOfPicture),
+                                   either({
+                                       columns({
+                                           {item(lblDescriptionTag), rest(lblDescription, 780)},
+                                           {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
+                                       }),
+                                       frameInfo.Place(),
+                                   }),
+                                   column({wide(cmdChoose, 1350), wide(cmdProperties, 1350)}),
+                               }),
+                           }),
+                       box(frameCommand,
+                           {
+                               item(lblSwitch),
+                               columns({
+                                   {names(lblTransport(0), ctlCommands(0)), rest(ctlCommands(0))},
+                                   {names(lblTransport(1), ctlCommands(1)), rest(ctlCommands(1))},
+                               }),
+                           }),
+                       item(chkPowerRelay),
+                       indented({
+                           columns({
+                               {names(lblDelay(0), txtDelay(0)), wide(txtDelay(0), lNumberBoxWidth),
+                                names(lblDelaySeconds(0), txtDelay(0))},
+                               {names(lblDelay(1), txtDelay(1)), wide(txtDelay(1), lNumberBoxWidth),
+                                names(lblDelaySeconds(1), txtDelay(1))},
+                           }),
+                       }),
+                   });
   frameInfo.PlaceBorder();
 }
 

@@ -340,9 +340,9 @@ forms::Piece TabDisplayOptions::PlacePage(std::int16_t Index) {
 forms::Piece TabDisplayOptions::PlaceRow(const PowerRow& powerRow, std::int16_t Index) {
   using namespace forms;
   return column({
-      item(powerRow.lblPower(Index)),
+      names(powerRow.lblPower(Index), powerRow.ctlPower(Index)),
       indented({
-          item(powerRow.lblCommand(Index)),
+          names(powerRow.lblCommand(Index), powerRow.ctlPower(Index)),
           rest(powerRow.ctlPower(Index)),
           row({item(powerRow.lblFor(Index)), wide(powerRow.txtPulseTime(Index), lNumberBoxWidth),
                item(powerRow.lblSeconds(Index))}),

@@ -176,7 +176,7 @@ void TabFinish::LayOut() {
   constexpr Size sizeOfButton{720, 720};
   const auto Action = [&](Control& cmd, Label& lbl) {
     lbl.setLink(true);
-    return Pieces{item(cmd, sizeOfButton), item(lbl)};
+    return Pieces{item(cmd, sizeOfButton), names(lbl, cmd)};
   };
   const auto Beside = [&](Pieces left, Pieces right) {
     left.push_back(gap(300));

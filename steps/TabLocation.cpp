@@ -190,12 +190,12 @@ void TabLocation::LayOut() {
                            {
                                item(Label1),
                                columns({
-                                   {item(lblSystemName), rest(txtSystemName)},
+                                   {names(lblSystemName, txtSystemName), rest(txtSystemName)},
                                }),
                                gap(240),
                                item(Label3),
                                columns({
-                                   {item(lblLocation), rest(txtLocation)},
+                                   {names(lblLocation, txtLocation), rest(txtLocation)},
                                }),
                                row({spring(), item(cmdBrowse)}),
                            }),

@@ -321,6 +321,7 @@ void TabOrigination::LayOut() {
   constexpr Size sizeOfArrow{510, 375};
   constexpr Twips lButtonWidth = 1110;
   constexpr Twips lTransmitters = 1275;
+  listDevices.nameBy(lblOLTransmitter);
   layOut(pageArea,
          {
              rest(lblBanner),

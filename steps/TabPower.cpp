@@ -269,6 +269,7 @@ void TabPower::LayOut() {
     return column({row({item(optPower(Index)), std::move(recommendation)}),
                    indented({rest(lblPower(Index), 390)})});
   };
+  txtSecondOff.nameBy(chkSecondOff);
   layOut(pageArea,
          {
              rest(lblBanner),
@@ -281,13 +282,17 @@ void TabPower::LayOut() {
                          Mode(powerDiscrete, item(lblRecommended)),
                          indented({
                              columns({
-                                 {item(lblCommands(iOnCommand)), rest(ctlCommands(iOnCommand))},
-                                 {item(lblCommands(iOffCommand)), rest(ctlCommands(iOffCommand))},
+                                 {names(lblCommands(iOnCommand), ctlCommands(iOnCommand)),
+                                  rest(ctlCommands(iOnCommand))},
+                                 {names(lblCommands(iOffCommand), ctlCommands(iOffCommand)),
+                                  rest(ctlCommands(iOffCommand))},
                              }),
-                             item(chkSecondOff),
+                             names(chkSecondOff, ctlCommands(iSecondOffCommand)),
                              indented({
-                                 row({rest(ctlCommands(iSecondOffCommand)), item(lblSecondOff(0)),
-                                      wide(txtSecondOff, lNumberBoxWidth), item(lblSecondOff(1))}),
+                                 row({rest(ctlCommands(iSecondOffCommand)),
+                                      names(lblSecondOff(0), txtSecondOff),
+                                      wide(txtSecondOff, lNumberBoxWidth),
+                                      names(lblSecondOff(1), txtSecondOff)}),
                              }),
                          }),
                          gap(60),

@@ -164,12 +164,12 @@ void TabPowerOnOffLockout::LayOut() {
                              gap(60),
                              indented({
                                  columns({
-                                     {item(lblSeconds(3)),
+                                     {names(lblSeconds(3), txtPowerLockoutTime(iOnTime)),
                                       wide(txtPowerLockoutTime(iOnTime), lNumberBoxWidth),
-                                      item(lblSeconds(0))},
-                                     {item(lblSeconds(2)),
+                                      names(lblSeconds(0), txtPowerLockoutTime(iOnTime))},
+                                     {names(lblSeconds(2), txtPowerLockoutTime(iOffTime)),
                                       wide(txtPowerLockoutTime(iOffTime), lNumberBoxWidth),
-                                      item(lblSeconds(1))},
+                                      names(lblSeconds(1), txtPowerLockoutTime(iOffTime))},
                                  }),
                              }),
                          }),

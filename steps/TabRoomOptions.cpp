@@ -306,6 +306,7 @@ bool TabRoomOptions::iTab_SaveData() {
 void TabRoomOptions::LayOut() {
   using namespace forms;
   constexpr Twips lPasswordWidth = 2400;
+  txtFenletPassword.nameBy(Label4);
   layOut(pageArea,
          {
              rest(lblBanner),

@@ -4,6 +4,7 @@
 #include <mutex>
 #include <utility>
 
+#include "forms/Guard.h"
 #include "host/Error.h"
 #include "trellisar/Component.h"
 #include "trellisar/ComponentRegistration.h"
@@ -101,6 +102,8 @@ void run(host::IAddInContract& addIn, Host& host, bool useOpenFile) {
   addIn.IAddInContract_Load(host.document(), host.libraryManager(), host.communication(),
                             host.smallPictures(), host.largePictures(), host.mainWindow());
   addIn.IAddInContract_UseOpenFile(useOpenFile);
+  host.mainWindow()->setGuide(dynamic_cast<host::ProgramGuide*>(&addIn));
+  const forms::AtEnd ended([&] { host.mainWindow()->setGuide(nullptr); });
   addIn.IAddInContract_Run(host.mainWindow());
 }
 

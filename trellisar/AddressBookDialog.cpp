@@ -34,13 +34,13 @@ AddressBookDialog::AddressBookDialog(Preferences& preferences, std::function<voi
   cmdRemove.click.connect([this] { remove(); });
   cmdUse.click.connect([this] { use(); });
   // With the longest text that lblInUse gets.
-  layOutAbove(
-      dialogWidth,
-      {forms::item(lblReceivers), forms::rest(lvwReceivers, listHeight), forms::rest(lblInUse),
-       forms::columns({{forms::item(lblName), forms::rest(txtName)},
-                       {forms::item(lblAddress), forms::rest(txtAddress)}}),
-       forms::row({forms::spring(), forms::item(cmdAdd), forms::item(cmdChange),
-                   forms::item(cmdRemove), forms::item(cmdUse)})});
+  layOutAbove(dialogWidth,
+              {forms::names(lblReceivers, lvwReceivers), forms::rest(lvwReceivers, listHeight),
+               forms::rest(lblInUse),
+               forms::columns({{forms::names(lblName, txtName), forms::rest(txtName)},
+                               {forms::names(lblAddress, txtAddress), forms::rest(txtAddress)}}),
+               forms::row({forms::spring(), forms::item(cmdAdd), forms::item(cmdChange),
+                           forms::item(cmdRemove), forms::item(cmdUse)})});
   show(book_.receivers.empty() ? -1 : toRow(book_.current));
 }
 

@@ -6,7 +6,7 @@ namespace trellisar {
 
 bool MainWindowOperations::ShowCreateProgramDialog(bool& bCancelled) {
   note("ShowCreateProgramDialog");
-  CompileDialog dialog(session_->data());
+  CompileDialog dialog(session_->data(), guide_);
   const bool isStored = dialog.run();
   bCancelled = dialog.isCancelled();
   return isStored;

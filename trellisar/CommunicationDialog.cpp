@@ -9,14 +9,7 @@ namespace trellisar {
 
 CommunicationDialog::CommunicationDialog(std::string name, const std::string& caption,
                                          std::function<void()> help)
-    : Dialog(std::move(name), caption) {
-  setHelpContext(host::helpFinishTab);
-  cmdHelp.click.connect(std::move(help));
-}
-
-void CommunicationDialog::layOutAbove(forms::Twips width, forms::Pieces pieces) {
-  HostForm::layOutAbove({&cmdOK, &cmdCancel}, width, std::move(pieces), &cmdHelp);
-}
+    : Dialog(std::move(name), caption, host::helpFinishTab), help_(std::move(help)) {}
 
 bool CommunicationDialog::refuse(forms::TextBox& box, const std::string& message) {
   showFailure(message);

@@ -8,19 +8,19 @@
 
 namespace trellisar {
 
-/// A dialog about the link to the receiver: one with "cmdHelp".
+/// A dialog about the link to the receiver, whose help is shown by whoever opened it.
 class CommunicationDialog : public Dialog {
- public:
-  forms::CommandButton cmdHelp{*this, "cmdHelp", "Help"};
-
  protected:
   /// `help` shows the help.
   CommunicationDialog(std::string name, const std::string& caption, std::function<void()> help);
 
-  void layOutAbove(forms::Twips width, forms::Pieces pieces);
-
   /// Tells what is wrong with the text of a box, and goes there; false.
   bool refuse(forms::TextBox& box, const std::string& message);
+
+ private:
+  void showHelp() override { help_(); }
+
+  std::function<void()> help_;
 };
 
 }  // namespace trellisar

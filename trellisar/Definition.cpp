@@ -97,4 +97,26 @@ const DefinitionPtr& emptyDefinition() {
   return empty;
 }
 
+const char* connectionName(Definition::Connection connection) {
+  switch (connection) {
+    case Definition::Connection::serial:
+      return "Serial";
+    case Definition::Connection::infrared:
+      return "Infrared";
+    case Definition::Connection::relay:
+      return "Relay";
+    case Definition::Connection::contact:
+      return "Contact";
+    case Definition::Connection::sensor:
+      return "Sensor";
+    case Definition::Connection::network:
+      return "Network";
+    case Definition::Connection::link:
+      return "Link";
+    case Definition::Connection::none:
+      break;
+  }
+  return "";
+}
+
 }  // namespace trellisar

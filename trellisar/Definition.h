@@ -94,6 +94,9 @@ struct Definition {
 
 using DefinitionPtr = std::shared_ptr<const Definition>;
 
+/// "Serial", "Relay"; a dash for a device without a connection.
+const char* connectionName(Definition::Connection connection);
+
 /// A definition with nothing in it, for objects without one.
 const DefinitionPtr& emptyDefinition();
 

@@ -4,6 +4,7 @@
 
 #include "forms/Application.h"
 #include "host/Numbers.h"
+#include "trellisar/HelpTopics.h"
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/Provisioning.h"
 
@@ -48,13 +49,18 @@ std::string whatItTakes(const PropertyDefinition& property) {
 
 DevicePropertiesDialog::DevicePropertiesDialog(DocumentPtr document, DevicePtr device,
                                                const std::vector<std::string>& pages)
-    : Dialog("DeviceProperties", "Properties of " + device->name),
+    : Dialog("DeviceProperties", "Properties of " + device->name, help::deviceProperties),
       document_(std::move(document)),
       device_(std::move(device)) {
   lvwProperties.setColumns({"Property", "Value"});
+  lvwProperties.setAccessibleName("Properties");
   lvwProperties.itemClick.connect([this] { propertySelected(); });
   cmdSet.click.connect([this] {
     if (!takeValue()) txtValue.setFocus();
+  });
+  cboValue.nameBy(lblValue);
+  cboValue.click.connect([this] {
+    lvwProperties.setText(lvwProperties.selectedRow(), 1, cboValue.text(cboValue.selected()));
   });
   fill();
   fillPorts();
@@ -64,6 +70,7 @@ DevicePropertiesDialog::DevicePropertiesDialog(DocumentPtr document, DevicePtr d
 
 void DevicePropertiesDialog::showPages(const std::vector<std::string>& pages) {
   tabPages.setTabStop(true);
+  tabPages.setAccessibleName("Pages");
   forms::Frame* const frames[] = {&fraBasic, &fraAssignment, &fraProperties};
   std::int16_t first = -1;
   for (std::int16_t page = 0; page < forms::TabStrip::pageCount; ++page) {
@@ -85,23 +92,27 @@ void DevicePropertiesDialog::showPages(const std::vector<std::string>& pages) {
 
 void DevicePropertiesDialog::place() {
   const forms::Rect page{pageMargin, headerHeight, dialogWidth - 2 * pageMargin, pagesHeight};
-  forms::layOut(
-      page, {forms::box(fraBasic, {forms::columns({
-                                      {forms::item(lblName), forms::rest(lblNameText)},
-                                      {forms::item(lblType), forms::rest(lblTypeText)},
-                                      {forms::item(lblDescription), forms::rest(txtDescription)},
-                                  })})});
+  forms::layOut(page, {forms::box(fraBasic, {forms::columns({
+                                                {forms::item(lblName), forms::rest(lblNameText)},
+                                                {forms::item(lblType), forms::rest(lblTypeText)},
+                                                {forms::names(lblDescription, txtDescription),
+                                                 forms::rest(txtDescription)},
+                                            })})});
   forms::layOut(page,
-                {forms::box(fraAssignment, {forms::columns({
-                                               {forms::item(lblPort), forms::rest(cboPort)},
-                                               {forms::item(lblAddress), forms::rest(txtAddress)},
-                                           })})});
+                {forms::box(fraAssignment,
+                            {forms::columns({
+                                {forms::names(lblPort, cboPort), forms::rest(cboPort)},
+                                {forms::names(lblAddress, txtAddress), forms::rest(txtAddress)},
+                            })})});
   forms::layOut(
       page,
-      {forms::box(fraProperties,
-                  {forms::rest(lvwProperties, listHeight),
-                   forms::row({forms::item(lblValue), forms::rest(txtValue), forms::item(cmdSet)}),
-                   forms::rest(lblTakes)})});
+      {forms::box(
+          fraProperties,
+          {forms::rest(lvwProperties, listHeight),
+           forms::row({forms::names(lblValue, txtValue),
+                       forms::either({forms::row({forms::rest(txtValue), forms::item(cmdSet)}),
+                                      forms::rest(cboValue)})}),
+           forms::rest(lblTakes)})});
   layOutAbove(dialogWidth, {forms::rest(tabPages, pagesHeight)});
 }
 
@@ -144,14 +155,30 @@ void DevicePropertiesDialog::propertySelected() {
   const PropertyDefinition* property = selectedProperty();
   txtValue.setEnabled(property != nullptr);
   cmdSet.setEnabled(property != nullptr);
+  cboValue.setVisible(false);
   if (!property) return;
-  txtValue.setText(lvwProperties.text(lvwProperties.selectedRow(), 1));
   lblTakes.setCaption(whatItTakes(*property));
+  showValue(*property, lvwProperties.text(lvwProperties.selectedRow(), 1));
+}
+
+/// What is one of a few is chosen and lands at once; anything else is typed and set.
+void DevicePropertiesDialog::showValue(const PropertyDefinition& property,
+                                       const std::string& value) {
+  const bool isChosen = property.type == PropertyDefinition::Type::constant;
+  cboValue.setVisible(isChosen);
+  txtValue.setVisible(!isChosen);
+  cmdSet.setVisible(!isChosen);
+  txtValue.setText(value);
+  if (!isChosen) return;
+  cboValue.clear();
+  for (const std::string& choice : property.choices) cboValue.add(choice);
+  if (cboValue.find(value) < 0) cboValue.add(value);
+  cboValue.setSelected(cboValue.find(value));
 }
 
 bool DevicePropertiesDialog::takeValue() {
   const PropertyDefinition* property = selectedProperty();
-  if (!property) return true;
+  if (!property || !txtValue.isVisible()) return true;
   if (!property->takes(txtValue.text())) {
     showFailure("\"" + txtValue.text() + "\" is no value for \"" + property->name + "\". " +
                 whatItTakes(*property));

@@ -44,6 +44,7 @@ class DevicePropertiesDialog : public Dialog {
   forms::ListView lvwProperties{fraProperties, "lvwProperties"};
   forms::Label lblValue{fraProperties, "lblValue", "&Value:"};
   forms::TextBox txtValue{fraProperties, "txtValue"};
+  forms::DropDownList cboValue{fraProperties, "cboValue"};
   forms::CommandButton cmdSet{fraProperties, "cmdSet", "&Set"};
   forms::Label lblTakes{fraProperties, "lblTakes"};
 
@@ -56,6 +57,7 @@ class DevicePropertiesDialog : public Dialog {
   void fill();
   void fillPorts();
   void propertySelected();
+  void showValue(const PropertyDefinition& property, const std::string& value);
   /// Puts the typed value into the list; false, with a message, when the property does not take it.
   bool takeValue();
   const PropertyDefinition* selectedProperty() const;

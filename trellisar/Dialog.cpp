@@ -4,7 +4,8 @@
 
 namespace trellisar {
 
-Dialog::Dialog(std::string name, const std::string& caption) : HostForm(std::move(name), caption) {
+Dialog::Dialog(std::string name, const std::string& caption, std::int16_t helpTopic)
+    : HostForm(std::move(name), caption, helpTopic) {
   cmdOK.setDefault(true);
   cmdOK.click.connect([this] { end(); });
   cmdCancel.setCancel(true);

@@ -17,7 +17,7 @@ class Dialog : public HostForm {
   forms::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
  protected:
-  Dialog(std::string name, const std::string& caption);
+  Dialog(std::string name, const std::string& caption, std::int16_t helpTopic);
 
   /// Lays the pieces out above the two buttons and gives the dialog the height that they need.
   void layOutAbove(forms::Twips width, forms::Pieces pieces);

@@ -25,11 +25,12 @@ IPSettingsDialog::IPSettingsDialog(Preferences& preferences, std::function<void(
     box->setMaxLength(longestAddress);
   }
   txtHostName.setMaxLength(longestHostName);
-  layOutAbove(dialogWidth, {forms::columns({{forms::item(lblAddress), forms::rest(txtAddress)},
-                                            {forms::item(lblMask), forms::rest(txtMask)},
-                                            {forms::item(lblGateway), forms::rest(txtGateway)},
-                                            {forms::item(lblHostName), forms::rest(txtHostName)}}),
-                            forms::rest(lblMeaning)});
+  layOutAbove(dialogWidth,
+              {forms::columns({{forms::names(lblAddress, txtAddress), forms::rest(txtAddress)},
+                               {forms::names(lblMask, txtMask), forms::rest(txtMask)},
+                               {forms::names(lblGateway, txtGateway), forms::rest(txtGateway)},
+                               {forms::names(lblHostName, txtHostName), forms::rest(txtHostName)}}),
+               forms::rest(lblMeaning)});
 }
 
 bool IPSettingsDialog::accept() {

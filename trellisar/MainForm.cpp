@@ -10,6 +10,7 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/AddIns.h"
+#include "trellisar/HelpTopics.h"
 #include "trellisar/Listing.h"
 #include "trellisar/SystemFile.h"
 
@@ -72,6 +73,13 @@ void MainForm::connect() {
   cmdEdit.click.connect([this] { editRecent(); });
   cmdOpen.click.connect([this] { openOther(); });
   cmdPreferences.click.connect([this] { host_.mainWindow()->ShowPreferencesDialog(); });
+  cmdNew.setShortcut(U'N');
+  cmdOpen.setShortcut(U'O');
+  setHelpContext(help::mainWindow);
+  cmdHelp.click.connect([this] {
+    forms::Application& application = forms::Application::current();
+    application.desktop().showHelp(windowHandle(), application.helpFile(), helpContext());
+  });
   cmdClose.setCancel(true);
   cmdClose.click.connect([this] { hide(); });
 }
@@ -82,16 +90,20 @@ void MainForm::run() {
   unload();
 }
 
-/// An add-in gives the application its own title.
-void MainForm::hostAgain() { forms::Application::current().setTitle(hostTitle); }
+/// An add-in gives the application its own title and help.
+void MainForm::hostAgain() {
+  forms::Application& application = forms::Application::current();
+  application.setTitle(hostTitle);
+  application.setHelpFile(application.folder() + "\\Trellisar.chm");
+}
 
 forms::Pieces MainForm::addInPieces(forms::Twips recentHeight) {
-  return {forms::item(lblAddIns),
+  return {forms::names(lblAddIns, lvwAddIns),
           forms::rest(lvwAddIns, addInListHeight),
           forms::row({forms::item(imgAddIn, iconSize), forms::rest(lblDescription)}),
           forms::row({forms::spring(), forms::item(cmdPreview), forms::item(cmdNew)}),
           forms::gap(margin),
-          forms::item(lblRecent),
+          forms::names(lblRecent, lvwRecent),
           forms::rest(lvwRecent, recentHeight),
           forms::row({forms::spring(), forms::item(cmdOpen), forms::item(cmdEdit)})};
 }
@@ -106,13 +118,13 @@ void MainForm::layOut() {
 
   const forms::Twips left = lists.left + lists.width + 2 * margin;
   const forms::Rect system{left, margin, inner.width - left - margin, lists.height};
-  const forms::Twips above =
-      forms::layOut(system, {forms::item(lblSystem), forms::rest(txtSystem, leastHeight)});
-  forms::layOut(system, {forms::item(lblSystem),
+  const forms::Twips above = forms::layOut(
+      system, {forms::names(lblSystem, txtSystem), forms::rest(txtSystem, leastHeight)});
+  forms::layOut(system, {forms::names(lblSystem, txtSystem),
                          forms::rest(txtSystem, leastHeight + std::max(0, system.height - above))});
-  forms::layOut(
-      {margin, bottom, inner.width - 2 * margin, last},
-      {forms::row({forms::item(cmdPreferences), forms::spring(), forms::item(cmdClose)})});
+  forms::layOut({margin, bottom, inner.width - 2 * margin, last},
+                {forms::row({forms::item(cmdHelp), forms::item(cmdPreferences), forms::spring(),
+                             forms::item(cmdClose)})});
 }
 
 void MainForm::fillAddIns() {

@@ -44,6 +44,7 @@ class MainForm : public forms::Form {
   forms::Label lblSystem{*this, "lblSystem", "&Devices and program:"};
   forms::TextView txtSystem{*this, "txtSystem"};
   forms::CommandButton cmdPreferences{*this, "cmdPreferences", "&Preferences..."};
+  forms::CommandButton cmdHelp{*this, "cmdHelp", "&Help"};
   forms::CommandButton cmdClose{*this, "cmdClose", "Close"};
 
  private:

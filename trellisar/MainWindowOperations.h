@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "host/OwnerForm.h"
+#include "host/ProgramGuide.h"
 #include "trellisar/Session.h"
 
 namespace trellisar {
@@ -19,6 +20,9 @@ class MainWindowOperations : public host::OwnerForm {
 
   /// The window that stands behind the operations; null where the host runs without one.
   void setForm(forms::Form* form) { form_ = form; }
+
+  /// The add-in that is running, where it can tell its pages; null: nobody can.
+  void setGuide(host::ProgramGuide* guide) { guide_ = guide; }
 
   using host::OwnerForm::FileOpen;
 
@@ -73,6 +77,7 @@ class MainWindowOperations : public host::OwnerForm {
 
   std::shared_ptr<Session> session_;
   forms::Form* form_ = nullptr;
+  host::ProgramGuide* guide_ = nullptr;
   host::SystemManagerOptions systemManager_;
   std::vector<std::int16_t> queryResponses_;
   std::shared_ptr<UIManagerObject> uiManager_;  // made when it is first asked for

@@ -2,6 +2,7 @@
 
 #include "forms/Application.h"
 #include "forms/Text.h"
+#include "trellisar/HelpTopics.h"
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/SystemFolders.h"
 
@@ -13,14 +14,14 @@ constexpr forms::Twips dialogWidth = 6600;
 }  // namespace
 
 PreferencesDialog::PreferencesDialog(Preferences& preferences)
-    : Dialog("Preferences", "Preferences"), preferences_(preferences) {
+    : Dialog("Preferences", "Preferences", help::preferences), preferences_(preferences) {
   txtFolder.setText(preferences.defaultFolder());
   lblUsual.setCaption("Without a folder of your own, new systems go to " +
                       defaultSystemsFolder(Preferences()));
   cmdBrowse.click.connect([this] { browse(); });
-  layOutAbove(dialogWidth,
-              {forms::item(lblFolder), forms::row({forms::rest(txtFolder), forms::item(cmdBrowse)}),
-               forms::rest(lblUsual)});
+  layOutAbove(dialogWidth, {forms::names(lblFolder, txtFolder),
+                            forms::row({forms::rest(txtFolder), forms::item(cmdBrowse)}),
+                            forms::rest(lblUsual)});
 }
 
 void PreferencesDialog::browse() {

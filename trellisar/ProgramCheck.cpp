@@ -42,6 +42,7 @@ bool canBeTested(const Definition& definition, const std::string& signal) {
 ProgramCheck::ProgramCheck(const DocumentData& document) : document_(document) {
   for (const auto& preset : document.presets) {
     parts_.emplace_back([this, preset] {
+      preset_ = preset->name;
       checkSteps(*preset, "preset " + inQuotes(preset->name) + ", step ", "");
     });
   }
@@ -59,12 +60,13 @@ ProgramCheck::ProgramCheck(const DocumentData& document) : document_(document) {
 
 bool ProgramCheck::next() {
   if (done_ == parts_.size()) return false;
+  preset_.clear();
   parts_[done_++]();
   return true;
 }
 
-void ProgramCheck::fail(const std::string& place, const std::string& what) {
-  errors_.push_back(place + ": " + what + ".");
+void ProgramCheck::fail(const std::string& place, const std::string& what, std::int16_t device) {
+  errors_.push_back({place + ": " + what + ".", {.iDeviceID = device, .strPreset = preset_}});
 }
 
 void ProgramCheck::checkSteps(const PresetData& preset, const std::string& place,
@@ -92,8 +94,10 @@ void ProgramCheck::checkStep(const StepData& step, const std::string& place) {
 void ProgramCheck::checkCommand(const StepData& step, const std::string& place) {
   const DevicePtr device = document_.find(static_cast<std::int16_t>(step.target));
   if (device->definition->hasSignal(step.signal, host::directionInput, signalTypeOf(step))) return;
-  fail(place, std::string("the ") + kindOf(*device) + inQuotes(document_.shownName(device->id)) +
-                  " has no command " + inQuotes(step.signal));
+  fail(place,
+       std::string("the ") + kindOf(*device) + inQuotes(document_.shownName(device->id)) +
+           " has no command " + inQuotes(step.signal),
+       device->id);
 }
 
 void ProgramCheck::checkCondition(const StepData& step, const std::string& place) {
@@ -102,8 +106,10 @@ void ProgramCheck::checkCondition(const StepData& step, const std::string& place
   if (!device) return fail(place, "it tests a device that is not in the system");
   const std::string& signal = step.condition->get_SignalName();
   if (canBeTested(*device->definition, signal)) return;
-  fail(place, "it tests " + inQuotes(signal) + ", which the " + kindOf(*device) +
-                  inQuotes(document_.shownName(device->id)) + " does not have");
+  fail(place,
+       "it tests " + inQuotes(signal) + ", which the " + kindOf(*device) +
+           inQuotes(document_.shownName(device->id)) + " does not have",
+       device->id);
 }
 
 void ProgramCheck::checkEvent(const ProgrammedEvent& event) {
@@ -113,7 +119,7 @@ void ProgramCheck::checkEvent(const ProgrammedEvent& event) {
   SignalRow found;
   const DevicePtr device = document_.find(event.data->deviceId);
   if (!device->definition->findRow(row.output, row.input, row.type, found)) {
-    fail(place, std::string("the ") + kindOf(*device) + "has no such signal");
+    fail(place, std::string("the ") + kindOf(*device) + "has no such signal", device->id);
   }
   checkSteps(*event.preset, place + ", step ", "");
 }
@@ -124,14 +130,16 @@ void ProgramCheck::checkSource(const std::string& name, const SignalData& signal
   SignalRow found;
   const DevicePtr device = document_.find(signal.deviceId);
   if (!device->definition->findRow(signal.row.output, signal.row.input, signal.row.type, found)) {
-    fail(place, std::string("the ") + kindOf(*device) + "has no such signal");
+    fail(place, std::string("the ") + kindOf(*device) + "has no such signal", device->id);
   }
   const DevicePtr source = document_.find(signal.sourceDevice);
   if (!source) return fail(place, "the device that feeds it is not in the system");
   const std::string& fed = signal.sourceSignal;
   if (source->definition->hasSignal(fed, host::directionOutput, signal.row.type)) return;
-  fail(place, std::string("the ") + kindOf(*source) + inQuotes(document_.shownName(source->id)) +
-                  " has no signal " + inQuotes(fed));
+  fail(place,
+       std::string("the ") + kindOf(*source) + inQuotes(document_.shownName(source->id)) +
+           " has no signal " + inQuotes(fed),
+       source->id);
 }
 
 void ProgramCheck::checkSlots(const DeviceData& module) {
@@ -145,9 +153,10 @@ void ProgramCheck::checkSlots(const DeviceData& module) {
       fail(place, "its device is not in the system");
     } else if (!device->definition->hasSignal(slot->command, host::directionInput,
                                               host::signalDigital)) {
-      fail(place, std::string("the ") + kindOf(*device) +
-                      inQuotes(document_.shownName(device->id)) + " has no command " +
-                      inQuotes(slot->command));
+      fail(place,
+           std::string("the ") + kindOf(*device) + inQuotes(document_.shownName(device->id)) +
+               " has no command " + inQuotes(slot->command),
+           device->id);
     }
   }
 }
@@ -156,7 +165,9 @@ std::vector<std::string> programErrors(const DocumentData& document) {
   ProgramCheck check(document);
   while (check.next()) {
   }
-  return check.errors();
+  std::vector<std::string> texts;
+  for (const ProgramError& error : check.errors()) texts.push_back(error.text);
+  return texts;
 }
 
 }  // namespace trellisar

@@ -4,10 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "host/ProgramGuide.h"
 #include "trellisar/DocumentData.h"
 #include "trellisar/Listing.h"
 
 namespace trellisar {
+
+struct ProgramError {
+  std::string text;
+  host::ProgramPlace place;
+};
 
 /// Looks through the whole program of a system for what names something that is not there: the
 /// target, command or preset of a step, the signal that a condition tests, an event or source of a
@@ -29,7 +35,7 @@ class ProgramCheck {
 
   /// What was found so far, with its place, in the order of the program: `preset "System Power On",
   /// step 3.1: the device "Screen" has no command "Down".`
-  const std::vector<std::string>& errors() const { return errors_; }
+  const std::vector<ProgramError>& errors() const { return errors_; }
 
  private:
   void checkSteps(const PresetData& preset, const std::string& place, const std::string& number);
@@ -39,12 +45,14 @@ class ProgramCheck {
   void checkEvent(const ProgrammedEvent& event);
   void checkSource(const std::string& device, const SignalData& signal);
   void checkSlots(const DeviceData& module);
-  void fail(const std::string& place, const std::string& what);
+  /// `device`: the one that it is about; 0: none.
+  void fail(const std::string& place, const std::string& what, std::int16_t device = 0);
 
   const DocumentData& document_;
   std::vector<std::function<void()>> parts_;
   std::size_t done_ = 0;
-  std::vector<std::string> errors_;
+  std::string preset_;  // the one that is being checked; empty: none is
+  std::vector<ProgramError> errors_;
 };
 
 /// All errors of a program.

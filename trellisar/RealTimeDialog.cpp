@@ -1,5 +1,7 @@
 #include "trellisar/RealTimeDialog.h"
 
+#include "trellisar/HelpTopics.h"
+
 namespace trellisar {
 namespace {
 
@@ -28,9 +30,10 @@ std::string meaning(const AudioSetting& setting, const std::string& value) {
 }  // namespace
 
 RealTimeDialog::RealTimeDialog(const DeviceData& receiver)
-    : HostForm("RealTimeDialog", "Audio Settings") {
+    : HostForm("RealTimeDialog", "Audio Settings", help::audioSettings) {
   lblReceiver.setCaption("Audio of the receiver \"" + receiver.name + "\", " +
                          receiver.definition->model + ":");
+  lvwSettings.nameBy(lblReceiver);
   lvwSettings.setColumns({"Setting", "Value"});
   for (const AudioSetting& setting : audioSettings) {
     for (const auto& [name, value] : receiver.properties) {

@@ -32,28 +32,6 @@ std::vector<std::string> billRow(const DocumentData& document, const std::string
   return {part, quantity, device, known->maker, known->model, known->description};
 }
 
-const char* connectionName(Connection connection) {
-  switch (connection) {
-    case Connection::serial:
-      return "Serial";
-    case Connection::infrared:
-      return "Infrared";
-    case Connection::relay:
-      return "Relay";
-    case Connection::contact:
-      return "Contact";
-    case Connection::sensor:
-      return "Sensor";
-    case Connection::network:
-      return "Network";
-    case Connection::link:
-      return "Link";
-    case Connection::none:
-      break;
-  }
-  return "";
-}
-
 /// Groups the sheet as the receiver's back is: links, network, ports, relays, inputs.
 int groupOf(Connection connection) {
   constexpr Connection order[] = {Connection::link,     Connection::network, Connection::serial,

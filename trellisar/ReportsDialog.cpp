@@ -7,6 +7,7 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/HelpTopics.h"
 #include "trellisar/MainWindowOperations.h"
 
 namespace trellisar {
@@ -19,11 +20,12 @@ constexpr forms::Twips listHeight = 4500;
 
 ReportsDialog::ReportsDialog(std::vector<Report> reports, std::string folder,
                              ReportPrinter* printer)
-    : HostForm("ReportsDialog", "System Documentation"),
+    : HostForm("ReportsDialog", "System Documentation", help::documentation),
       reports_(std::move(reports)),
       folder_(std::move(folder)),
       printer_(printer) {
   for (const Report& report : reports_) cboReport.add(report.title);
+  lvwReport.nameBy(cboReport);
   cboReport.click.connect([this] { show(); });
   cmdSave.click.connect([this] { save(); });
   cmdPrint.click.connect([this] { print(); });
@@ -32,7 +34,7 @@ ReportsDialog::ReportsDialog(std::vector<Report> reports, std::string folder,
   cmdClose.setDefault(true);
   cmdClose.click.connect([this] { hide(); });
   layOutAbove({&cmdSave, &cmdPrint, &cmdClose}, dialogWidth,
-              {forms::columns({{forms::item(lblReport), forms::rest(cboReport)}}),
+              {forms::columns({{forms::names(lblReport, cboReport), forms::rest(cboReport)}}),
                forms::rest(lvwReport, listHeight)});
   cboReport.setSelected(0);
   show();

@@ -103,7 +103,7 @@ constexpr Refusal refusals[] = {
      R"(answers.json: power.control: "toggle" is none of "none", "sensing", "discrete")"
      "\n"},
     {"unknownDevice", R"({"name": "Hall", "display": {"device": "Bravonne"}})", 2,
-     R"(answers.json: display.device: "Bravonne" is none of "Bravonne P2200", )"},
+     R"(answers.json: display.device: "Bravonne" is none of "Bravonne P1400 Short", )"},
     {"unknownCommand", R"({"name": "Hall", "display": {"device": "Orvistel F42", "rgb": "RGB_1"}})",
      2, R"(answers.json: display.rgb: "RGB_1" is none of "", "PWR_ON", )"},
     {"noDisplay", R"({"name": "Hall", "display": {"relay": {}}})", 2,
@@ -129,7 +129,7 @@ constexpr Refusal refusals[] = {
      R"({"display": {"device": "Istrellan Bellova 27"}, "lockout": {"contact": "unused"}})", 2,
      "answers.json: lockout.contact: is not asked for in this room: "},
     {"screenThatIsALift", R"({"screen": {"device": "Hoistrel HL-30"}})", 2,
-     R"(answers.json: screen.device: "Hoistrel HL-30" is none of "Fallowmere Roll 180", )"},
+     R"(answers.json: screen.device: "Hoistrel HL-30" is none of "Drapewick Floor Riser 200", )"},
     {"unknownScreenCommand", R"({"screen": {"device": "Fallowmere Taut 280", "on": "Down"}})", 2,
      R"(answers.json: screen.on: "Down" is none of "", "Lower", "Raise")"
      "\n"},

@@ -4,6 +4,7 @@
 
 #include "host/Numbers.h"
 #include "trellisar/DeviceLibrary.h"
+#include "trellisar/HelpTopics.h"
 
 namespace {
 
@@ -12,12 +13,28 @@ namespace fs = std::filesystem;
 const fs::path data = fs::path(ORLENA_SOURCE_FOLDER) / "data";
 
 TEST(ShippedData, everyHelpTopicIsWritten) {
-  for (const int topic :
-       {host::helpStartTab, host::helpNameAndLocationTab, host::helpDisplayDeviceTab,
-        host::helpAudioControlTab, host::helpPowerControlTab, host::helpPowerOnOffLockout,
-        host::helpDisplayOptionsTab, host::helpOriginationPointTab, host::helpRoomOptions,
-        host::helpFinishTab, host::helpTouchpanelCreation, host::helpDisplayDeviceRequirements,
-        host::helpKestrumSetup, host::helpVideoTestPattern}) {
+  for (const std::int16_t topic :
+       std::initializer_list<std::int16_t>{host::helpStartTab,
+                                           host::helpNameAndLocationTab,
+                                           host::helpDisplayDeviceTab,
+                                           host::helpAudioControlTab,
+                                           host::helpPowerControlTab,
+                                           host::helpPowerOnOffLockout,
+                                           host::helpDisplayOptionsTab,
+                                           host::helpOriginationPointTab,
+                                           host::helpRoomOptions,
+                                           host::helpFinishTab,
+                                           host::helpTouchpanelCreation,
+                                           host::helpDisplayDeviceRequirements,
+                                           host::helpKestrumSetup,
+                                           host::helpVideoTestPattern,
+                                           trellisar::help::mainWindow,
+                                           trellisar::help::chooseDevice,
+                                           trellisar::help::deviceProperties,
+                                           trellisar::help::buildProgram,
+                                           trellisar::help::documentation,
+                                           trellisar::help::preferences,
+                                           trellisar::help::audioSettings}) {
     EXPECT_TRUE(fs::exists(data / "help" / (std::to_string(topic) + ".md"))) << topic;
   }
 }

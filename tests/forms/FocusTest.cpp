@@ -317,5 +317,24 @@ TEST_F(FocusTest, ControlThatGoesTakesItsFocusAlong) {
   });
 }
 
+TEST_F(FocusTest, AShortcutClicksItsButtonAndGivesTheFocusBack) {
+  Wizard wizard;
+  wizard.next.setShortcut(U'S');
+  onForm(wizard, [&](forms::Form&) {
+    wizard.page.delay.setFocus();
+    wizard.journal.clear();
+    user.press('S', 2);
+    EXPECT_EQ(wizard.journal.front(), "validate delay (none)");
+    EXPECT_NE(std::find(wizard.journal.begin(), wizard.journal.end(), "click next"),
+              wizard.journal.end());
+    EXPECT_TRUE(wizard.page.delay.hasFocus());
+    wizard.next.setEnabled(false);
+    wizard.journal.clear();
+    user.press('S', 2);
+    user.press('S', 3);
+    EXPECT_EQ(wizard.journal, Journal());
+  });
+}
+
 }  // namespace
 }  // namespace tests

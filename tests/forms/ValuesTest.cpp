@@ -251,5 +251,30 @@ TEST_F(ValuesTest, TabStripPages) {
   EXPECT_THROW(strip.setCurrentPage(16), forms::Error);
 }
 
+TEST_F(ValuesTest, AScreenReaderIsToldTheWordsThatAreSeen) {
+  struct Named : forms::Form {
+    Named() : Form("named") {}
+    forms::Label label{*this, "label", "&Lock  for"};
+    forms::Label unit{*this, "unit", "seconds"};
+    forms::TextBox box{*this, "box"};
+    Selector selector{*this, "selector"};
+    forms::CommandButton button{*this, "button", "&Open"};
+  } form;
+  form.box.nameBy(form.label);
+  form.box.nameBy(form.unit);
+  form.box.nameBy(form.label);
+  form.selector.nameBy(form.unit);
+  form.button.setToolTip("Open a system");
+  EXPECT_EQ(form.box.nameForReaders(), "Lock for seconds");
+  EXPECT_EQ(form.selector.list.nameForReaders(), "seconds") << "what fills a composed control";
+  EXPECT_EQ(form.button.nameForReaders(), "Open");
+  form.label.setVisible(false);
+  form.button.setCaption("");
+  EXPECT_EQ(form.box.nameForReaders(), "seconds");
+  EXPECT_EQ(form.button.nameForReaders(), "Open a system");
+  form.box.setAccessibleName("Lock time");
+  EXPECT_EQ(form.box.nameForReaders(), "Lock time");
+}
+
 }  // namespace
 }  // namespace tests

@@ -1,15 +1,24 @@
+#include <QtGui/QAccessible>
+#include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTreeWidget>
 
 #include "forms/CommandButton.h"
 #include "forms/Components.h"
 #include "forms/Frame.h"
+#include "forms/ImageList.h"
 #include "forms/Label.h"
+#include "forms/ListView.h"
+#include "forms/OptionButton.h"
 #include "forms/TextBox.h"
 #include "forms/UserControl.h"
+#include "qt/Pictures.h"
+#include "qt/WindowMemory.h"
 #include "tests/qt/Screen.h"
 #include "tests/support/Files.h"
 
@@ -148,7 +157,7 @@ TEST_F(WindowTest, ControlsComeGoAndMoveWhileTheFormIsShown) {
   show(form, [&] {
     auto& added = dynamic_cast<Selector&>(form.addControl("test.Selector", "added"));
     settle();
-    EXPECT_EQ(widget(added).parentWidget(), &window(form));
+    EXPECT_TRUE(window(form).isAncestorOf(&widget(added)));
     added.setContainer(form.frame);
     added.inner.setFocus();
     settle();
@@ -182,7 +191,7 @@ TEST_F(WindowTest, AClickMayEndWhatHadTheFocusAndWhatAFrameHeldStays) {
     click(form.button);
     EXPECT_FALSE(isSeen("short"));
     EXPECT_EQ(focus(form), "button");
-    EXPECT_EQ(widget(inner).parentWidget(), &window(form));
+    EXPECT_TRUE(window(form).isAncestorOf(&widget(inner)));
     click(inner);
     type("x");
     EXPECT_EQ(inner.text(), "x");
@@ -192,10 +201,32 @@ TEST_F(WindowTest, AClickMayEndWhatHadTheFocusAndWhatAFrameHeldStays) {
 TEST_F(WindowTest, ScreenReadersAreToldWhatIsWhat) {
   form.button.setCaption("");
   form.button.setToolTip("Open a system");
+  form.box.nameBy(form.label);
+  forms::OptionButton option(form.frame, "option", "&Always");
+  forms::Label link(form.frame, "link", "More");
+  option.setBounds({100, 300, 2000, 300});
+  link.setBounds({100, 700, 2000, 300});
+  link.setLink(true);
+  int clicks = 0;
+  link.click.connect([&] { ++clicks; });
   show(form, [&] {
+    const auto* spoken = QAccessible::queryAccessibleInterface(&widget(option));
+    EXPECT_EQ(spoken->role(), QAccessible::RadioButton);
+    EXPECT_FALSE(spoken->state().checked);
+    const_cast<QAccessibleInterface*>(spoken)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    settle();
+    EXPECT_TRUE(option.isChosen());
+    EXPECT_TRUE(spoken->state().checked);
+    auto* spokenLink = QAccessible::queryAccessibleInterface(&widget(link));
+    EXPECT_EQ(spokenLink->role(), QAccessible::Link);
+    spokenLink->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    settle();
+    EXPECT_EQ(clicks, 1);
     EXPECT_EQ(widget(form.box).accessibleName(), "System name:");
     EXPECT_EQ(widget(form.button).accessibleName(), "Open a system");
     EXPECT_EQ(widget(form.frame).accessibleName(), "Frame");
+    EXPECT_EQ(widget(option).accessibleName(), "Always");
     form.label.setCaption("Location:");
     form.button.setFocus();
     settle();
@@ -221,6 +252,111 @@ TEST_F(WindowTest, F1ShowsTheTopicOfWhatHasTheFocus) {
     EXPECT_EQ(std::count_if(windows.begin(), windows.end(), isHelp), 1);
     desktop().closeAllHelp();
   });
+}
+
+TEST_F(WindowTest, WindowsComeBackAsTheyWereLeftAndOnTheScreen) {
+  const TemporaryFolder folder;
+  desktop().keepWindowsIn(folder.path() / "windows.ini");
+  form.setSizeable(true);
+  form.setMinimumSize({4500, 3000});
+  forms::ListView list(form, "list");
+  list.setColumns({"One", "Two", "Three"});
+  list.addRow({"1", "2", "3"});
+  list.setBounds({0, 2700, 4000, 900});
+  int kept = 0;
+  show(form, [&] {
+    window(form).resize(400, 300);
+    window(form).move(70, 5000);
+    auto& tree = widgetAs<QTreeWidget>(list);
+    QWidget* header = tree.header()->viewport();
+    const QPoint edge(tree.columnWidth(0) - 1, header->height() / 2);
+    QTest::mousePress(header, Qt::LeftButton, {}, edge);
+    QTest::mouseMove(header, edge + QPoint(20, 0));
+    QTest::mouseMove(header, edge + QPoint(40, 0));
+    QTest::mouseRelease(header, Qt::LeftButton, {}, edge + QPoint(40, 0));
+    kept = tree.columnWidth(0);
+  });
+  Form again("Again");
+  again.setSizeable(true);
+  show(again, [&] {
+    const QRect screen = window(again).screen()->availableGeometry();
+    EXPECT_EQ(window(again).size(), QSize(400, 300));
+    EXPECT_EQ(window(again).x(), 70);
+    EXPECT_TRUE(screen.contains(window(again).geometry())) << "it was left below the screen";
+    EXPECT_EQ(again.box.text(), "");
+  });
+  desktop().keepWindowsIn({});
+}
+
+TEST(WindowMemory, KeepsColumnsAndFoldersThatAreThere) {
+  const TemporaryFolder folder;
+  qt::WindowMemory memory;
+  memory.keepColumns("list|a", {40, 70});
+  EXPECT_TRUE(memory.columns("list|a").isEmpty()) << "without a file";
+  memory.keepIn(folder.path() / "windows.ini");
+  memory.keepColumns("list|Größe, %", {40, 70});
+  EXPECT_EQ(memory.columns("list|Größe, %"), (QList<int>{40, 70}));
+  EXPECT_TRUE(memory.columns("list").isEmpty());
+  const auto rooms = folder.path() / "rooms";
+  std::filesystem::create_directory(rooms);
+  memory.keepFolder("Open", QString::fromStdString(rooms.string()));
+  EXPECT_EQ(memory.folder("Open").toStdString(), rooms.string());
+  std::filesystem::remove(rooms);
+  EXPECT_EQ(memory.folder("Open"), "");
+}
+
+TEST_F(WindowTest, AFormThatIsLargerThanTheScreenIsScrolledToTheFocus) {
+  form.setSize({30000, 30000});
+  form.button.setBounds({27000, 28000, 1500, 375});
+  show(form, [&] {
+    const QSize screen = window(form).screen()->availableGeometry().size();
+    EXPECT_LE(window(form).width(), screen.width());
+    EXPECT_LE(window(form).height(), screen.height());
+    form.button.setFocus();
+    settle();
+    EXPECT_FALSE(widget(form.button).visibleRegion().isEmpty());
+  });
+}
+
+TEST_F(WindowTest, AMaskedPictureIsSeenThroughAndADarkWindowLightsItsOutline) {
+  const TemporaryFolder folder;
+  const auto file = folder.path() / "picture.bmp";
+  QImage source(20, 20, QImage::Format_RGB32);
+  source.fill(QColor(255, 0, 255));
+  source.setPixelColor(10, 10, Qt::black);
+  source.save(QString::fromStdString(file.string()));
+  forms::ImageList list;
+  list.setMaskColor(0xFF00FF);
+  list.add(forms::Picture(file));
+  const auto colorAt = [&](int x, int y) {
+    return qt::fittedPixmap(list.item(1), {20, 20}, 1).toImage().pixelColor(x, y);
+  };
+  EXPECT_EQ(colorAt(2, 2).alpha(), 0);
+  EXPECT_EQ(colorAt(10, 10), QColor(Qt::black));
+  EXPECT_EQ(colorAt(11, 10).alpha(), 0);
+  const QPalette usual = QApplication::palette();
+  desktop().wear({.isDark = true});
+  EXPECT_EQ(colorAt(10, 10), QColor(Qt::black));
+  EXPECT_EQ(colorAt(11, 10).alpha(), 255);
+  EXPECT_GT(colorAt(11, 10).lightness(), 200);
+  QApplication::setPalette(usual);
+}
+
+TEST_F(WindowTest, ALargerFontOfTheSystemReachesFormsAndBoxes) {
+  const QFont usual = QApplication::font();
+  show(form, [&] { EXPECT_EQ(widget(form.box).width(), 100); });
+  desktop().wear({.fontPoints = 10});
+  show(form, [&] {
+    EXPECT_EQ(widget(form.box).width(), 111);
+    EXPECT_NEAR(widget(form.label).font().pointSizeF(), form.label.font().points * 10 / 9, 0.1);
+    whenBoxOpens([](QMessageBox& box) {
+      EXPECT_EQ(box.font().pointSizeF(), 10);
+      box.button(QMessageBox::Ok)->click();
+    });
+    application.messageBox("Text");
+  });
+  QApplication::setFont(usual);
+  desktop().wear({});
 }
 
 }  // namespace

@@ -115,6 +115,50 @@ TEST_F(WizardWindow, FinishGoesToTheLastStepFirstAndThenAsks) {
   });
 }
 
+TEST_F(WizardWindow, SavesByKeySaysSoAndStaysWhereItIs) {
+  run([&] {
+    goTo("Name and Location");
+    control("txtSystemName").setFocus();
+    user.press('S', 2);
+    EXPECT_EQ(inWindow("lblSaved").shownText().substr(0, 9), "Saved at ");
+    EXPECT_TRUE(control("txtSystemName").hasFocus());
+    EXPECT_TRUE(std::filesystem::exists(systemsFolder() / "My Orlena System"));
+    user.press('N', 2);
+    EXPECT_EQ(inWindow("lblSaved").shownText(), "");
+    EXPECT_EQ(currentStep(), "Start");
+    desktop.expectOpenDialog("Open System", "");
+    user.press('O', 2);
+  });
+}
+
+TEST_F(WizardWindow, AFaultInTheProgramIsMendedOnThePageOfItsDevice) {
+  run([&] {
+    goTo("Display Device");
+    chooseDisplay("Bravonne P2200");
+    goTo("Display Options");
+    user.click(control("chkInclude(0)"));
+    chooseDisplay("Drapewick Mixed 240", "cmdChoose(0)");
+    goTo("Orlena Transmitters");
+    click("cmdAdd");
+    goTo("Room Options");
+    click("chkInclude(1)");
+    goTo("Finish");
+    const auto page = [&](std::int16_t iDeviceID, const std::string& strPreset = {}) {
+      return addIn->PageOf({.iDeviceID = iDeviceID, .strPreset = strPreset});
+    };
+    EXPECT_EQ(page(addIn->get_DisplayDeviceID(), "RGB"), "Display Device");
+    EXPECT_EQ(page(addIn->get_DisplayDeviceID(), "System Power On"), "Power Control");
+    EXPECT_EQ(page(addIn->get_ScreenDeviceID(), "System Power On"), "Display Options");
+    EXPECT_EQ(page(addIn->get_OriginationPointID(1)), "Orlena Transmitters");
+    EXPECT_EQ(page(addIn->get_FenletID()), "Room Options");
+    EXPECT_EQ(page(0), "");
+    addIn->ShowPageOf({.iDeviceID = addIn->get_ScreenDeviceID(), .strPreset = {}});
+    EXPECT_EQ(currentStep(), "Finish") << "what is running ends first";
+    application.processEvents();
+    EXPECT_EQ(currentStep(), "Display Options");
+  });
+}
+
 TEST_F(WizardWindow, FolderThatIsRefusedKeepsStepAndSystem) {
   tests::writeFile(systemsFolder() / "Taken", "a file where the folder should be");
   run([&] {

@@ -60,6 +60,8 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
   void setHelpAnswer(std::int32_t answer) { helpAnswer_ = answer; }
   int helpClosings() const { return helpClosings_; }
 
+  const std::string& copiedText() const { return copiedText_; }
+
   /// Fails the test for all that was expected and has not come, and expects nothing any more.
   void verify();
 
@@ -74,6 +76,7 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
     return helpAnswer_;
   }
   void closeAllHelp() override { ++helpClosings_; }
+  void copyText(const std::string& text) override { copiedText_ = text; }
 
  private:
   struct ExpectedMessage {
@@ -100,6 +103,7 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
   forms::FileDialog lastFileDialog_;
   std::vector<std::int16_t> helpTopics_;
   std::int32_t helpAnswer_ = 1;
+  std::string copiedText_;
   int helpClosings_ = 0;
   std::int32_t lastHandle_ = 0;
 };

@@ -130,6 +130,38 @@ TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {
   EXPECT_FALSE(fs::exists(inRoom("Room.tsp")));
 }
 
+TEST_F(CompileTest, AnErrorNamesThePageThatMendsItAndLeadsThere) {
+  struct Guide : host::ProgramGuide {
+    std::string PageOf(const host::ProgramPlace& place) const override {
+      return place.iDeviceID == 0 ? "" : "Page of " + place.strPreset;
+    }
+    void ShowPageOf(const host::ProgramPlace& place) override { shown = place; }
+    host::ProgramPlace shown;
+  } guide;
+  window().setGuide(&guide);
+  press(*preset("System Lock"), display, "Dance");
+  press(*preset("System Lock"), display, "Dance");
+  for (const auto& one : data().presets) {
+    if (one->name == "System Lock") one->steps.back()->target = 999;
+  }
+  desktop.whenShown("CompileDialog", [&](forms::Form& form) {
+    auto& list = dynamic_cast<forms::ListBox&>(form.control("lstErrors"));
+    const std::string first =
+        "preset \"System Lock\", step 1: the device \"Display Device\" has no command \"Dance\". "
+        "It "
+        "is mended on the page \"Page of System Lock\".";
+    EXPECT_EQ(list.text(0), first);
+    user.click(form.control("cmdCopy"));
+    EXPECT_EQ(desktop.copiedText(), first + "\n" + list.text(1) + "\n");
+    user.select(list, 1);
+    EXPECT_FALSE(form.control("cmdGoTo").isVisible()) << "none of the pages mends it";
+    user.select(list, 0);
+    user.click(form.control("cmdGoTo"));
+  });
+  EXPECT_FALSE(build());
+  EXPECT_EQ(guide.shown, (host::ProgramPlace{.iDeviceID = display, .strPreset = "System Lock"}));
+}
+
 TEST_F(CompileTest, CancelAndAFailedWriteLeaveEverythingAsItWas) {
   ASSERT_TRUE(build());
   press(*preset("System Lock"), receiver, "Lock");

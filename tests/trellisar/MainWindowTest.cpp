@@ -1,10 +1,12 @@
 #include <cstdlib>
 
-#include "forms/ListBox.h"
+#include "forms/DropDownList.h"
 #include "forms/ListView.h"
 #include "forms/TextBox.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
+#include "trellisar/DeviceDialog.h"
+#include "trellisar/DeviceLibrary.h"
 #include "trellisar/FileIO.h"
 
 namespace tests {
@@ -186,7 +188,7 @@ TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
   arguments.strCategory6 = "Screen";
   std::int32_t place = 0;
   const auto choose = [&](forms::Form& form) {
-    user.select(dynamic_cast<forms::ListBox&>(form.control("lstDevices")), place);
+    user.select(dynamic_cast<forms::ListView&>(form.control("lvwDevices")), place);
     user.click(form.control("cmdOK"));
   };
   const auto cancel = [&](forms::Form&) { user.press(forms::keys::escape); };
@@ -208,21 +210,70 @@ TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
   EXPECT_EQ(host.document()->get_Devices()->Item(second)->get_Name(), "Screen");
 }
 
+TEST_F(MainWindowTest, DeviceDialogFindsWordsInAnyOrderAndSorts) {
+  using Rows = std::vector<std::string>;
+  const auto library = host.library();
+  trellisar::DeviceDialog dialog(
+      "Select", {library->findEntry(1101), library->findEntry(2202), library->findEntry(2001)},
+      library->findEntry(2001));
+  const auto shown = [&] {
+    Rows rows;
+    for (std::int32_t row = 0; row < dialog.lvwDevices.rowCount(); ++row) {
+      rows.push_back(dialog.lvwDevices.text(row, 0));
+    }
+    return rows;
+  };
+  desktop.whenShown("DeviceDialog", [&](forms::Form&) {
+    EXPECT_EQ(shown(), (Rows{"Bravonne P2200", "Drapewick Mixed 240", "Fallowmere Roll 180"}));
+    EXPECT_EQ(dialog.chosen(), library->findEntry(2001));
+    EXPECT_EQ(dialog.lvwDevices.shownText().substr(0, 56),
+              "Bravonne P2200 | Bravonne | Serial | On, Off, second Off");
+    user.clickHeading(dialog.lvwDevices, 2);
+    EXPECT_EQ(shown().back(), "Bravonne P2200") << "two relays come before";
+    EXPECT_EQ(dialog.lvwDevices.sortedColumn(), 2);
+    EXPECT_EQ(dialog.chosen(), library->findEntry(2001));
+    user.replaceText(dialog.txtFind, " 240  DRAPE ");
+    EXPECT_EQ(shown(), (Rows{"Drapewick Mixed 240"}));
+    EXPECT_EQ(dialog.chosen(), library->findEntry(2202)) << "Enter takes what was found";
+    user.replaceText(dialog.txtFind, "no such");
+    EXPECT_FALSE(dialog.cmdOK.isEnabled());
+    user.replaceText(dialog.txtFind, "");
+    EXPECT_EQ(dialog.chosen(), library->findEntry(2001));
+    user.press(forms::keys::escape);
+  });
+  EXPECT_FALSE(dialog.run());
+}
+
 TEST_F(MainWindowTest, DevicePropertiesChangeNothingBeforeOk) {
-  const auto valueAfter = [&](const std::string& value, const char* button) {
+  const auto timeoutAfter = [&](const std::string& value, const char* button) {
+    const std::int16_t id =
+        data().findByName(trellisar::DeviceData::Kind::device, "Motion Detector", "Receiver")->id;
     desktop.whenShown("DeviceProperties", [&, value](forms::Form& form) {
       user.replaceText(dynamic_cast<forms::TextBox&>(form.control("txtValue")), value);
       user.click(form.control(button));
       if (form.isVisible()) user.click(form.control("cmdCancel"));
     });
-    window().ShowControlledDeviceProperties(data().controlSystem, {host::progIDPageProperties});
-    const auto receiver = host.document()->get_ControlSystem();
-    return receiver->get_Properties()->Item("Volume Knob Control")->get_Value();
+    window().ShowControlledDeviceProperties(id, {host::progIDPageProperties});
+    return *data().find(id)->findProperty("Timeout");
   };
-  EXPECT_EQ(valueAfter("1d", "cmdCancel"), "0d");
-  EXPECT_EQ(valueAfter("1d", "cmdOK"), "1d");
-  expectRefusal("\"loud\" is no value for \"Volume Knob Control\". One of \"0d\", \"1d\".");
-  EXPECT_EQ(valueAfter("loud", "cmdOK"), "1d");
+  add("Motion Detector", host::entryMotionDetector);
+  EXPECT_EQ(timeoutAfter("60", "cmdCancel"), "300");
+  EXPECT_EQ(timeoutAfter("60", "cmdOK"), "60");
+  expectRefusal("\"soon\" is no value for \"Timeout\". A whole number from 0 to 32767.");
+  EXPECT_EQ(timeoutAfter("soon", "cmdOK"), "60");
+}
+
+TEST_F(MainWindowTest, APropertyWithAFewValuesIsChosenFromThem) {
+  const std::int16_t display = addDisplay();
+  desktop.whenShown("DeviceProperties", [&](forms::Form& form) {
+    auto& list = dynamic_cast<forms::DropDownList&>(form.control("cboValue"));
+    EXPECT_EQ(list.text(list.selected()), "9600");
+    EXPECT_FALSE(form.control("txtValue").isVisible());
+    user.select(list, list.find("38400"));
+    user.click(form.control("cmdOK"));
+  });
+  window().ShowControlledDeviceProperties(display, {host::progIDPageProperties});
+  EXPECT_EQ(*data().find(display)->findProperty("Baud Rate"), "38400");
 }
 
 TEST_F(MainWindowTest, PreferencesGiveTheDefaultFolderBelowTheEnvironment) {

@@ -74,7 +74,7 @@ void clickRow(QAbstractItemView& list, const QString& text) {
 
 void chooseDevice(QWidget& button, const QString& device) {
   Hand::whenOpen<QDialog>([device](QDialog& dialog) {
-    clickRow(dynamic_cast<QAbstractItemView&>(Hand::inside(dialog, "lstDevices")), device);
+    clickRow(dynamic_cast<QAbstractItemView&>(Hand::inside(dialog, "lvwDevices")), device);
     Hand::click(Hand::inside(dialog, "cmdOK"));
   });
   Hand::click(button);

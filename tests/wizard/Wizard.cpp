@@ -4,7 +4,7 @@
 
 #include "addin/modGlobals.h"
 #include "forms/DropDownList.h"
-#include "forms/ListBox.h"
+#include "forms/ListView.h"
 #include "forms/Paths.h"
 #include "forms/TabStrip.h"
 #include "forms/TextBox.h"
@@ -30,9 +30,9 @@ std::shared_ptr<addin::IAddIn> createAddIn() {
   return std::dynamic_pointer_cast<addin::IAddIn>(object);
 }
 
-std::int32_t placeOf(const forms::ListBox& list, const std::string& text) {
-  for (std::int32_t i = 0; i < list.count(); ++i) {
-    if (list.text(i) == text) return i;
+std::int32_t rowOf(const forms::ListView& list, const std::string& text) {
+  for (std::int32_t row = 0; row < list.rowCount(); ++row) {
+    if (list.text(row, 0) == text) return row;
   }
   throw std::runtime_error("The dialog does not offer " + text);
 }
@@ -101,8 +101,8 @@ void Wizard::enter(const std::string& textBox, const std::string& text) {
 
 void Wizard::chooseDisplay(const std::string& device, const std::string& button) {
   desktop.whenShown("DeviceDialog", [this, device](forms::Form& dialog) {
-    auto& list = dynamic_cast<forms::ListBox&>(dialog.control("lstDevices"));
-    user.select(list, placeOf(list, device));
+    auto& list = dynamic_cast<forms::ListView&>(dialog.control("lvwDevices"));
+    user.select(list, rowOf(list, device));
     user.click(dialog.control("cmdOK"));
   });
   click(button);

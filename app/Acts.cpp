@@ -18,6 +18,11 @@ std::string textOf(const Answer& answer) {
   return answer.value.is_string() ? answer.text() : answer.value.dump();
 }
 
+/// 0 minutes and no password turn off what stands behind a check box; the password "0" does not.
+bool isWanted(const Answer& answer) {
+  return answer.value.is_string() ? !answer.text().empty() : answer.value != 0;
+}
+
 bool isTicked(const Answer& answer) { return answer.value.is_object() || answer.value.get<bool>(); }
 
 void setTicked(const Page& page, const std::string& checkBox, const Answer& answer, bool ticked) {
@@ -84,16 +89,13 @@ Act include(std::string answer, std::string checkBox, std::string deviceName) {
 }
 
 Act enterBehind(std::string answer, std::string checkBox, std::string textBox) {
-  const auto isWanted = [](const Answer& given) {
-    return textOf(given) != "" && textOf(given) != "0";
-  };
   return {std::move(answer),
-          [=](const Page& page, const Answer& given) {
+          [checkBox, textBox](const Page& page, const Answer& given) {
             setTicked(page, checkBox, given, isWanted(given));
             if (!isWanted(given)) return;
             page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
           },
-          [=](const Page& page, const Answer& given) {
+          [checkBox, textBox](const Page& page, const Answer& given) {
             if (page.control<forms::CheckBox>(checkBox).isChecked() != isWanted(given)) {
               return false;
             }

@@ -1,5 +1,7 @@
 #include "app/AnswersShape.h"
 
+#include <algorithm>
+
 #include "forms/Text.h"
 
 namespace app {
@@ -21,11 +23,15 @@ Shape transmitterLabel() {
   return text(1, 8, isTrimmed, " without blanks at its ends");
 }
 
+bool isControl(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }
+
+/// A receiver takes no password with a control character, and says so only after the transfer.
 Shape password() {
-  const auto isNotBlank = [](const std::string& password) {
-    return password.empty() || !forms::trimmed(password).empty();
+  const auto canBeSet = [](const std::string& password) {
+    const bool hasControls = std::any_of(password.begin(), password.end(), isControl);
+    return password.empty() || (!forms::trimmed(password).empty() && !hasControls);
   };
-  return text(0, 20, isNotBlank, ", not of blanks alone");
+  return text(0, 20, canBeSet, ", not of blanks alone and without control characters");
 }
 
 Shape makeShape() {

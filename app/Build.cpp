@@ -81,8 +81,11 @@ bool canStandTogether(const std::vector<Room>& rooms) {
 
 /// False when the export or the upload can't be done, which is then told.
 bool canBeDelivered(const BuildOptions& options) {
-  if (options.delivery.archive && options.answersFiles.size() > 1) {
-    reportLine("--export takes one room, and there are several answers files");
+  const bool several = options.answersFiles.size() > 1;
+  for (const auto& [option, isGiven] : {std::pair{"--export", options.delivery.archive.has_value()},
+                                        {"--upload", options.delivery.address.has_value()}}) {
+    if (!several || !isGiven) continue;
+    reportLine(std::string(option) + " takes one room, and there are several answers files");
     return false;
   }
   if (!options.delivery.address) return true;

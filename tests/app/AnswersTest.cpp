@@ -75,7 +75,11 @@ TEST(AnswersForm, namesThePlaceAndWhatIsAllowedThere) {
       {R"({"transmitters": [{"type": "A", "label": "Lectern "}]})",
        "transmitters[0].label: must be a text of 1 to 8 characters without blanks at its ends"},
       {R"({"room": {"fenlet_password": "  "}})",
-       "room.fenlet_password: must be a text of at most 20 characters, not of blanks alone"},
+       "room.fenlet_password: must be a text of at most 20 characters, not of blanks alone and "
+       "without control characters"},
+      {R"({"room": {"fenlet_password": "a\tb"}})",
+       "room.fenlet_password: must be a text of at most 20 characters, not of blanks alone and "
+       "without control characters"},
       {R"({"room": {"power_off_after": 547}})",
        "room.power_off_after: must be a whole number from 0 to 546"},
       {R"({"room": {"Kestrum": true}})",

@@ -78,6 +78,8 @@ TEST_F(OrlenaRoom, takesThePasswordWithoutTheBlanksAtItsEnds) {
       password(R"("fenlet": true, "fenlet_password": "  two  words ")").find(row("two  words")),
       std::string::npos);
   EXPECT_NE(password(R"("fenlet": true, "fenlet_password": "")").find(row("")), std::string::npos);
+  EXPECT_NE(password(R"("fenlet": true, "fenlet_password": "0")").find(row("0")),
+            std::string::npos);
   EXPECT_NE(password(R"("fenlet": true)").find(row("mossgate")), std::string::npos);
   EXPECT_NE(password(R"("fenlet": false)").find(row("")), std::string::npos);
 }

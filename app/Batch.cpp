@@ -1,8 +1,9 @@
 #include "app/Batch.h"
 
 #include <algorithm>
-#include <iostream>
 #include <thread>
+
+#include "app/StandardStreams.h"
 
 namespace app {
 
@@ -41,9 +42,7 @@ void Batch::ended(std::size_t job, RoomResult result) {
   results_[job] = std::move(result);
   hasEnded_[job] = true;
   for (; printed_ < results_.size() && hasEnded_[printed_]; ++printed_) {
-    if (!results_[printed_].systemFile.empty()) {
-      std::cout << results_[printed_].systemFile << std::endl;
-    }
+    if (!results_[printed_].systemFile.empty()) print(results_[printed_].systemFile + "\n");
   }
 }
 

@@ -1,12 +1,15 @@
 #include "app/CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <sstream>
 
 #include "app/Build.h"
 #include "app/ExitStatus.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
+#include "app/RunReport.h"
 #include "app/Show.h"
+#include "app/StandardStreams.h"
 #include "app/Window.h"
 
 namespace app {
@@ -24,7 +27,9 @@ Command buildCommand(CLI::App& program) {
   auto options = std::make_shared<BuildOptions>();
   CLI::App* command = program.add_subcommand(
       "build", "Answers the wizard from files, unattended, and saves the systems");
-  command->add_option("ANSWERS.json", options->answersFiles, "A room's answers")->required();
+  command
+      ->add_option("ANSWERS.json", options->answersFiles, "A room's answers; - is standard input")
+      ->required();
   command->add_option("--out", options->out, "Parent folder of the systems, over the answers' own");
   command->add_option("--library", options->library,
                       "Device library in the place of the shipped one");
@@ -82,6 +87,16 @@ Command screenshotsCommand(CLI::App& program) {
   return {command, [options] { return takeScreenshots(*options); }};
 }
 
+/// Help and version are no errors, but come like one.
+int answer(const CLI::App& program, const CLI::ParseError& error) {
+  std::ostringstream output;
+  std::ostringstream errors;
+  const bool isError = program.exit(error, output, errors) != 0;
+  print(output.str());
+  reportLine(errors.str());
+  return isError ? exitStatus::wrongInput : exitStatus::ok;
+}
+
 }  // namespace
 
 int run(int argc, char** argv) {
@@ -90,10 +105,11 @@ int run(int argc, char** argv) {
   const Command commands[] = {buildCommand(program),    showCommand(program),
                               receiverCommand(program), reportCommand(program),
                               wizardCommand(program),   screenshotsCommand(program)};
+  program.set_version_flag("--version", "orlena " ORLENA_VERSION);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return program.exit(error) == 0 ? exitStatus::ok : exitStatus::wrongInput;
+    return answer(program, error);
   }
   for (const Command& command : commands) {
     if (command.parsed->parsed()) return command.run();

@@ -41,7 +41,7 @@ std::string runWizard(const Answers& answers, const RoomOptions& options, const 
 RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const RunReport& report,
                      MadeFolders& made) {
   try {
-    if (Interrupt::requested()) throw RunEnded(exitStatus::refused, "interrupted");
+    Interrupt::endRunIfRequested();
     return {exitStatus::ok, runWizard(answers, options, report, made)};
   } catch (const RunEnded& ended) {
     report.line(ended.what());

@@ -118,7 +118,7 @@ void WizardRun::finish(forms::Form& wizard) const {
 
 void WizardRun::goOn() const {
   hands_.desktop.throwIfEnded();
-  if (Interrupt::requested()) refuse("interrupted");
+  Interrupt::endRunIfRequested();
 }
 
 }  // namespace app

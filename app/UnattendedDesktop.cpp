@@ -1,5 +1,7 @@
 #include "app/UnattendedDesktop.h"
 
+#include <utility>
+
 #include "app/ExitStatus.h"
 #include "app/Interrupt.h"
 #include "forms/Application.h"
@@ -53,7 +55,9 @@ void UnattendedDesktop::answer(forms::Form& form) {
 }
 
 forms::Answer UnattendedDesktop::showMessage(const forms::MessageBox& message) {
-  report_.message(message);
+  const bool asksToExit =
+      std::exchange(expectsExitQuestion_, false) && message.buttons == forms::Buttons::yesNo;
+  if (!asksToExit) report_.message(message);
   if (message.icon == forms::Icon::critical) sawCritical_ = true;
   return forms::defaultAnswer(message.buttons);
 }

@@ -30,6 +30,9 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   /// The folder that the folder dialogs answer from now on; empty: they are cancelled.
   void answerFolders(const std::string& folder) { folder_ = folder; }
 
+  /// The run is about to leave the wizard: the question whether to, which comes next, is not told.
+  void expectExitQuestion() { expectsExitQuestion_ = true; }
+
   /// Ends the run, unless it has ended for an earlier reason.
   void end(const RunEnded& reason);
   bool hasEnded() const { return ended_.has_value(); }
@@ -56,6 +59,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   std::string folder_;
   std::optional<RunEnded> ended_;
   bool sawCritical_ = false;
+  bool expectsExitQuestion_ = false;
   bool isCancelling_ = false;
 };
 

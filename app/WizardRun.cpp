@@ -111,6 +111,7 @@ void WizardRun::save(forms::Form& wizard) {
 }
 
 void WizardRun::finish(forms::Form& wizard) const {
+  hands_.desktop.expectExitQuestion();
   hands_.user.click(wizard.control("cmdFinish"));
   hands_.desktop.throwIfEnded();
   if (wizard.isVisible()) refuse("the system was saved, but the wizard can't be left");

@@ -31,7 +31,8 @@ class OrlenaBuild : public testing::Test {
 
 TEST_F(OrlenaBuild, savesTheRoomAndPrintsOnlyItsPath) {
   const Outcome outcome = build(meetingRoom);
-  EXPECT_EQ(outcome.status, 0) << outcome.errors;
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.errors, "");
   EXPECT_EQ(outcome.output, (folder_ / "systems/Meeting Room/Meeting Room.tsy").string() + "\n");
   EXPECT_EQ(folder_.listing(), (Listing{"answers.json", "systems/", "systems/Meeting Room/",
                                         "systems/Meeting Room/Meeting Room.tsy"}));

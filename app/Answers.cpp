@@ -5,6 +5,7 @@
 #include "app/AnswersShape.h"
 #include "app/ExitStatus.h"
 #include "app/RunEnded.h"
+#include "app/StandardStreams.h"
 #include "host/Error.h"
 #include "trellisar/FileIO.h"
 
@@ -15,13 +16,18 @@ using trellisar::Json;
 
 constexpr trellisar::JsonLimits limits{.bytes = 1U << 20U, .depth = 10, .keysOfObject = 100};
 
+/// One byte more than is allowed is enough to see that there is too much.
+std::string contentOf(const std::filesystem::path& file) {
+  return file == standardInput ? readInput(limits.bytes + 1) : trellisar::readFile(file);
+}
+
 }  // namespace
 
 Answers::Answers(Json json) : json_(std::move(json)) { check(json_, answersShape()); }
 
 Answers Answers::fromFile(const std::filesystem::path& file) {
   try {
-    return Answers(trellisar::parseJson(trellisar::readFile(file), file.string(), limits));
+    return Answers(trellisar::parseJson(contentOf(file), file.string(), limits));
   } catch (const host::Error& error) {
     throw RunEnded(exitStatus::wrongInput, error.description());
   }

@@ -8,6 +8,9 @@
 
 namespace app {
 
+/// The file name that stands for standard input.
+inline constexpr const char* standardInput = "-";
+
 /// What an answers file says about a room, in the form that it must have.
 class Answers {
  public:
@@ -15,8 +18,8 @@ class Answers {
   /// there.
   explicit Answers(trellisar::Json json);
 
-  /// Reads and checks a file. Raises RunEnded as above, or when the file can't be read or is no
-  /// JSON.
+  /// Reads and checks a file, or standard input. Raises RunEnded as above, or when the file can't
+  /// be read or is no JSON.
   static Answers fromFile(const std::filesystem::path& file);
 
   /// The value at a path such as "display.relay.on_delay"; null when it was left out.

@@ -182,6 +182,20 @@ TEST_F(OrlenaBuild, isRefusedByAWrongCommandLine) {
   EXPECT_EQ(folder_.listing(), Listing{"answers.json"});
 }
 
+TEST_F(OrlenaBuild, readsOneAnswersFileFromStandardInput) {
+  folder_.write("hall.json", R"({"name": "Hall"})");
+  const auto build = [&](const std::string& files, const std::string& input) {
+    return program_.shell("orlena build --replace " + files + " " + input);
+  };
+  EXPECT_EQ(build("-", "< hall.json").output, (folder_ / "systems/Hall/Hall.tsy").string() + "\n");
+  EXPECT_EQ(build("hall.json -", "< /dev/null").errors.substr(0, 2), "-:");
+  EXPECT_EQ(build("-", "<&-").errors, "-: it can't be read: Bad file descriptor.\n");
+  EXPECT_EQ(build("-", "< /dev/zero").status, 2) << "the end is never reached";
+  const Outcome twice = build("- hall.json -", "< hall.json");
+  EXPECT_EQ(twice.status, 2);
+  EXPECT_EQ(twice.output, "");
+}
+
 TEST_F(OrlenaBuild, buildsTheOtherRoomsOfABatchAndPrintsThemInTheirOrder) {
   Listing arguments{"build", "--out", "out", "--jobs", "2"};
   std::string paths;

@@ -11,11 +11,11 @@ Shape delaySeconds() { return integer(0, 999); }
 Shape pulseSeconds() { return integer(0, 655); }
 
 Shape auxiliaryDevice() {
-  return object({{"device", text(), Key::required},
-                 {"on", text()},
-                 {"off", text()},
-                 {"on_pulse", pulseSeconds()},
-                 {"off_pulse", pulseSeconds()}});
+  return orNull(object({{"device", text(), Key::required},
+                        {"on", text()},
+                        {"off", text()},
+                        {"on_pulse", pulseSeconds()},
+                        {"off_pulse", pulseSeconds()}}));
 }
 
 Shape transmitterLabel() {
@@ -36,13 +36,14 @@ Shape password() {
 
 Shape makeShape() {
   return object({
+      {"$schema", anything()},
       {"name", text(1, 50)},
       {"folder", text()},
-      {"display",
-       object({{"device", text()},
-               {"rgb", text()},
-               {"composite", text()},
-               {"relay", object({{"on_delay", delaySeconds()}, {"off_delay", delaySeconds()}})}})},
+      {"display", object({{"device", text()},
+                          {"rgb", text()},
+                          {"composite", text()},
+                          {"relay", orNull(object({{"on_delay", delaySeconds()},
+                                                   {"off_delay", delaySeconds()}}))}})},
       {"audio", object({{"volume_knob", word({"program", "master"})},
                         {"microphone", word({"when on", "always"})},
                         {"mute_on_input_3", boolean()}})},
@@ -50,7 +51,7 @@ Shape makeShape() {
        object({{"control", word({"none", "sensing", "discrete"})},
                {"on", text()},
                {"off", text()},
-               {"second_off", object({{"command", text(1)}, {"delay", delaySeconds()}})}})},
+               {"second_off", orNull(object({{"command", text(1)}, {"delay", delaySeconds()}}))}})},
       {"lockout", object({{"on", delaySeconds()},
                           {"off", delaySeconds()},
                           {"contact", word({"unused", "power off", "continue"})}})},

@@ -39,7 +39,7 @@ std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
     if (options.out) answers.setFolder(*options.out);
     return answers;
   } catch (const RunEnded& ended) {
-    report.line(ended.what());
+    for (const Fault& fault : ended.faults()) report.fault(fault);
     return std::nullopt;
   }
 }

@@ -44,7 +44,7 @@ RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const R
     Interrupt::endRunIfRequested();
     return {exitStatus::ok, runWizard(answers, options, report, made)};
   } catch (const RunEnded& ended) {
-    report.line(ended.what());
+    for (const Fault& fault : ended.faults()) report.fault(answers.placed(fault));
     return {ended.status(), {}};
   } catch (const std::exception& error) {
     report.line(error.what());

@@ -35,8 +35,8 @@ const StepActs& actsOf(const Page& page) {
 [[noreturn]] void refuse(const std::string& what) { throw RunEnded(exitStatus::refused, what); }
 
 [[noreturn]] void refuseNotTaken(const Page& page, const Answer& answer) {
-  refuse(answer.path + ": the step " + quoted(page.name()) + " did not take " +
-         answer.value.dump());
+  const std::string what = "the step " + quoted(page.name()) + " did not take ";
+  throw RunEnded(exitStatus::refused, {Fault{what + answer.value.dump(), answer.path}});
 }
 
 }  // namespace

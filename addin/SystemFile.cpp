@@ -35,7 +35,8 @@ bool IAddIn::StartSystem() {
 }
 
 std::string IAddIn::GetTemplatePath() const {
-  return std::string("TemplateSystems\\") + strTemplateName + "\\" + strTemplateName + ".tsy";
+  const std::string strName = strTemplateName;
+  return "TemplateSystems\\" + strName + "\\" + strName + ".tsy";
 }
 
 bool IAddIn::NewSystem() {
@@ -65,7 +66,7 @@ void IAddIn::ChooseNewSystemName() {
   const std::string strFolder = GetDefaultSystemsFolder();
   std::string strName = strNewSystemName;
   for (std::int32_t i = 2; common::FolderExists(strFolder + strName); ++i) {
-    strName = strNewSystemName + (" " + std::to_string(i));
+    strName = std::string(strNewSystemName) + " " + std::to_string(i);
   }
   gDocument().put_Path(strFolder + strName);
   gDocument().put_Name(strName);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/CommandLine.h"
+#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
@@ -13,7 +14,7 @@ int runOrTell(int argc, char** argv) {
   try {
     return app::run(argc, argv);
   } catch (const std::exception& error) {
-    app::reportLine(error.what());
+    app::reportLine(app::wordsOf(error));
     return app::exitStatus::refused;
   }
 }

@@ -2,6 +2,7 @@
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
+#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
 #include "app/Interrupt.h"
 #include "app/SystemPlace.h"
@@ -47,7 +48,7 @@ RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const R
     for (const Fault& fault : ended.faults()) report.fault(answers.placed(fault));
     return {ended.status(), {}};
   } catch (const std::exception& error) {
-    report.line(error.what());
+    report.line(wordsOf(error));
     return {exitStatus::refused, {}};
   }
 }

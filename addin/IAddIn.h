@@ -237,7 +237,8 @@ class IAddIn : public host::IAddInContract, public std::enable_shared_from_this<
   void AddToBillOfMaterials(std::int16_t intIndex, const std::string& strName,
                             const host::Device& oDevice);
   void ChooseNewSystemName();
-  void ShowWarnings(const ErrorItems& colErrorItems) const;
+  /// In a message box, or else in the record of a run that keeps one.
+  void TellWarnings(const ErrorItems& colErrorItems, bool bShow) const;
 
   /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is
   /// what it was.

@@ -131,15 +131,19 @@ bool IAddIn::BuildProgram(bool bShowWarnings, std::string& sError) {
   const auto clsGenerate = forms::createObject<ProgramBuilder>(progIDProgramBuilder);
   const bool bBuilt = clsGenerate->Build();
   sError = bBuilt ? std::string() : clsGenerate->GetLastError();
-  if (bShowWarnings) ShowWarnings(clsGenerate->GetErrorItems());
+  TellWarnings(clsGenerate->GetErrorItems(), bShowWarnings);
   return bBuilt;
 }
 
-void IAddIn::ShowWarnings(const ErrorItems& colErrorItems) const {
+void IAddIn::TellWarnings(const ErrorItems& colErrorItems, bool bShow) const {
   if (colErrorItems.empty()) return;
   std::string strText;
   for (const auto& oItem : colErrorItems) strText += oItem->get_Message() + "\r\n";
-  Show(strText, Icon::information, {});
+  if (bShow) {
+    Show(strText, Icon::information, {});
+  } else {
+    forms::Application::current().desktop().note(strText);
+  }
 }
 
 bool IAddIn::QueryCloseSystem(Answer& iResponse) {

@@ -47,6 +47,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   /// An interrupt cancels what is under way.
   void processEvents() override;
   forms::Answer showMessage(const forms::MessageBox& message) override;
+  void note(const std::string& text) override;
   std::string chooseFolder(const forms::FolderDialog&) override { return folder_; }
   std::string chooseFileToSave(const forms::FileDialog&) override { return {}; }
   std::string chooseFileToOpen(const forms::FileDialog&) override { return {}; }
@@ -57,6 +58,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   const RunReport& report_;
   std::map<std::string, AnswersForm> answers_;
   std::string folder_;
+  std::string noted_;
   std::optional<RunEnded> ended_;
   bool sawCritical_ = false;
   bool expectsExitQuestion_ = false;

@@ -51,6 +51,17 @@ TEST_F(OrlenaBuild, withoutANameTakesTheFreshOneOfTheWizard) {
             (folder_ / "systems/My Orlena System 2/My Orlena System 2.tsy").string() + "\n");
 }
 
+TEST_F(OrlenaBuild, tellsTheWarningsOfTheProgramOnce) {
+  const std::string room = R"({"name": "Hall", "display": {"device": "Orvistel F42"},
+    "transmitters": [{"type": "Wall Plate Transmitter"}], "room": {"kestrum": true}})";
+  const std::string warning =
+      "answers.json: Orlena: Display device does not have a Lamp_Hours, LampHours, or "
+      "Lamp_Hours_Analog output.\n"
+      "answers.json: Therefore, this feature will not be available from Kestrum.\n";
+  EXPECT_EQ(build(room).errors, warning);
+  EXPECT_EQ(build(room, {"--replace", "--export", "hall.tsa"}).errors, warning);
+}
+
 TEST_F(OrlenaBuild, givesTheSameBytesEachTime) {
   ASSERT_EQ(build(meetingRoom).status, 0);
   const auto file = folder_ / "systems/Meeting Room/Meeting Room.tsy";
@@ -155,6 +166,9 @@ constexpr Refusal refusals[] = {
      "\n"},
     {"timeoutWithoutSensor", R"({"room": {"kestrum": true, "power_off_after": 0}})", 2,
      "answers.json:1: room.power_off_after: is not asked for in this room: "},
+    {"nameOfBlanks", R"({"name": "  "})", 1,
+     R"(answers.json:1: name: the step "Name and Location" did not take "  ")"
+     "\n"},
     {"nameWithDigit", R"({"name": "4th Floor"})", 1,
      "answers.json: Orlena: Names cannot begin with digits 0-9.\n"
      R"(answers.json:1: name: the step "Name and Location" did not take "4th Floor")"

@@ -100,10 +100,9 @@ std::string bashCompletion(const Commands& commands) {
     cases += bashCommand(*command.parsed);
   }
   return "_orlena() {\n"
-         "  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} offered "
-         "IFS=$'\\n'\n"
+         "  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} offered\n"
          "  if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
-         "    IFS=' ' COMPREPLY=($(compgen -W '" +
+         "    COMPREPLY=($(compgen -W '" +
          names +
          "--help --version' -- \"$word\"))\n"
          "    return\n"
@@ -111,6 +110,7 @@ std::string bashCompletion(const Commands& commands) {
          "  case \"${COMP_WORDS[1]} $before\" in\n" +
          cases +
          "  esac\n"
+         "  local IFS=$'\\n'\n"
          "  COMPREPLY=($offered)\n"
          "}\n"
          "complete -o filenames -F _orlena orlena\n";

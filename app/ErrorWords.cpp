@@ -23,7 +23,8 @@ std::string wordsOf(const std::exception& error) {
     return "There is not enough memory. Close other programs, or build fewer rooms at a time.";
   }
   if (const auto* file = as<std::filesystem::filesystem_error>(error)) {
-    return "\"" + file->path1().string() + "\": " + trellisar::systemReason(file->code().value());
+    const std::string path = file->path1().string();
+    return "\"" + path + "\": " + trellisar::systemReason(file->code().value());
   }
   if (const auto* system = as<std::system_error>(error)) {
     return "The system does not allow it: " + system->code().message() + ".";

@@ -85,7 +85,7 @@ TEST_F(PlatformTest, closingHelpGoesToTheProgramsFolder) {
 
   std::filesystem::remove_all(folder.path());
   desktop.expectMessage(
-      "Orlena", "Failed to initialize help system.\r\nPath not found: " + application.folder());
+      "Orlena", "Failed to initialize help system.\r\nPath not found: " + folder.path().string());
   EXPECT_FALSE(common::CloseAllHelp());
   EXPECT_EQ(desktop.helpClosings(), 1);
 }

@@ -248,7 +248,8 @@ class IAddIn : public host::IAddInContract,
                             const host::Device& oDevice);
   void ChooseNewSystemName();
   void RemoveTriedFolders();
-  void ShowWarnings(const ErrorItems& colErrorItems) const;
+  /// In a message box, or else in the record of a run that keeps one.
+  void TellWarnings(const ErrorItems& colErrorItems, bool bShow) const;
 
   /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is
   /// what it was.

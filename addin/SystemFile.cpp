@@ -54,7 +54,8 @@ bool IAddIn::StartSystem() {
 }
 
 std::string IAddIn::GetTemplatePath() const {
-  return std::string("TemplateSystems\\") + strTemplateName + "\\" + strTemplateName + ".tsy";
+  const std::string strName = strTemplateName;
+  return "TemplateSystems\\" + strName + "\\" + strName + ".tsy";
 }
 
 bool IAddIn::NewSystem() {
@@ -84,7 +85,7 @@ void IAddIn::ChooseNewSystemName() {
   const std::string strFolder = GetDefaultSystemsFolder();
   std::string strName = strNewSystemName;
   for (std::int32_t i = 2; common::FolderExists(strFolder + strName); ++i) {
-    strName = strNewSystemName + (" " + std::to_string(i));
+    strName = std::string(strNewSystemName) + " " + std::to_string(i);
   }
   gDocument().put_Path(strFolder + strName);
   gDocument().put_Name(strName);
@@ -162,15 +163,19 @@ bool IAddIn::BuildProgram(bool bShowWarnings, std::string& sError) {
   const auto clsGenerate = forms::createObject<ProgramBuilder>(progIDProgramBuilder);
   const bool bBuilt = clsGenerate->Build();
   sError = bBuilt ? std::string() : FailureText(*clsGenerate);
-  if (bShowWarnings) ShowWarnings(*clsGenerate->GetErrorItems());
+  TellWarnings(*clsGenerate->GetErrorItems(), bShowWarnings);
   return bBuilt;
 }
 
-void IAddIn::ShowWarnings(const ErrorItems& colErrorItems) const {
+void IAddIn::TellWarnings(const ErrorItems& colErrorItems, bool bShow) const {
   if (colErrorItems.empty()) return;
   std::string strText;
   for (const auto& oItem : colErrorItems) strText += oItem->get_Message() + "\r\n";
-  Show(strText, Icon::information, {});
+  if (bShow) {
+    Show(strText, Icon::information, {});
+  } else {
+    forms::Application::current().desktop().note(strText);
+  }
 }
 
 bool IAddIn::QueryCloseSystem(Answer& iResponse) {

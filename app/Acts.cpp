@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/DeviceChoice.h"
+#include "app/Nearest.h"
 #include "app/Shape.h"
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
@@ -16,6 +17,11 @@ namespace {
 
 std::string textOf(const Answer& answer) {
   return answer.value.is_string() ? answer.text() : answer.value.dump();
+}
+
+/// 0 minutes and no password turn off what stands behind a check box; the password "0" does not.
+bool isWanted(const Answer& answer) {
+  return answer.value.is_string() ? !answer.text().empty() : answer.value != 0;
 }
 
 bool isTicked(const Answer& answer) { return answer.value.is_object() || answer.value.get<bool>(); }
@@ -33,23 +39,40 @@ bool isInSystem(const Page& page, const std::string& name) {
          document.get_Touchpanels()->FindByName(name, receiver);
 }
 
-/// The commands that the selector offers, without the entry for "nothing assigned".
+/// The commands that the selector offers; "" is nothing assigned.
 std::vector<std::string> offeredBy(const forms::DropDownList& list) {
-  std::vector<std::string> texts;
+  std::vector<std::string> texts{""};
   for (std::int32_t place = 1; place < list.count(); ++place) texts.push_back(list.text(place));
   return texts;
 }
 
 std::int32_t placeOfCommand(const Page& page, const forms::DropDownList& list,
                             const Answer& answer) {
-  if (answer.text().empty()) return 0;
   const std::vector<std::string> offered = offeredBy(list);
   const auto found = std::find(offered.begin(), offered.end(), answer.text());
   if (found == offered.end()) {
-    page.refuse(answer, quoted(answer.text()) + " is none of \"\"" +
-                            (offered.empty() ? "" : ", " + quoted(offered)));
+    page.refuse(answer, quoted(answer.text()) + " is none of " + among(answer.text(), offered));
   }
-  return static_cast<std::int32_t>(found - offered.begin()) + 1;
+  return static_cast<std::int32_t>(found - offered.begin());
+}
+
+const std::string& buttonFor(const std::vector<OptionWord>& buttons, const Answer& answer) {
+  const auto isMeant = [&](const OptionWord& entry) { return entry.first == answer.text(); };
+  return std::find_if(buttons.begin(), buttons.end(), isMeant)->second;
+}
+
+/// The button for the answer's word. One that can't be chosen is refused with those that can.
+forms::OptionButton& offeredButton(const Page& page, const std::vector<OptionWord>& buttons,
+                                   const Answer& answer) {
+  std::vector<std::string> offered;
+  for (const auto& [word, button] : buttons) {
+    if (page.control<forms::OptionButton>(button).isUsable()) offered.push_back(word);
+  }
+  const std::string word = answer.text();
+  if (!offered.empty() && std::find(offered.begin(), offered.end(), word) == offered.end()) {
+    page.refuse(answer, quoted(word) + " is not offered in this room; this is: " + quoted(offered));
+  }
+  return page.usable<forms::OptionButton>(buttonFor(buttons, answer), answer);
 }
 
 }  // namespace
@@ -84,16 +107,13 @@ Act include(std::string answer, std::string checkBox, std::string deviceName) {
 }
 
 Act enterBehind(std::string answer, std::string checkBox, std::string textBox) {
-  const auto isWanted = [](const Answer& given) {
-    return textOf(given) != "" && textOf(given) != "0";
-  };
   return {std::move(answer),
-          [=](const Page& page, const Answer& given) {
+          [checkBox, textBox](const Page& page, const Answer& given) {
             setTicked(page, checkBox, given, isWanted(given));
             if (!isWanted(given)) return;
             page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
           },
-          [=](const Page& page, const Answer& given) {
+          [checkBox, textBox](const Page& page, const Answer& given) {
             if (page.control<forms::CheckBox>(checkBox).isChecked() != isWanted(given)) {
               return false;
             }
@@ -103,17 +123,12 @@ Act enterBehind(std::string answer, std::string checkBox, std::string textBox) {
 }
 
 Act chooseOption(std::string answer, std::vector<OptionWord> buttons) {
-  const auto buttonFor = [buttons = std::move(buttons)](const Answer& given) {
-    return std::find_if(buttons.begin(), buttons.end(),
-                        [&](const OptionWord& entry) { return entry.first == given.text(); })
-        ->second;
-  };
   return {std::move(answer),
-          [buttonFor](const Page& page, const Answer& given) {
-            page.user().click(page.usable<forms::OptionButton>(buttonFor(given), given));
+          [buttons](const Page& page, const Answer& given) {
+            page.user().click(offeredButton(page, buttons, given));
           },
-          [buttonFor](const Page& page, const Answer& given) {
-            return page.control<forms::OptionButton>(buttonFor(given)).isChosen();
+          [buttons](const Page& page, const Answer& given) {
+            return page.control<forms::OptionButton>(buttonFor(buttons, given)).isChosen();
           }};
 }
 

@@ -38,8 +38,8 @@ Act tick(std::string answer, std::string checkBox);
 /// As `tick`, of a box that adds a device, or a touch panel, of this name to the system.
 Act include(std::string answer, std::string checkBox, std::string deviceName);
 
-/// As `enter`, of a box that a check box makes usable: an empty text or 0 clears the check box,
-/// anything else ticks it and is entered. The page may cut blanks at the ends.
+/// As `enter`, of a box that a check box makes usable: an empty text or the number 0 clears the
+/// check box, anything else ticks it and is entered. The page may cut blanks at the ends.
 Act enterBehind(std::string answer, std::string checkBox, std::string textBox);
 
 /// A word of an answer, and the option button that stands for it.

@@ -1,10 +1,14 @@
 #include "app/Answers.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "app/AnswersShape.h"
 #include "app/ExitStatus.h"
 #include "app/RunEnded.h"
+#include "app/Shape.h"
+#include "app/StandardStreams.h"
 #include "host/Error.h"
 #include "trellisar/FileIO.h"
 
@@ -15,30 +19,50 @@ using trellisar::Json;
 
 constexpr trellisar::JsonLimits limits{.bytes = 1U << 20U, .depth = 10, .keysOfObject = 100};
 
+/// One byte more than is allowed is enough to see that there is too much.
+std::string contentOf(const std::filesystem::path& file) {
+  return file == standardInput ? readInput(limits.bytes + 1) : trellisar::readFile(file);
+}
+
 }  // namespace
 
-Answers::Answers(Json json) : json_(std::move(json)) { check(json_, answersShape()); }
+Answers::Answers(std::string text) : file_(std::move(text), limits) {
+  std::vector<Fault>& faults = file_.faults;
+  if (!file_.value.is_discarded()) check(file_.value, answersShape(), faults);
+  if (faults.empty()) return;
+  for (Fault& fault : faults) fault = placed(std::move(fault));
+  std::stable_sort(faults.begin(), faults.end(),
+                   [](const Fault& one, const Fault& other) { return one.line < other.line; });
+  throw RunEnded(exitStatus::wrongInput, faults);
+}
 
 Answers Answers::fromFile(const std::filesystem::path& file) {
   try {
-    return Answers(trellisar::parseJson(trellisar::readFile(file), file.string(), limits));
+    return Answers(contentOf(file));
   } catch (const host::Error& error) {
     throw RunEnded(exitStatus::wrongInput, error.description());
   }
 }
 
 const Json* Answers::find(std::string_view path) const {
-  const Json* value = &json_;
+  const Json* value = &file_.value;
   while (!path.empty()) {
     const std::size_t point = path.find('.');
     const auto member = value->find(path.substr(0, point));
-    if (member == value->end()) return nullptr;
+    if (member == value->end() || member->is_null()) return nullptr;
     value = &*member;
     path = point == std::string_view::npos ? std::string_view() : path.substr(point + 1);
   }
   return value;
 }
 
-void Answers::setFolder(const std::filesystem::path& folder) { json_["folder"] = folder.string(); }
+Fault Answers::placed(Fault fault) const {
+  if (fault.line == 0 && !fault.path.empty()) fault.line = file_.lineOf(fault.path);
+  return fault;
+}
+
+void Answers::setFolder(const std::filesystem::path& folder) {
+  file_.value["folder"] = folder.string();
+}
 
 }  // namespace app

@@ -1,8 +1,10 @@
 #include "app/Batch.h"
 
 #include <algorithm>
-#include <iostream>
-#include <thread>
+#include <system_error>
+#include <utility>
+
+#include "app/StandardStreams.h"
 
 namespace app {
 
@@ -12,16 +14,26 @@ int Batch::run(const std::vector<Job>& jobs, int parallel) {
   hasEnded_.assign(jobs.size(), false);
   results_.assign(jobs.size(), {});
 
-  std::vector<std::jthread> helpers;
-  for (int i = 1; i < std::min(parallel, static_cast<int>(jobs.size())); ++i) {
-    helpers.emplace_back([this, &jobs] { work(jobs); });
+  {
+    std::vector<std::jthread> helpers;
+    startHelpers(helpers, std::min(parallel, static_cast<int>(jobs.size())) - 1, jobs);
+    work(jobs);
   }
-  work(jobs);
-  helpers.clear();
 
   int highest = 0;
   for (const RoomResult& result : results_) highest = std::max(highest, result.status);
   return highest;
+}
+
+/// Where the system allows fewer threads, those that there are do all.
+void Batch::startHelpers(std::vector<std::jthread>& helpers, int wanted,
+                         const std::vector<Job>& jobs) {
+  try {
+    while (std::cmp_less(helpers.size(), wanted)) {
+      helpers.emplace_back([this, &jobs] { work(jobs); });
+    }
+  } catch (const std::system_error&) {
+  }
 }
 
 void Batch::work(const std::vector<Job>& jobs) {
@@ -41,9 +53,7 @@ void Batch::ended(std::size_t job, RoomResult result) {
   results_[job] = std::move(result);
   hasEnded_[job] = true;
   for (; printed_ < results_.size() && hasEnded_[printed_]; ++printed_) {
-    if (!results_[printed_].systemFile.empty()) {
-      std::cout << results_[printed_].systemFile << std::endl;
-    }
+    if (!results_[printed_].systemFile.empty()) print(results_[printed_].systemFile + "\n");
   }
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <mutex>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace app {
@@ -24,6 +25,7 @@ class Batch {
   int run(const std::vector<Job>& jobs, int parallel);
 
  private:
+  void startHelpers(std::vector<std::jthread>& helpers, int wanted, const std::vector<Job>& jobs);
   void work(const std::vector<Job>& jobs);
   void ended(std::size_t job, RoomResult result);
 

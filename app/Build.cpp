@@ -39,7 +39,7 @@ std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
     if (options.out) answers.setFolder(*options.out);
     return answers;
   } catch (const RunEnded& ended) {
-    report.line(ended.what());
+    for (const Fault& fault : ended.faults()) report.fault(fault);
     return std::nullopt;
   }
 }
@@ -79,10 +79,20 @@ bool canStandTogether(const std::vector<Room>& rooms) {
   return can;
 }
 
+/// Standard input can be read once only.
+bool canBeRead(const std::vector<fs::path>& files) {
+  if (std::count(files.begin(), files.end(), standardInput) <= 1) return true;
+  reportLine("standard input (-) can be given once, and is given several times");
+  return false;
+}
+
 /// False when the export or the upload can't be done, which is then told.
 bool canBeDelivered(const BuildOptions& options) {
-  if (options.delivery.archive && options.answersFiles.size() > 1) {
-    reportLine("--export takes one room, and there are several answers files");
+  const bool several = options.answersFiles.size() > 1;
+  for (const auto& [option, isGiven] : {std::pair{"--export", options.delivery.archive.has_value()},
+                                        {"--upload", options.delivery.address.has_value()}}) {
+    if (!several || !isGiven) continue;
+    reportLine(std::string(option) + " takes one room, and there are several answers files");
     return false;
   }
   if (!options.delivery.address) return true;
@@ -114,6 +124,8 @@ RoomResult buildOrTell(Room& room, const RoomOptions& options) {
 }  // namespace
 
 int build(const BuildOptions& options) {
+  if (!canBeRead(options.answersFiles) || !canBeDelivered(options)) return exitStatus::wrongInput;
+
   const Interrupt interrupt;
   std::vector<Room> rooms;
   for (const fs::path& file : options.answersFiles) {
@@ -121,8 +133,6 @@ int build(const BuildOptions& options) {
     room.answers = read(file, options, room.report);
   }
   if (!canStandTogether(rooms)) return exitStatus::wrongInput;
-
-  if (!canBeDelivered(options)) return exitStatus::wrongInput;
 
   const RoomOptions roomOptions{openLibrary(options), options.replace, options.delivery};
   if (!roomOptions.library) return exitStatus::wrongInput;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/Nearest.h"
 #include "app/Shape.h"
 #include "forms/Form.h"
 #include "forms/ListView.h"
@@ -18,7 +19,8 @@ void choose(forms::Form& dialog, const Page& page, const Answer& answer) {
   const auto found = std::find(offered.begin(), offered.end(), answer.text());
   if (found == offered.end()) {
     page.refuse(answer, offered.empty() ? "the library offers no device for this place"
-                                        : quoted(answer.text()) + " is none of " + quoted(offered));
+                                        : quoted(answer.text()) + " is none of " +
+                                              among(answer.text(), offered));
   }
   page.user().select(list, static_cast<std::int32_t>(found - offered.begin()));
   page.user().click(dialog.control("cmdOK"));

@@ -1,35 +1,41 @@
 #include "app/Interrupt.h"
 
-#include <signal.h>
-
 #include <atomic>
+
+#include "app/ExitStatus.h"
+#include "app/RunEnded.h"
 
 namespace app {
 namespace {
 
-std::atomic<bool> interrupted = false;
-static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler writes it");
+std::atomic<int> noted = 0;  // the signal that came first; 0: none
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler writes it");
 
-void note(int) { interrupted = true; }
-
-void setHandler(void (*handler)(int)) {
-  struct sigaction action {};
-  action.sa_handler = handler;
-  sigemptyset(&action.sa_mask);
-  action.sa_flags = SA_RESTART;
-  sigaction(SIGINT, &action, nullptr);
-  sigaction(SIGTERM, &action, nullptr);
+void note(int signal) {
+  int none = 0;
+  noted.compare_exchange_strong(none, signal);
 }
 
 }  // namespace
 
-Interrupt::Interrupt() {
-  interrupted = false;
-  setHandler(note);
+Interrupt::Interrupt() : noted_{{{SIGINT, {}}, {SIGTERM, {}}, {SIGPIPE, {}}}} {
+  noted = 0;
+  struct sigaction action {};
+  action.sa_handler = note;
+  sigemptyset(&action.sa_mask);
+  action.sa_flags = SA_RESTART;
+  for (Noted& each : noted_) sigaction(each.signal, &action, &each.before);
 }
 
-Interrupt::~Interrupt() { setHandler(SIG_DFL); }
+Interrupt::~Interrupt() {
+  for (const Noted& each : noted_) sigaction(each.signal, &each.before, nullptr);
+  if (noted == SIGPIPE) raise(SIGPIPE);
+}
 
-bool Interrupt::requested() { return interrupted; }
+bool Interrupt::requested() { return noted != 0; }
+
+void Interrupt::endRunIfRequested() {
+  if (requested()) throw RunEnded(exitStatus::refused, noted == SIGPIPE ? "" : "interrupted");
+}
 
 }  // namespace app

@@ -1,8 +1,14 @@
 #pragma once
 
+#include <signal.h>
+
+#include <array>
+
 namespace app {
 
-/// Notes SIGINT and SIGTERM in the place of their own effect, until it ends. One at a time.
+/// Notes SIGINT, SIGTERM and SIGPIPE in the place of their own effect, until it ends. A SIGPIPE,
+/// which says that the reader of the output has gone, then takes its effect after all: what was
+/// under way has been tidied up by then. One at a time.
 class Interrupt {
  public:
   Interrupt();
@@ -12,6 +18,16 @@ class Interrupt {
 
   /// Whether one of them has come, on any thread.
   static bool requested();
+  /// Raises RunEnded with status 1 when one of them has come; there is nothing to tell to a reader
+  /// who has gone.
+  static void endRunIfRequested();
+
+ private:
+  struct Noted {
+    int signal;
+    struct sigaction before;
+  };
+  std::array<Noted, 3> noted_;
 };
 
 }  // namespace app

@@ -24,6 +24,15 @@ std::string folderFrom(const Page& page, const Answer& answer) {
   }
 }
 
+/// Nothing but blanks is no name, whatever the box shows: they are no part of it.
+Act enterName(std::string answer, std::string textBox) {
+  Act act = enter(std::move(answer), std::move(textBox));
+  act.isHeld = [isShown = std::move(act.isHeld)](const Page& page, const Answer& given) {
+    return isShown(page, given) && !forms::trimmed(given.text()).empty();
+  };
+  return act;
+}
+
 /// The parent folder of the system: the location box without its last name.
 fs::path parentOf(std::string location) {
   location.pop_back();
@@ -68,7 +77,7 @@ void refuseExistingSystem(const Page& page) {
 StepActs locationActs() {
   return {"Name and Location",
           {
-              enter("name", "txtSystemName"),
+              enterName("name", "txtSystemName"),
               chooseParentFolder("folder", "cmdBrowse", "txtLocation"),
           },
           refuseExistingSystem};

@@ -1,14 +1,31 @@
+#include <algorithm>
 #include <exception>
+#include <string>
 
 #include "app/CommandLine.h"
+#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
+#include "app/StandardStreams.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+int runOrTell(int argc, char** argv) {
   try {
     return app::run(argc, argv);
   } catch (const std::exception& error) {
-    app::reportLine(error.what());
+    app::reportLine(app::wordsOf(error));
     return app::exitStatus::refused;
   }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  app::keepStandardStreams();
+  const int status = runOrTell(argc, argv);
+  const std::string failure = app::outputFailure();
+  if (failure.empty()) return status;
+  app::reportLine(failure);
+  return std::max(status, app::exitStatus::refused);
 }

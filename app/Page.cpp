@@ -11,8 +11,9 @@ host::Document& Hands::document() const {
 }
 
 void Page::refuseUnusable(const forms::Control& control, const Answer& answer) const {
-  refuse(answer, "is not asked for in this room: on the step " + quoted(name_) + " the control " +
-                     quoted(control.name()) + " is " + (control.isShown() ? "disabled" : "hidden"));
+  refuse(answer, "is not asked for in this room: the step " + quoted(name_) +
+                     (control.isShown() ? " has it disabled" : " does not show it") +
+                     "; leave it out");
 }
 
 }  // namespace app

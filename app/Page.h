@@ -62,7 +62,7 @@ class Page {
 
   /// Raises RunEnded with status 2: the answer can't be given here.
   [[noreturn]] void refuse(const Answer& answer, const std::string& what) const {
-    throw RunEnded(exitStatus::wrongInput, answer.path + ": " + what);
+    throw RunEnded(exitStatus::wrongInput, {Fault{what, answer.path}});
   }
 
  private:

@@ -1,9 +1,8 @@
 #include "app/Receiver.h"
 
-#include <iostream>
-
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
+#include "app/StandardStreams.h"
 #include "receiver/Error.h"
 #include "receiver/Server.h"
 
@@ -19,7 +18,7 @@ int runReceiver(const ReceiverOptions& options) {
     serving.stopOnSignals = true;
     receiver::Server server(serving);
     if (!server.warning().empty()) reportLine(server.warning());
-    std::cout << "listening on " << server.address().text() << std::endl;
+    print("listening on " + server.address().text() + "\n");
     server.run();
     return exitStatus::ok;
   } catch (const receiver::Error& error) {

@@ -1,10 +1,9 @@
 #include "app/Reports.h"
 
-#include <iostream>
-
 #include "app/ExitStatus.h"
 #include "app/QtReportPrinter.h"
 #include "app/RunReport.h"
+#include "app/StandardStreams.h"
 #include "host/Error.h"
 #include "trellisar/Report.h"
 #include "trellisar/SystemFile.h"
@@ -23,7 +22,7 @@ int writeReports(const ReportsOptions& options) {
     auto files = trellisar::writeReports(*document, options.out);
     const auto pdfs = writePdfReports(*document, options.out);
     files.insert(files.end(), pdfs.begin(), pdfs.end());
-    for (const auto& file : files) std::cout << file.string() << '\n';
+    for (const auto& file : files) print(file.string() + "\n");
     return exitStatus::ok;
   } catch (const host::Error& error) {
     reportLine(error.description());

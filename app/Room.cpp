@@ -2,6 +2,7 @@
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
+#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
 #include "app/Interrupt.h"
 #include "app/SystemPlace.h"
@@ -41,13 +42,13 @@ std::string runWizard(const Answers& answers, const RoomOptions& options, const 
 RoomResult buildRoom(const Answers& answers, const RoomOptions& options, const RunReport& report,
                      MadeFolders& made) {
   try {
-    if (Interrupt::requested()) throw RunEnded(exitStatus::refused, "interrupted");
+    Interrupt::endRunIfRequested();
     return {exitStatus::ok, runWizard(answers, options, report, made)};
   } catch (const RunEnded& ended) {
-    report.line(ended.what());
+    for (const Fault& fault : ended.faults()) report.fault(answers.placed(fault));
     return {ended.status(), {}};
   } catch (const std::exception& error) {
-    report.line(error.what());
+    report.line(wordsOf(error));
     return {exitStatus::refused, {}};
   }
 }

@@ -24,6 +24,11 @@ void write(const std::string& lines) { std::fwrite(lines.data(), 1, lines.size()
 
 void RunReport::line(const std::string& text) const { write(prefixed(text, subject_ + ": ")); }
 
+void RunReport::fault(const Fault& fault) const {
+  const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
+  write(prefixed(fault.text(), subject_ + ":" + line + " "));
+}
+
 void RunReport::message(const forms::MessageBox& message) const {
   line(message.caption + ": " + message.text);
 }

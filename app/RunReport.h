@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
+#include "app/Fault.h"
 #include "forms/MessageBox.h"
 
 namespace app {
@@ -13,6 +15,8 @@ class RunReport {
   explicit RunReport(std::string subject) : subject_(std::move(subject)) {}
 
   void line(const std::string& text) const;
+  /// A fault of the answers, behind its line in their file where that is known.
+  void fault(const Fault& fault) const;
   /// A message box: its caption, then its text.
   void message(const forms::MessageBox& message) const;
 

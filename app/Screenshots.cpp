@@ -331,7 +331,10 @@ void drawMainWindow(DrawnDesktop& desktop, trellisar::Host& host) {
 
 /// On its way to a receiver that listens and never answers.
 void drawTransfer(DrawnDesktop& desktop, const fs::path& folder) {
-  const receiver::Server silent({.listen = {"127.0.0.1", 0}, .folder = folder});
+  receiver::Server::Options options;
+  options.listen = {"127.0.0.1", 0};
+  options.folder = folder;
+  const receiver::Server silent(options);
   trellisar::TransferDialog dialog(silent.address(), {"Lecture Hall", "program", {}});
   desktop.act("TransferDialog", [&](forms::Form& form) {
     dialog.prgProgress.setMaximum(3);

@@ -3,18 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/ExitStatus.h"
-#include "app/RunEnded.h"
+#include "app/Nearest.h"
 #include "forms/Text.h"
 
 namespace app {
 namespace {
 
 using trellisar::Json;
-
-[[noreturn]] void refuse(const std::string& path, const std::string& what) {
-  throw RunEnded(exitStatus::wrongInput, path.empty() ? what : path + ": " + what);
-}
 
 Shape shapeOf(Shape::Kind kind, std::int64_t minimum = 0, std::int64_t maximum = 0) {
   Shape shape;
@@ -37,25 +32,6 @@ std::string describedText(const Shape& shape) {
     text += " that is not empty";
   }
   return text + shape.acceptsWhat;
-}
-
-std::string described(const Shape& shape) {
-  switch (shape.kind) {
-    case Shape::Kind::text:
-      return describedText(shape);
-    case Shape::Kind::word:
-      return "one of " + quoted(shape.words);
-    case Shape::Kind::integer:
-      return "a whole number from " + std::to_string(shape.minimum) + " to " +
-             std::to_string(shape.maximum);
-    case Shape::Kind::boolean:
-      return "true or false";
-    case Shape::Kind::object:
-      return "an object";
-    case Shape::Kind::array:
-      return "an array of at most " + std::to_string(shape.maximum) + " elements";
-  }
-  return {};
 }
 
 bool isIntegerWithin(const Json& value, const Shape& shape) {
@@ -88,36 +64,53 @@ bool fits(const Json& value, const Shape& shape) {
       return value.is_object();
     case Shape::Kind::array:
       return value.is_array() && std::cmp_less_equal(value.size(), shape.maximum);
+    case Shape::Kind::anything:
+      return true;
   }
   return false;
 }
 
-void checkWord(const std::string& value, const Shape& shape, const std::string& path) {
-  if (std::find(shape.words.begin(), shape.words.end(), value) == shape.words.end()) {
-    refuse(path, quoted(value) + " is none of " + quoted(shape.words));
-  }
-}
-
+/// The keys that say something here.
 std::vector<std::string> namesOf(const std::vector<Key>& keys) {
   std::vector<std::string> names;
-  for (const Key& key : keys) names.push_back(key.name);
+  for (const Key& key : keys) {
+    if (key.shape.kind != Shape::Kind::anything) names.push_back(key.name);
+  }
   return names;
 }
 
-void checkObject(const Json& value, const Shape& shape, const std::string& path) {
+void checkObject(const Json& value, const Shape& shape, std::vector<Fault>& faults,
+                 const std::string& path) {
   for (const auto& [name, member] : value.items()) {
+    const std::string place = below(path, name);
     const auto key = std::find_if(shape.keys.begin(), shape.keys.end(),
                                   [&known = name](const Key& k) { return k.name == known; });
     if (key == shape.keys.end()) {
-      refuse(below(path, name), "is no key; known here are " + quoted(namesOf(shape.keys)));
+      faults.push_back({"is no key; known here are " + among(name, namesOf(shape.keys)), place});
+    } else {
+      check(member, key->shape, faults, place);
     }
-    check(member, key->shape, below(path, name));
   }
   for (const Key& key : shape.keys) {
-    if (key.isRequired && !value.contains(key.name)) {
-      refuse(below(path, key.name), "is missing; it must be " + described(key.shape));
-    }
+    if (!key.isRequired || value.contains(key.name)) continue;
+    faults.push_back({"is missing; it must be " + described(key.shape), below(path, key.name)});
   }
+}
+
+void checkElements(const Json& value, const Shape& shape, std::vector<Fault>& faults,
+                   const std::string& path) {
+  for (std::size_t i = 0; i < value.size(); ++i) {
+    check(value[i], shape.keys.front().shape, faults, path + "[" + std::to_string(i) + "]");
+  }
+}
+
+/// What is wrong with the value itself, whatever it holds; empty: nothing.
+std::string faultOf(const Json& value, const Shape& shape) {
+  if (!fits(value, shape)) return "must be " + described(shape);
+  if (shape.kind != Shape::Kind::word) return {};
+  const auto& word = value.get_ref<const std::string&>();
+  const bool isKnown = std::find(shape.words.begin(), shape.words.end(), word) != shape.words.end();
+  return isKnown ? std::string() : quoted(word) + " is none of " + among(word, shape.words);
 }
 
 }  // namespace
@@ -158,17 +151,45 @@ Shape array(std::int64_t maximum, Shape element) {
   return shape;
 }
 
-void check(const Json& value, const Shape& shape, const std::string& path) {
-  if (!fits(value, shape)) refuse(path, "must be " + described(shape));
-  if (shape.kind == Shape::Kind::word) {
-    checkWord(value.get_ref<const std::string&>(), shape, path);
+Shape orNull(Shape shape) {
+  shape.takesNull = true;
+  return shape;
+}
+
+Shape anything() { return shapeOf(Shape::Kind::anything); }
+
+void check(const Json& value, const Shape& shape, std::vector<Fault>& faults,
+           const std::string& path) {
+  if (value.is_null() && shape.takesNull) return;
+  const std::string fault = faultOf(value, shape);
+  if (!fault.empty()) {
+    faults.push_back({fault, path});
   } else if (shape.kind == Shape::Kind::object) {
-    checkObject(value, shape, path);
+    checkObject(value, shape, faults, path);
   } else if (shape.kind == Shape::Kind::array) {
-    for (std::size_t i = 0; i < value.size(); ++i) {
-      check(value[i], shape.keys.front().shape, path + "[" + std::to_string(i) + "]");
-    }
+    checkElements(value, shape, faults, path);
   }
+}
+
+std::string described(const Shape& shape) {
+  switch (shape.kind) {
+    case Shape::Kind::text:
+      return describedText(shape);
+    case Shape::Kind::word:
+      return "one of " + quoted(shape.words);
+    case Shape::Kind::integer:
+      return "a whole number from " + std::to_string(shape.minimum) + " to " +
+             std::to_string(shape.maximum);
+    case Shape::Kind::boolean:
+      return "true or false";
+    case Shape::Kind::object:
+      return shape.takesNull ? "an object, or null" : "an object";
+    case Shape::Kind::array:
+      return "an array of at most " + std::to_string(shape.maximum) + " elements";
+    case Shape::Kind::anything:
+      return "anything";
+  }
+  return {};
 }
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }

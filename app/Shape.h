@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Fault.h"
 #include "trellisar/Json.h"
 
 namespace app {
@@ -15,7 +16,7 @@ struct Key;
 ///
 ///     object({{"label", text(1, 8)}, {"type", text(), Key::required}})
 struct Shape {
-  enum class Kind { text, word, integer, boolean, object, array };
+  enum class Kind { text, word, integer, boolean, object, array, anything };
 
   Kind kind = Kind::object;
   /// Of an integer its limits, of a text its number of characters, of an array that of its
@@ -28,6 +29,7 @@ struct Shape {
   /// What a text must be besides, and the words that say so; empty: nothing.
   std::function<bool(const std::string&)> accepts;
   std::string acceptsWhat;
+  bool takesNull = false;
 };
 
 struct Key {
@@ -50,11 +52,20 @@ Shape boolean();
 Shape object(std::vector<Key> keys);
 Shape array(std::int64_t maximum, Shape element);
 
-/// Compares a value with its shape, from the first key to the last. Raises RunEnded with status 2
-/// at the first difference; its text names the place and what is allowed there:
+/// The shape, and null besides.
+Shape orNull(Shape shape);
+/// Whatever stands there.
+Shape anything();
+
+/// Compares a value with its shape, from the first key to the last. Every difference becomes a
+/// fault, which names the place and what is allowed there:
 ///
 ///     lockout.contact: "opened" is none of "unused", "power off", "continue"
-void check(const trellisar::Json& value, const Shape& shape, const std::string& path = {});
+void check(const trellisar::Json& value, const Shape& shape, std::vector<Fault>& faults,
+           const std::string& path = {});
+
+/// "a whole number from 0 to 999", as it ends the sentence "must be".
+std::string described(const Shape& shape);
 
 /// The texts in quotation marks, with commas between.
 std::string quoted(const std::vector<std::string>& texts);

@@ -1,9 +1,8 @@
 #include "app/Show.h"
 
-#include <iostream>
-
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
+#include "app/StandardStreams.h"
 #include "host/Error.h"
 #include "trellisar/Listing.h"
 #include "trellisar/SystemFile.h"
@@ -13,8 +12,8 @@ namespace app {
 int show(const ShowOptions& options) {
   try {
     const auto document = trellisar::readSystemFile(options.systemFile, nullptr);
-    std::cout << (options.asJson ? trellisar::jsonText(trellisar::listing(*document))
-                                 : trellisar::readableText(*document));
+    print(options.asJson ? trellisar::jsonText(trellisar::listing(*document))
+                         : trellisar::readableText(*document));
     return exitStatus::ok;
   } catch (const host::Error& error) {
     reportLine(error.description());

@@ -2,6 +2,7 @@
 #include <optional>
 #include <utility>
 
+#include "app/Nearest.h"
 #include "app/Shape.h"
 #include "app/StepTable.h"
 #include "forms/CommandButton.h"
@@ -53,8 +54,9 @@ void add(const Page& page, const Answer& type) {
   for (std::int32_t place = 0; place < types.count(); ++place) offered.push_back(types.text(place));
   const auto found = std::find(offered.begin(), offered.end(), type.text());
   if (found == offered.end()) {
-    page.refuse(type, offered.empty() ? "the library offers no transmitter"
-                                      : quoted(type.text()) + " is none of " + quoted(offered));
+    page.refuse(type, offered.empty()
+                          ? "the library offers no transmitter"
+                          : quoted(type.text()) + " is none of " + among(type.text(), offered));
   }
   page.user().select(types, static_cast<std::int32_t>(found - offered.begin()));
   page.user().click(page.usable<forms::CommandButton>("cmdAdd", type));

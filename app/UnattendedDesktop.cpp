@@ -1,5 +1,8 @@
 #include "app/UnattendedDesktop.h"
 
+#include <utility>
+
+#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
 #include "app/Interrupt.h"
 #include "forms/Application.h"
@@ -48,14 +51,23 @@ void UnattendedDesktop::answer(forms::Form& form) {
   } catch (const RunEnded& ended) {
     end(ended);
   } catch (const std::exception& error) {
-    end(RunEnded(exitStatus::refused, error.what()));
+    end(RunEnded(exitStatus::refused, wordsOf(error)));
   }
 }
 
 forms::Answer UnattendedDesktop::showMessage(const forms::MessageBox& message) {
-  report_.message(message);
+  const bool asksToExit =
+      std::exchange(expectsExitQuestion_, false) && message.buttons == forms::Buttons::yesNo;
+  // The warnings of a save, which an export shows once more.
+  const bool wasNoted = !noted_.empty() && message.text == noted_;
+  if (!asksToExit && !wasNoted) report_.message(message);
   if (message.icon == forms::Icon::critical) sawCritical_ = true;
   return forms::defaultAnswer(message.buttons);
+}
+
+void UnattendedDesktop::note(const std::string& text) {
+  report_.line(forms::Application::current().title() + ": " + text);
+  noted_ = text;
 }
 
 }  // namespace app

@@ -30,6 +30,9 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   /// The folder that the folder dialogs answer from now on; empty: they are cancelled.
   void answerFolders(const std::string& folder) { folder_ = folder; }
 
+  /// The run is about to leave the wizard: the question whether to, which comes next, is not told.
+  void expectExitQuestion() { expectsExitQuestion_ = true; }
+
   /// Ends the run, unless it has ended for an earlier reason.
   void end(const RunEnded& reason);
   bool hasEnded() const { return ended_.has_value(); }
@@ -44,6 +47,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   /// An interrupt cancels what is under way.
   void processEvents() override;
   forms::Answer showMessage(const forms::MessageBox& message) override;
+  void note(const std::string& text) override;
   std::string chooseFolder(const forms::FolderDialog&) override { return folder_; }
   std::string chooseFileToSave(const forms::FileDialog&) override { return {}; }
   std::string chooseFileToOpen(const forms::FileDialog&) override { return {}; }
@@ -54,8 +58,10 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   const RunReport& report_;
   std::map<std::string, AnswersForm> answers_;
   std::string folder_;
+  std::string noted_;
   std::optional<RunEnded> ended_;
   bool sawCritical_ = false;
+  bool expectsExitQuestion_ = false;
   bool isCancelling_ = false;
 };
 

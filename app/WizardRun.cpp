@@ -35,8 +35,8 @@ const StepActs& actsOf(const Page& page) {
 [[noreturn]] void refuse(const std::string& what) { throw RunEnded(exitStatus::refused, what); }
 
 [[noreturn]] void refuseNotTaken(const Page& page, const Answer& answer) {
-  refuse(answer.path + ": the step " + quoted(page.name()) + " did not take " +
-         answer.value.dump());
+  const std::string what = "the step " + quoted(page.name()) + " did not take ";
+  throw RunEnded(exitStatus::refused, {Fault{what + answer.value.dump(), answer.path}});
 }
 
 }  // namespace
@@ -111,6 +111,7 @@ void WizardRun::save(forms::Form& wizard) {
 }
 
 void WizardRun::finish(forms::Form& wizard) const {
+  hands_.desktop.expectExitQuestion();
   hands_.user.click(wizard.control("cmdFinish"));
   hands_.desktop.throwIfEnded();
   if (wizard.isVisible()) refuse("the system was saved, but the wizard can't be left");
@@ -118,7 +119,7 @@ void WizardRun::finish(forms::Form& wizard) const {
 
 void WizardRun::goOn() const {
   hands_.desktop.throwIfEnded();
-  if (Interrupt::requested()) refuse("interrupted");
+  Interrupt::endRunIfRequested();
 }
 
 }  // namespace app

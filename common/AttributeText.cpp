@@ -126,7 +126,7 @@ void TellOverflow(const std::string& sOperation, const std::string& sData, const
 
 /// Numbers are read with "=", whatever stands between keys and values elsewhere.
 double Number(const std::string& sData, const std::string& sKey, AttributeOptions options) {
-  options.sEquals = "=";
+  options.sEquals = AttributeOptions().sEquals;
   return forms::leadingNumber(GetAttributeValue(sData, sKey, options));
 }
 

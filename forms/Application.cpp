@@ -92,8 +92,10 @@ Application& Application::current() {
 }
 
 void Application::changeFolder(const std::string& folder) {
-  if (!findsFolder(folder))
-    throw Error(errors::pathNotFound, "Path not found: " + toMachinePath(folder).string());
+  if (!findsFolder(folder)) {
+    const std::string machinePath = toMachinePath(folder).string();
+    throw Error(errors::pathNotFound, "Path not found: " + machinePath);
+  }
   currentFolder_ =
       withoutClosingBackslash(fromMachinePath(toMachinePath(folder).lexically_normal()));
 }
@@ -134,7 +136,8 @@ bool Application::findsFolder(std::string_view path) const {
 
 Picture Application::loadPicture(std::string_view path) const {
   if (!findsFile(path)) {
-    throw Error(errors::fileNotFound, "File not found: " + toMachinePath(path).string());
+    const std::string machinePath = toMachinePath(path).string();
+    throw Error(errors::fileNotFound, "File not found: " + machinePath);
   }
   return Picture(toMachinePath(path));
 }

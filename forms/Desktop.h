@@ -44,6 +44,10 @@ class Desktop {
 
   virtual Answer showMessage(const MessageBox& message) = 0;
 
+  /// Takes down what is worth a line in a record of the run, but no message box. Where there is a
+  /// person instead of a record, it is dropped.
+  virtual void note(const std::string&) {}
+
   /// The chosen folder or file, with backslashes; empty when it was cancelled.
   virtual std::string chooseFolder(const FolderDialog& dialog) = 0;
   virtual std::string chooseFileToSave(const FileDialog& dialog) = 0;

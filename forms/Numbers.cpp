@@ -94,7 +94,8 @@ std::string decimal(float value) {
 }
 
 std::string decimalWithSignPlace(std::int32_t value) {
-  return (value < 0 ? "" : " ") + decimal(value);
+  const std::string number = decimal(value);
+  return value < 0 ? number : " " + number;
 }
 
 }  // namespace forms

@@ -19,7 +19,8 @@ constexpr forms::Size sizeOfBackground{2400, 3360};
 TabStart::TabStart(forms::Container& container, std::string strName)
     : WizardStep(container, std::move(strName), "Start", host::helpStartTab) {
   MakeTitle(lblBanner);
-  lblVersion.setCaption("v" + gAddIn().GetVersion());
+  const std::string strVersion = gAddIn().GetVersion();
+  lblVersion.setCaption("v" + strVersion);
   lblDescription.setCaption(gAddIn().GetDescription());
   lblContinue.setFont({.bold = true});
   lblPreview.setLink(true);

@@ -129,9 +129,10 @@ void AddressBookDialog::use() {
 
 bool AddressBookDialog::accept() {
   const NamedAddress* receiver = selected();
-  if (!receiver && typed() != NamedAddress() && !add()) return false;
-  if (receiver && typed() != *receiver) {
-    return refuse(txtName, "\"" + typed().name +
+  const NamedAddress wanted = typed();
+  if (!receiver && wanted != NamedAddress() && !add()) return false;
+  if (receiver && wanted != *receiver) {
+    return refuse(txtName, "\"" + wanted.name +
                                "\" is not in the list yet. Click Add to put it there, or Change to "
                                "put it in the place of \"" +
                                receiver->name + "\".");

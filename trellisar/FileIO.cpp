@@ -161,7 +161,8 @@ std::string readFile(const fs::path& file) {
 
 void replaceFile(const fs::path& named, std::string_view content) {
   const fs::path file = behindLinks(named);
-  const fs::path beside = file.parent_path() / ("." + file.filename().string() + ".saving");
+  const std::string name = file.filename().string();
+  const fs::path beside = file.parent_path() / ("." + name + ".saving");
   std::error_code ignored;
   if (fs::is_directory(file, ignored)) fail("Can't write", named, EISDIR);
   const NoSizeSignal noSizeSignal;

@@ -86,7 +86,8 @@ bool MainWindowOperations::mayReplace(const fs::path& file) const {
   const Replacing replacing = session_->replacing;
   if (!isThere(file) || isSameFile(file, session_->data()->ownFile)) return true;
   if (replacing == Replacing::always) return true;
-  const std::string name = "\"" + file.string() + "\"";
+  const std::string path = file.string();
+  const std::string name = "\"" + path + "\"";
   if (replacing == Replacing::never) {
     showFailure("Another system is in the file " + name + ". It was not replaced.");
     return false;

@@ -86,7 +86,9 @@ class Builder : public nlohmann::json_sax<Json> {
     std::string text;
     for (std::size_t i = 0; i < open_.size(); ++i) {
       if (open_[i]->is_array()) {
-        text += "[" + std::to_string(open_[i]->size() - (i + 1 < open_.size() ? 1U : 0U)) + "]";
+        const std::string index =
+            std::to_string(open_[i]->size() - (i + 1 < open_.size() ? 1U : 0U));
+        text += "[" + index + "]";
       } else if (i + 1 < open_.size()) {
         text += (text.empty() ? "" : ".") + keys_[i];
       }

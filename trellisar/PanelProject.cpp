@@ -143,9 +143,9 @@ std::filesystem::path panelProjectFile(const DocumentData& document, const Devic
   };
   const auto first = std::find_if(document.panels.begin(), document.panels.end(), hasName);
   const bool isShared = first != document.panels.end() && (*first)->id != panel.id;
+  const std::string handle = std::to_string(panel.handle);
   return forms::toMachinePath(document.folder) /
-         (name + (isShared ? " " + std::to_string(panel.handle) : std::string()) +
-          projectExtension);
+         (name + (isShared ? " " + handle : std::string()) + projectExtension);
 }
 
 }  // namespace trellisar

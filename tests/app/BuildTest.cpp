@@ -31,7 +31,8 @@ class OrlenaBuild : public testing::Test {
 
 TEST_F(OrlenaBuild, savesTheRoomAndPrintsOnlyItsPath) {
   const Outcome outcome = build(meetingRoom);
-  EXPECT_EQ(outcome.status, 0) << outcome.errors;
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.errors, "");
   EXPECT_EQ(outcome.output, (folder_ / "systems/Meeting Room/Meeting Room.tsy").string() + "\n");
   EXPECT_EQ(folder_.listing(), (Listing{"answers.json", "systems/", "systems/Meeting Room/",
                                         "systems/Meeting Room/Meeting Room.tsy"}));
@@ -48,6 +49,17 @@ TEST_F(OrlenaBuild, withoutANameTakesTheFreshOneOfTheWizard) {
             (folder_ / "systems/My Orlena System/My Orlena System.tsy").string() + "\n");
   EXPECT_EQ(build("{}").output,
             (folder_ / "systems/My Orlena System 2/My Orlena System 2.tsy").string() + "\n");
+}
+
+TEST_F(OrlenaBuild, tellsTheWarningsOfTheProgramOnce) {
+  const std::string room = R"({"name": "Hall", "display": {"device": "Orvistel F42"},
+    "transmitters": [{"type": "Wall Plate Transmitter"}], "room": {"kestrum": true}})";
+  const std::string warning =
+      "answers.json: Orlena: Display device does not have a Lamp_Hours, LampHours, or "
+      "Lamp_Hours_Analog output.\n"
+      "answers.json: Therefore, this feature will not be available from Kestrum.\n";
+  EXPECT_EQ(build(room).errors, warning);
+  EXPECT_EQ(build(room, {"--replace", "--export", "hall.tsa"}).errors, warning);
 }
 
 TEST_F(OrlenaBuild, givesTheSameBytesEachTime) {
@@ -96,65 +108,70 @@ TEST_P(OrlenaBuildRefuses, andLeavesNothing) {
 }
 
 constexpr Refusal refusals[] = {
-    {"brokenJson", R"({"name": "Hall",})", 2, "answers.json: line 1, column 17: "},
-    {"keyTwice", R"({"display": {"rgb": "A", "rgb": "B"}})", 2,
-     "answers.json: display.rgb: the key stands twice\n"},
+    {"brokenJson", R"({"name": "Hall",})", 2,
+     "answers.json:1: a comma with nothing behind it; take it away\n"},
+    {"severalFaults", "{\"display\": {\"rgb\": \"A\", \"rgb\": \"B\"},\n\"lockout\": 1}", 2,
+     "answers.json:1: display.rgb: the key stands twice\n"
+     "answers.json:2: lockout: must be an object\n"},
     {"wrongWord", R"({"power": {"control": "toggle"}})", 2,
-     R"(answers.json: power.control: "toggle" is none of "none", "sensing", "discrete")"
+     R"(answers.json:1: power.control: "toggle" is none of "none", "sensing", "discrete")"
      "\n"},
     {"unknownDevice", R"({"name": "Hall", "display": {"device": "Bravonne"}})", 2,
-     R"(answers.json: display.device: "Bravonne" is none of "Bravonne P1400 Short", )"},
+     R"(answers.json:1: display.device: "Bravonne" is none of "Bravonne P1400 Short", )"},
     {"unknownCommand", R"({"name": "Hall", "display": {"device": "Orvistel F42", "rgb": "RGB_1"}})",
-     2, R"(answers.json: display.rgb: "RGB_1" is none of "", "PWR_ON", )"},
+     2, R"(answers.json:1: display.rgb: "RGB_1" is none of "", "PWR_ON", )"},
     {"noDisplay", R"({"name": "Hall", "display": {"relay": {}}})", 2,
-     R"(answers.json: display.relay: is not asked for in this room: on the step "Display Device" )"
-     R"(the control "chkPowerRelay" is hidden)"
+     R"(answers.json:1: display.relay: is not asked for in this room: the step "Display Device" )"
+     R"(does not show it; leave it out)"
      "\n"},
     {"modeNotOffered",
      R"({"name": "Hall", "display": {"device": "Orvistel F42"}, "power": {"control": "sensing"}})",
      2,
-     R"(answers.json: power.control: is not asked for in this room: on the step "Power Control" )"
-     R"-(the control "optPower(1)" is disabled)-"
+     R"(answers.json:1: power.control: "sensing" is not offered in this room; this is: )"
+     R"("discrete", "none")"
      "\n"},
     {"commandsWithoutDiscrete",
      R"({"name": "Hall", "display": {"device": "Orvistel F42"},
          "power": {"control": "none", "on": ""}})",
-     2, "answers.json: power.on: is not asked for in this room: "},
+     2, "answers.json:2: power.on: is not asked for in this room: "},
     {"secondOffNotCapable",
      R"({"name": "Hall", "display": {"device": "Orvistel F42"}, "power": {"second_off": {}}})", 2,
-     "answers.json: power.second_off: is not asked for in this room: "},
+     "answers.json:1: power.second_off: is not asked for in this room: "},
     {"lockoutWithoutDisplay", R"({"lockout": {"off": 120}})", 2,
-     "answers.json: lockout.off: is not asked for in this room: "},
+     "answers.json:1: lockout.off: is not asked for in this room: "},
     {"contactWithoutPowerControl",
      R"({"display": {"device": "Istrellan Bellova 27"}, "lockout": {"contact": "unused"}})", 2,
-     "answers.json: lockout.contact: is not asked for in this room: "},
+     "answers.json:1: lockout.contact: is not asked for in this room: "},
     {"screenThatIsALift", R"({"screen": {"device": "Hoistrel HL-30"}})", 2,
-     R"(answers.json: screen.device: "Hoistrel HL-30" is none of "Drapewick Floor Riser 200", )"},
+     R"(answers.json:1: screen.device: "Hoistrel HL-30" is none of "Drapewick Floor Riser 200", )"},
     {"unknownScreenCommand", R"({"screen": {"device": "Fallowmere Taut 280", "on": "Down"}})", 2,
-     R"(answers.json: screen.on: "Down" is none of "", "Lower", "Raise")"
+     R"(answers.json:1: screen.on: "Down" is none of "", "Lower", "Raise")"
      "\n"},
     {"pulseOfAMomentaryCommand", R"({"screen": {"device": "Drapewick Mixed 240", "off_pulse": 0}})",
      2,
-     R"(answers.json: screen.off_pulse: is not asked for in this room: on the step "Display )"
-     R"-(Options" the control "txtPulseTimeOff(0)" is hidden)-"
+     R"(answers.json:1: screen.off_pulse: is not asked for in this room: the step )"
+     R"("Display Options" does not show it; leave it out)"
      "\n"},
     {"pulseOfNoCommand", R"({"lift": {"device": "Hoistrel HL-30", "on": "", "on_pulse": 3}})", 2,
-     "answers.json: lift.on_pulse: is not asked for in this room: "},
+     "answers.json:1: lift.on_pulse: is not asked for in this room: "},
     {"typeNotForPorts",
      R"({"transmitters": [{"type": "Lectern Transmitter"}, {"type": "Link Coupler"}]})", 2,
-     R"(answers.json: transmitters[1].type: "Link Coupler" is none of "Floor Box Transmitter", )"
+     R"(answers.json:1: transmitters[1].type: "Link Coupler" is none of "Floor Box Transmitter", )"
      R"("Guest Transmitter", "Lectern Transmitter", "Table Box Transmitter", )"
      R"("Wall Plate Transmitter")"
      "\n"},
     {"passwordWithoutFenlet", R"({"room": {"fenlet_password": ""}})", 2,
-     R"(answers.json: room.fenlet_password: is not asked for in this room: on the step "Room )"
-     R"(Options" the control "chkEnablePwd" is disabled)"
+     R"(answers.json:1: room.fenlet_password: is not asked for in this room: the step )"
+     R"("Room Options" has it disabled; leave it out)"
      "\n"},
     {"timeoutWithoutSensor", R"({"room": {"kestrum": true, "power_off_after": 0}})", 2,
-     "answers.json: room.power_off_after: is not asked for in this room: "},
+     "answers.json:1: room.power_off_after: is not asked for in this room: "},
+    {"nameOfBlanks", R"({"name": "  "})", 1,
+     R"(answers.json:1: name: the step "Name and Location" did not take "  ")"
+     "\n"},
     {"nameWithDigit", R"({"name": "4th Floor"})", 1,
      "answers.json: Orlena: Names cannot begin with digits 0-9.\n"
-     R"(answers.json: name: the step "Name and Location" did not take "4th Floor")"
+     R"(answers.json:1: name: the step "Name and Location" did not take "4th Floor")"
      "\n"},
 };
 
@@ -181,6 +198,20 @@ TEST_F(OrlenaBuild, isRefusedByAWrongCommandLine) {
   EXPECT_EQ(folder_.listing(), Listing{"answers.json"});
 }
 
+TEST_F(OrlenaBuild, readsOneAnswersFileFromStandardInput) {
+  folder_.write("hall.json", R"({"name": "Hall"})");
+  const auto build = [&](const std::string& files, const std::string& input) {
+    return program_.shell("orlena build --replace " + files + " " + input);
+  };
+  EXPECT_EQ(build("-", "< hall.json").output, (folder_ / "systems/Hall/Hall.tsy").string() + "\n");
+  EXPECT_EQ(build("hall.json -", "< /dev/null").errors.substr(0, 2), "-:");
+  EXPECT_EQ(build("-", "<&-").errors, "-: it can't be read: Bad file descriptor.\n");
+  EXPECT_EQ(build("-", "< /dev/zero").status, 2) << "the end is never reached";
+  const Outcome twice = build("- hall.json -", "< hall.json");
+  EXPECT_EQ(twice.status, 2);
+  EXPECT_EQ(twice.output, "");
+}
+
 TEST_F(OrlenaBuild, buildsTheOtherRoomsOfABatchAndPrintsThemInTheirOrder) {
   Listing arguments{"build", "--out", "out", "--jobs", "2"};
   std::string paths;
@@ -195,12 +226,12 @@ TEST_F(OrlenaBuild, buildsTheOtherRoomsOfABatchAndPrintsThemInTheirOrder) {
   const Outcome outcome = program_.run(arguments);
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.output, paths);
-  EXPECT_NE(outcome.errors.find("B.json: lockout.contact: \"opened\" is none of \"unused\", "
+  EXPECT_NE(outcome.errors.find("B.json:1: lockout.contact: \"opened\" is none of \"unused\", "
                                 "\"power off\", \"continue\"\n"),
             std::string::npos)
       << outcome.errors;
   std::istringstream lines(outcome.errors);
-  for (std::string line; std::getline(lines, line);) EXPECT_EQ(line.find(".json: "), 1U) << line;
+  for (std::string line; std::getline(lines, line);) EXPECT_EQ(line.find(".json:"), 1U) << line;
 }
 
 TEST_F(OrlenaBuild, startsNoRoomOfABatchThatCanNotStandTogether) {

@@ -62,8 +62,10 @@ TEST_F(Delivery, failureIsToldAndTheSystemStaysSaved) {
 }
 
 TEST_F(Delivery, wrongCommandLineStartsNothing) {
-  for (const auto& arguments : std::vector<std::vector<std::string>>{
-           {"--upload", "host:port"}, {"--export", "a.tsa", example + "x"}}) {
+  for (const auto& arguments :
+       std::vector<std::vector<std::string>>{{"--upload", "host:port"},
+                                             {"--upload", "127.0.0.1:1", example + "x"},
+                                             {"--export", "a.tsa", example + "x"}}) {
     EXPECT_EQ(build(arguments).status, 2) << arguments.front();
     EXPECT_FALSE(fs::exists(folder / "rooms"));
   }

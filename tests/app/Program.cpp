@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <utility>
 
 namespace app {
 
@@ -50,11 +51,20 @@ Outcome Program::run(const std::vector<std::string>& arguments) {
   return wait();
 }
 
+Outcome Program::shell(const std::string& script) {
+  startProcess({"/bin/sh", "-c", script});
+  return wait();
+}
+
 void Program::start(const std::vector<std::string>& arguments) {
-  std::vector<std::string> texts{ORLENA_PROGRAM};
-  texts.insert(texts.end(), arguments.begin(), arguments.end());
+  std::vector<std::string> command{ORLENA_PROGRAM};
+  command.insert(command.end(), arguments.begin(), arguments.end());
+  startProcess(std::move(command));
+}
+
+void Program::startProcess(std::vector<std::string> command) {
   std::vector<char*> pointers;
-  for (std::string& text : texts) pointers.push_back(text.data());
+  for (std::string& text : command) pointers.push_back(text.data());
   pointers.push_back(nullptr);
 
   processId_ = fork();
@@ -67,6 +77,8 @@ void Program::start(const std::vector<std::string>& arguments) {
   redirect(streams_ / "errors", STDERR_FILENO);
   setenv("TRELLISAR_SYSTEMS", (folder_ / "systems").c_str(), 1);
   setenv("XDG_CONFIG_HOME", streams_.path().c_str(), 1);
+  const std::string folderOfProgram = fs::path(ORLENA_PROGRAM).parent_path().string();
+  setenv("PATH", (folderOfProgram + ":/usr/bin:/bin").c_str(), 1);
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) unsetenv(name);
   if (!platform_.empty()) setenv("QT_QPA_PLATFORM", platform_.c_str(), 1);
   if (chdir(folder_.path().c_str()) == 0) execv(pointers[0], pointers.data());

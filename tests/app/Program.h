@@ -51,6 +51,8 @@ class Program {
   void setPlatform(const std::string& platform) { platform_ = platform; }
 
   Outcome run(const std::vector<std::string>& arguments);
+  /// Runs a script of the shell, in which the program is called "orlena".
+  Outcome shell(const std::string& script);
 
   /// Starts it; `wait` then answers what it left. `wait` also where it was killed.
   void start(const std::vector<std::string>& arguments);
@@ -58,6 +60,8 @@ class Program {
   Outcome wait();
 
  private:
+  void startProcess(std::vector<std::string> command);
+
   const TemporaryFolder& folder_;
   TemporaryFolder streams_;
   std::string platform_;

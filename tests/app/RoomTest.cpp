@@ -78,6 +78,8 @@ TEST_F(OrlenaRoom, takesThePasswordWithoutTheBlanksAtItsEnds) {
       password(R"("fenlet": true, "fenlet_password": "  two  words ")").find(row("two  words")),
       std::string::npos);
   EXPECT_NE(password(R"("fenlet": true, "fenlet_password": "")").find(row("")), std::string::npos);
+  EXPECT_NE(password(R"("fenlet": true, "fenlet_password": "0")").find(row("0")),
+            std::string::npos);
   EXPECT_NE(password(R"("fenlet": true)").find(row("mossgate")), std::string::npos);
   EXPECT_NE(password(R"("fenlet": false)").find(row("")), std::string::npos);
 }
@@ -125,11 +127,11 @@ TEST_F(OrlenaRoom, isRefusedWhereTheSystemDoesNotGetTheDevice) {
   };
   const Case cases[] = {
       {"Kestrum Interface", R"("room": {"kestrum": true})",
-       R"(answers.json: room.kestrum: the step "Room Options" did not take true)"},
+       R"(answers.json:1: room.kestrum: the step "Room Options" did not take true)"},
       {"Motion Detector", R"("room": {"occupancy": true})",
-       R"(answers.json: room.occupancy: the step "Room Options" did not take true)"},
+       R"(answers.json:1: room.occupancy: the step "Room Options" did not take true)"},
       {"Power Relay", R"("display": {"device": "Orvistel F42", "relay": {}})",
-       R"(answers.json: display.relay: the step "Display Device" did not take {})"},
+       R"(answers.json:1: display.relay: the step "Display Device" did not take {})"},
   };
   for (const Case& missing : cases) {
     writeLibraryWithout(missing.device, folder_ / "library");
@@ -169,7 +171,7 @@ TEST_F(OrlenaRoom, ofTwoHundredIsBuiltBesideFiveThatAreBroken) {
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.output, paths);
   for (const auto& [number, fault] : broken) {
-    const std::string line = "Room " + std::to_string(number) + ".json: " + fault.second;
+    const std::string line = "Room " + std::to_string(number) + ".json:1: " + fault.second;
     EXPECT_NE(outcome.errors.find(line), std::string::npos) << outcome.errors;
     EXPECT_FALSE(fs::exists(folder_ / ("out/Room " + std::to_string(number))));
   }

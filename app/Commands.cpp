@@ -1,0 +1,181 @@
+#include "app/Commands.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "app/Build.h"
+#include "app/Documents.h"
+#include "app/Receiver.h"
+#include "app/Reports.h"
+#include "app/Show.h"
+#include "app/Window.h"
+
+namespace app {
+namespace {
+
+constexpr int mostJobs = 256;
+
+/// A positional argument is called what it is.
+CLI::Option* named(CLI::Option* option) { return option->type_name(""); }
+
+Command buildCommand(CLI::App& program) {
+  auto options = std::make_shared<BuildOptions>();
+  CLI::App* command = program.add_subcommand(
+      "build", "Answers the wizard from files, unattended, and saves the systems");
+  named(command->add_option("ANSWERS.json", options->answersFiles,
+                            "A room's answers; - is standard input"))
+      ->required();
+  command->add_option("--out", options->out, "Parent folder of the systems, over the answers' own")
+      ->type_name("FOLDER");
+  command
+      ->add_option("--library", options->library, "Device library in the place of the shipped one")
+      ->type_name("FOLDER");
+  command->add_flag("--replace", options->replace, "Lets an existing system be replaced");
+  command->add_option("--export", options->delivery.archive, "Exports the system to this archive")
+      ->type_name("FILE.tsa");
+  command
+      ->add_option("--upload", options->delivery.address,
+                   "Uploads the system to the receiver at HOST or HOST:PORT")
+      ->type_name("ADDRESS");
+  command->add_option("--jobs", options->jobs, "Number of rooms to build at a time")
+      ->check(CLI::Range(1, mostJobs).description(""))
+      ->type_name("N");
+  return {command,
+          [options] { return build(*options); },
+          {{"0", "all systems are saved, and delivered where that was asked for"},
+           {"1",
+            "the wizard refused an answer, or the program, the save, the export, the upload "
+            "or standard output failed"},
+           {"2", "the command line or an answers file is wrong"}}};
+}
+
+std::vector<Meaning> statusesOfAReader() {
+  return {{"0", "done"},
+          {"1", "the output can't be written"},
+          {"2", "the command line is wrong, or the file can't be read"}};
+}
+
+Command showCommand(CLI::App& program) {
+  auto options = std::make_shared<ShowOptions>();
+  CLI::App* command = program.add_subcommand(
+      "show", "Prints a system's devices, bill of materials and control program");
+  named(command->add_option("FILE.tsy", options->systemFile, "A saved system"))->required();
+  command->add_flag("--json", options->asJson, "Prints the listing for other programs");
+  return {command, [options] { return show(*options); }, statusesOfAReader()};
+}
+
+Command receiverCommand(CLI::App& program) {
+  auto options = std::make_shared<ReceiverOptions>();
+  CLI::App* command =
+      program.add_subcommand("receiver", "A receiver that takes programs and passwords");
+  command->add_option("--listen", options->listen, "Where to listen; port 0 picks one")
+      ->type_name("HOST:PORT");
+  command->add_option("--folder", options->folder, "Where it keeps what it is sent")
+      ->type_name("FOLDER")
+      ->capture_default_str();
+  return {command,
+          [options] { return runReceiver(*options); },
+          {{"0", "ended by SIGTERM or SIGINT"},
+           {"2", "the command line is wrong, or it can't listen or use its folder"}}};
+}
+
+Command reportCommand(CLI::App& program) {
+  auto options = std::make_shared<ReportsOptions>();
+  CLI::App* command =
+      program.add_subcommand("report", "Writes a system's bill of materials and connection sheet");
+  named(command->add_option("FILE.tsy", options->systemFile, "A saved system"))->required();
+  command->add_option("--out", options->out, "Folder for the files")
+      ->type_name("FOLDER")
+      ->capture_default_str();
+  return {command, [options] { return writeReports(*options); }, statusesOfAReader()};
+}
+
+Command wizardCommand(CLI::App& program) {
+  auto file = std::make_shared<std::optional<std::filesystem::path>>();
+  CLI::App* command =
+      program.add_subcommand("wizard", "Opens the wizard on a new system, or on a saved one");
+  named(command->add_option("FILE.tsy", *file, "A saved system"));
+  return {command,
+          [file] { return openWizard(*file); },
+          {{"0", "the wizard was closed"},
+           {"1", "no system could be started"},
+           {"2", "the command line is wrong, or there is no display"}}};
+}
+
+/// A command that puts files into a folder, and that no user needs.
+template <typename Options>
+Command developersCommand(CLI::App& program, const char* name, const char* description,
+                          int (*run)(const Options&),
+                          void (*addOptions)(CLI::App&, Options&) = nullptr) {
+  auto options = std::make_shared<Options>();
+  CLI::App* command = program.add_subcommand(name, description)->group("For developers");
+  command->add_option("--out", options->out, "Folder for the files")
+      ->type_name("FOLDER")
+      ->required();
+  if (addOptions) addOptions(*command, *options);
+  return {command,
+          [options, run] { return run(*options); },
+          {{"0", "done"}, {"1", "the files can't be written"}, {"2", "the command line is wrong"}}};
+}
+
+void addScreenshotOptions(CLI::App& command, ScreenshotOptions& options) {
+  command.add_flag("--dark", options.isDark, "With a dark palette");
+  command.add_option("--font-size", options.fontPoints, "Points of the system's font")
+      ->type_name("POINTS");
+}
+
+std::string asLines(const std::string& heading, const std::vector<Meaning>& meanings) {
+  std::size_t width = 0;
+  for (const Meaning& each : meanings) width = std::max(width, each.word.size());
+  std::string lines = heading + ":\n";
+  for (const auto& [word, meaning] : meanings) {
+    lines += "  " + word + std::string(width + 2 - word.size(), ' ') + meaning + "\n";
+  }
+  return lines;
+}
+
+}  // namespace
+
+Commands::Commands()
+    : program("Room solutions: the wizard, with a person or unattended", "orlena") {
+  program.require_subcommand(0, 1);
+  program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
+  all = {buildCommand(program),
+         wizardCommand(program),
+         showCommand(program),
+         reportCommand(program),
+         receiverCommand(program),
+         developersCommand(program, "screenshots", "Draws the windows in their states",
+                           takeScreenshots, addScreenshotOptions),
+         developersCommand(program, "documents", "Writes the man page and the shells' completions",
+                           writeDocuments)};
+  for (const Command& command : all) {
+    command.parsed->footer(asLines("Exit status", command.exitStatuses));
+  }
+  program.footer(
+      "Without a command the host's main window opens.\n"
+      "orlena COMMAND --help tells the options and exit statuses of a command.\n\n" +
+      asLines("Environment", environmentVariables()));
+}
+
+const std::vector<Meaning>& environmentVariables() {
+  static const std::vector<Meaning> variables{
+      {"TRELLISAR_SYSTEMS", "default parent folder of systems, over the preferences"},
+      {"XDG_CONFIG_HOME", "where the preferences are kept, and where the documents folder is told"},
+      {"DISPLAY, WAYLAND_DISPLAY", "the screen that windows open on"},
+      {"QT_QPA_PLATFORM", "\"offscreen\" draws windows without a screen"},
+  };
+  return variables;
+}
+
+bool isFlag(const CLI::Option& option) { return option.get_items_expected_max() == 0; }
+
+std::string valueName(const CLI::Option& option) {
+  return option.get_positional() ? option.get_name(/*positional=*/true) : option.get_type_name();
+}
+
+}  // namespace app

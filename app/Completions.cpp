@@ -1,0 +1,142 @@
+#include <algorithm>
+
+#include "app/Commands.h"
+#include "app/Documents.h"
+
+namespace app {
+namespace {
+
+using Options = std::vector<const CLI::Option*>;
+
+/// Those with a name that begins with hyphens.
+Options namedOptions(const CLI::App& command) {
+  return command.get_options([](const CLI::Option* option) { return !option->get_positional(); });
+}
+
+/// The positional argument, or null.
+const CLI::Option* argumentOf(const CLI::App& command) {
+  const Options options = command.get_options();
+  const auto found = std::find_if(options.begin(), options.end(),
+                                  [](const CLI::Option* each) { return each->get_positional(); });
+  return found == options.end() ? nullptr : *found;
+}
+
+/// "json" for "ANSWERS.json"; empty: what is asked for is no file.
+std::string extensionOf(const CLI::Option& option) {
+  const std::string name = valueName(option);
+  const std::size_t point = name.find('.');
+  return point == std::string::npos ? "" : name.substr(point + 1);
+}
+
+std::string longName(const CLI::Option& option) { return "--" + option.get_lnames().front(); }
+
+/// What bash offers for the value of an option.
+std::string bashValues(const CLI::Option& option) {
+  const std::string extension = extensionOf(option);
+  if (valueName(option) == "FOLDER") return "compgen -d -- \"$word\"";
+  if (extension.empty()) return "";
+  return "compgen -d -- \"$word\"; compgen -f -X '!*." + extension + "' -- \"$word\"";
+}
+
+std::string bashCase(const std::string& pattern, const std::string& values) {
+  const std::string offers = values.empty() ? "" : " offered=$(" + values + ")";
+  return "    \"" + pattern + "\")" + offers + " ;;\n";
+}
+
+std::string bashCommand(const CLI::App& command) {
+  std::string cases;
+  std::string names;
+  for (const CLI::Option* option : namedOptions(command)) {
+    names += (names.empty() ? "" : " ") + longName(*option);
+    if (!isFlag(*option)) {
+      cases += bashCase(command.get_name() + " " + longName(*option), bashValues(*option));
+    }
+  }
+  const CLI::Option* argument = argumentOf(command);
+  std::string all = "compgen -W '" + names + "' -- \"$word\"";
+  if (argument) all += "; " + bashValues(*argument);
+  return cases + "    \"" + command.get_name() + " \"*) offered=$(" + all + ") ;;\n";
+}
+
+/// A text between the brackets of a zsh option.
+std::string zshText(const std::string& text) {
+  std::string all;
+  for (const char c : text) {
+    if (c == '\'') {
+      all += "'\\''";
+    } else {
+      all += c == ':' || c == '[' || c == ']' ? std::string("\\") + c : std::string(1, c);
+    }
+  }
+  return all;
+}
+
+std::string zshValues(const CLI::Option& option) {
+  const std::string extension = extensionOf(option);
+  const std::string name = ":" + zshText(valueName(option)) + ":";
+  if (valueName(option) == "FOLDER") return name + "_files -/";
+  return extension.empty() ? name : name + "_files -g \"*." + extension + "\"";
+}
+
+std::string zshCommand(const CLI::App& command) {
+  std::string all = "    " + command.get_name() + ") _arguments";
+  for (const CLI::Option* option : namedOptions(command)) {
+    all += " \\\n      '" + longName(*option) + "[" + zshText(option->get_description()) + "]" +
+           (isFlag(*option) ? "" : zshValues(*option)) + "'";
+  }
+  if (const CLI::Option* argument = argumentOf(command)) {
+    all += " \\\n      '*" + zshValues(*argument) + "'";
+  }
+  return all + " ;;\n";
+}
+
+}  // namespace
+
+std::string bashCompletion(const Commands& commands) {
+  std::string names;
+  std::string cases;
+  for (const Command& command : commands.all) {
+    names += command.parsed->get_name() + " ";
+    cases += bashCommand(*command.parsed);
+  }
+  return "_orlena() {\n"
+         "  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} offered\n"
+         "  if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
+         "    COMPREPLY=($(compgen -W '" +
+         names +
+         "--help --version' -- \"$word\"))\n"
+         "    return\n"
+         "  fi\n"
+         "  case \"${COMP_WORDS[1]} $before\" in\n" +
+         cases +
+         "  esac\n"
+         "  local IFS=$'\\n'\n"
+         "  COMPREPLY=($offered)\n"
+         "}\n"
+         "complete -o filenames -F _orlena orlena\n";
+}
+
+std::string zshCompletion(const Commands& commands) {
+  std::string names;
+  std::string cases;
+  for (const Command& command : commands.all) {
+    const CLI::App& parsed = *command.parsed;
+    names += "    '" + parsed.get_name() + ":" + zshText(parsed.get_description()) + "'\n";
+    cases += zshCommand(parsed);
+  }
+  return "#compdef orlena\n"
+         "local -a commands=(\n" +
+         names +
+         "  )\n"
+         "if (( CURRENT == 2 )); then\n"
+         "  _describe command commands\n"
+         "else\n"
+         "  shift words\n"
+         "  (( CURRENT-- ))\n"
+         "  case $words[1] in\n" +
+         cases +
+         "  esac\n"
+         "fi\n";
+}
+
+}  // namespace app

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace app {
+
+/// What is wrong with an answers file, or with an answer in a room.
+struct Fault {
+  std::string what;
+  std::string path = {};  // of the key, such as "transmitters[1].label"; empty: of the whole
+  std::size_t line = 0;   // in the file; 0: not known
+
+  /// `lockout.contact: "opened" is none of "unused", "power off", "continue"`
+  std::string text() const { return path.empty() ? what : path + ": " + what; }
+};
+
+}  // namespace app

@@ -178,4 +178,13 @@ void replaceFile(const fs::path& named, std::string_view content) {
   flushFolder(file.parent_path());
 }
 
+FolderLock::FolderLock(const fs::path& folder)
+    : descriptor_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+  if (descriptor_ >= 0) static_cast<void>(flock(descriptor_, LOCK_EX));
+}
+
+FolderLock::~FolderLock() {
+  if (descriptor_ >= 0) ::close(descriptor_);
+}
+
 }  // namespace trellisar

@@ -157,12 +157,21 @@ void project(std::string_view bytes) {
   }
 }
 
+/// A file that can't be read is kept beside; one that can be keeps what was not changed.
 void preferences(std::string_view bytes) {
-  const fs::path file = folder().write("preferences.json", bytes);
-  const trellisar::AddressBook book = trellisar::Preferences(file).addressBook();
-  trellisar::Preferences(file).setDefaultFolder("\\Rooms\\");
+  const fs::path parent = folder().path() / "preferences";
+  fs::create_directories(parent);
+  const fs::path file = folder().write("preferences/preferences.json", bytes);
+  bool isAside = false;
+  trellisar::Preferences kept(file, [&](const std::string&) { isAside = true; });
+  const trellisar::AddressBook book = kept.addressBook();
+  kept.setDefaultFolder("\\Rooms\\");
   require(trellisar::Preferences(file).addressBook() == book,
           "the address book changed with the folder");
+  const fs::path aside = parent / "preferences.json.unreadable";
+  require(fs::exists(aside) == isAside, "it was told otherwise than it was done");
+  require(!isAside || trellisar::readFile(aside) == bytes, "what was kept aside is not the file");
+  fs::remove_all(parent);
 }
 
 /// The kinds of file whose structure is changed. Each has a valid file among its kept cases.

@@ -245,28 +245,5 @@ TEST_F(MainWindowTest, PreferencesGiveTheDefaultFolderBelowTheEnvironment) {
   ::unsetenv("TRELLISAR_SYSTEMS");
 }
 
-TEST(Preferences, AreKeptAndTolerateADamagedFile) {
-  const TemporaryFolder folder;
-  const fs::path file = folder.path() / "deep" / "preferences.json";
-  {
-    trellisar::Preferences preferences(file);
-    preferences.setDefaultFolder("\\rooms");
-    for (int i = 0; i < 12; ++i) preferences.remember("\\" + std::to_string(i));
-    preferences.remember("\\5");
-  }
-  const trellisar::Preferences again(file);
-  EXPECT_EQ(again.defaultFolder(), "\\rooms");
-  ASSERT_EQ(again.recentSystems().size(), 10u);
-  EXPECT_EQ(again.recentSystems().front(), "\\5");
-  EXPECT_EQ(again.recentSystems()[1], "\\11");
-  for (const char* damaged :
-       {"{\"format\": \"trellisar-prefer",
-        R"({"format": "trellisar-preferences", "version": 1, "default_folder": "\\rooms",
-            "recent_systems": [], "address_book": {"receivers": [], "current": 1}})"}) {
-    writeFile(file, damaged);
-    EXPECT_EQ(trellisar::Preferences(file).defaultFolder(), "") << "nothing is read by halves";
-  }
-}
-
 }  // namespace
 }  // namespace tests

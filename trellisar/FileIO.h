@@ -28,7 +28,8 @@ class FolderLock {
   int descriptor_;
 };
 
-/// "The disk is full." for the number of a failed system call.
+/// Why a file or folder can't be made or written, for the number of a failed system call: "the disk
+/// is full. Make room or choose another folder."
 std::string systemReason(int errorNumber);
 
 }  // namespace trellisar

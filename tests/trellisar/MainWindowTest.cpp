@@ -38,7 +38,7 @@ TEST_F(MainWindowTest, SaveMakesTheFoldersAndSetsTheWord) {
   bool saved = true;
   host.document()->Save(folder.inside("none\\Room"), saved);
   EXPECT_FALSE(saved) << "the plain one makes no folder";
-  EXPECT_NE(host.document()->GetLastError().find("it does not exist"), std::string::npos);
+  EXPECT_NE(host.document()->GetLastError().find("its folder does not exist"), std::string::npos);
 }
 
 TEST_F(MainWindowTest, SaveThatCantBeLeavesEverythingAsItWas) {

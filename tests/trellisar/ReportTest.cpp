@@ -86,7 +86,7 @@ TEST_F(ReportTest, DialogShowsSavesAndTellsAFailure) {
     desktop.expectSaveDialog("Save Report", folder.inside("Sheet.html"));
     user.click(form.control("cmdSave"));
     desktop.expectSaveDialog("Save Report", folder.inside("none\\Sheet.html"));
-    desktop.expectMessageWith(forms::Icon::exclamation, "it does not exist");
+    desktop.expectMessageWith(forms::Icon::exclamation, "its folder does not exist");
     user.click(form.control("cmdSave"));
     user.press(forms::keys::escape);
   });

@@ -318,13 +318,13 @@ std::vector<std::string> devicesWithoutPort(const DocumentData& document) {
     if (!needsPort(*device) || fitsAt(document, *device, device->port)) continue;
     const Definition& definition = *device->definition;
     const std::int16_t taken = definition.portsTaken();
-    const std::int16_t count = portCount(document, portKind(definition.connection));
+    const std::string count = std::to_string(taken);
     sentences.push_back("\"" + device->name + "\" (" + definition.name + ") needs " +
-                        (taken == 1 ? "a " : std::to_string(taken) + " ") + portWords(definition) +
-                        ", and of the " + std::to_string(count) + " of the " +
-                        receiver->definition->name +
-                        " too few are free. Choose a device that is "
-                        "connected otherwise, or a receiver with more ports.");
+                        (taken == 1 ? "a" : count) + " " + portWords(definition) + ", and the " +
+                        receiver->definition->name + " has " +
+                        (taken == 1 ? "none left" : "no " + count + " left side by side") +
+                        ". Choose a device that is connected otherwise, or a receiver with more "
+                        "ports.");
   }
   return sentences;
 }

@@ -63,6 +63,8 @@ Command reportCommand(CLI::App& program) {
       program.add_subcommand("report", "Writes a system's bill of materials and connection sheet");
   command->add_option("FILE.tsy", options->systemFile, "A saved system")->required();
   command->add_option("--out", options->out, "Folder for the files")->capture_default_str();
+  command->add_flag("--replace", options->replace,
+                    "Lets files be replaced that are no earlier reports of the same system");
   return {command, [options] { return writeReports(*options); }};
 }
 

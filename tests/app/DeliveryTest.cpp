@@ -87,6 +87,22 @@ TEST_F(Delivery, panelBearsTheLabelsInCapitalsAndTheRoomsCommands) {
   EXPECT_EQ(commands["DISPLAY\r\nOFF"], "Off");
 }
 
+/// The drawing of the largest room stands below the sheet's head, the table on the next page. A
+/// program without a window writes no PDF.
+TEST_F(Delivery, drawingOfAFullRoomHasItsPlaceOnTheFirstPage) {
+  const fs::path hall = fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "lecture-hall.json";
+  const Outcome built = build({}, hall.string());
+  const std::string system = built.output.substr(0, built.output.find('\n'));
+  ASSERT_EQ(program.run({"report", system, "--out", "papers"}).status, 0);
+  const fs::path sheet = folder / "papers/Lecture Hall - Connection Sheet.pdf";
+  if (!fs::exists(sheet)) GTEST_SKIP();
+  const std::string bytes = readWhole(sheet);
+  const std::string page = "/Type /Page\n";
+  int pages = 0;
+  for (auto at = bytes.find(page); at != std::string::npos; at = bytes.find(page, at + 1)) ++pages;
+  EXPECT_EQ(pages, 2);
+}
+
 TEST_F(Delivery, reportsAreWrittenFromASavedSystem) {
   const Outcome built = build({});
   ASSERT_EQ(built.status, 0) << built.errors;

@@ -91,7 +91,13 @@ Command reportCommand(CLI::App& program) {
   command->add_option("--out", options->out, "Folder for the files")
       ->type_name("FOLDER")
       ->capture_default_str();
-  return {command, [options] { return writeReports(*options); }, statusesOfAReader()};
+  command->add_flag("--replace", options->replace,
+                    "Lets files be replaced that are no earlier reports of the same system");
+  return {command,
+          [options] { return writeReports(*options); },
+          {{"0", "done"},
+           {"1", "the files can't be written, or are not to be replaced"},
+           {"2", "the command line is wrong, or the file can't be read"}}};
 }
 
 Command wizardCommand(CLI::App& program) {

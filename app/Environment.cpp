@@ -12,7 +12,7 @@ std::filesystem::path componentsFile() {
 }
 
 trellisar::Preferences readOnlyPreferences() {
-  const trellisar::Preferences kept(trellisar::Preferences::usualFile());
+  const auto kept = trellisar::Preferences::lookedAt(trellisar::Preferences::usualFile());
   trellisar::Preferences preferences;
   preferences.setDefaultFolder(kept.defaultFolder());
   return preferences;

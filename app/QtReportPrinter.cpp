@@ -3,7 +3,6 @@
 #ifdef ORLENA_QT
 
 #include "qt/Printing.h"
-#include "trellisar/Report.h"
 
 namespace app {
 namespace {
@@ -19,6 +18,10 @@ class QtReportPrinter : public trellisar::ReportPrinter {
   }
 };
 
+class OffscreenReportPrinter : public QtReportPrinter {
+  qt::OffscreenApplication application_;
+};
+
 }  // namespace
 
 trellisar::ReportPrinter* reportPrinter() {
@@ -26,16 +29,8 @@ trellisar::ReportPrinter* reportPrinter() {
   return &printer;
 }
 
-std::vector<std::filesystem::path> writePdfReports(const trellisar::DocumentData& document,
-                                                   const std::filesystem::path& folder) {
-  const qt::OffscreenApplication application;
-  std::vector<std::filesystem::path> files;
-  for (const auto& report :
-       {trellisar::billOfMaterials(document), trellisar::connectionSheet(document)}) {
-    files.push_back(folder / (report.title + ".pdf"));
-    qt::writePdf(files.back(), report.title, trellisar::reportHtml(report));
-  }
-  return files;
+std::unique_ptr<trellisar::ReportPrinter> offscreenReportPrinter() {
+  return std::make_unique<OffscreenReportPrinter>();
 }
 
 }  // namespace app
@@ -46,10 +41,7 @@ namespace app {
 
 trellisar::ReportPrinter* reportPrinter() { return nullptr; }
 
-std::vector<std::filesystem::path> writePdfReports(const trellisar::DocumentData&,
-                                                   const std::filesystem::path&) {
-  return {};
-}
+std::unique_ptr<trellisar::ReportPrinter> offscreenReportPrinter() { return nullptr; }
 
 }  // namespace app
 

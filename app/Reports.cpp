@@ -1,5 +1,6 @@
 #include "app/Reports.h"
 
+#include "app/Environment.h"
 #include "app/ExitStatus.h"
 #include "app/QtReportPrinter.h"
 #include "app/RunReport.h"
@@ -19,9 +20,10 @@ int writeReports(const ReportsOptions& options) {
     return exitStatus::wrongInput;
   }
   try {
-    auto files = trellisar::writeReports(*document, options.out);
-    const auto pdfs = writePdfReports(*document, options.out);
-    files.insert(files.end(), pdfs.begin(), pdfs.end());
+    const auto printer = offscreenReportPrinter();
+    const auto files = trellisar::writeReports(
+        *document, options.out, {.pictures = dataFolder() / "pictures", .date = trellisar::today()},
+        printer.get(), options.replace);
     for (const auto& file : files) print(file.string() + "\n");
     return exitStatus::ok;
   } catch (const host::Error& error) {

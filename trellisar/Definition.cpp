@@ -40,6 +40,10 @@ bool PropertyDefinition::takes(std::string_view newValue) const {
   return false;
 }
 
+std::int16_t Definition::portsTaken() const {
+  return std::max<std::int16_t>(1, static_cast<std::int16_t>(terminals.size()));
+}
+
 const CommandDefinition* Definition::findCommand(std::string_view commandName) const {
   return findNamed(commands, commandName);
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace trellisar {
@@ -70,6 +71,10 @@ struct Definition {
   Connection connection = Connection::none;
   bool secondOff = false;
   bool projectPanel = false;  // of a user interface
+  /// What each wire of a device does, where it takes more than one port of its connection.
+  std::vector<std::string> terminals;
+  /// How many ports of a connection a receiver has; a connection that is not here has no limit.
+  std::vector<std::pair<Connection, std::int16_t>> ports;
   std::vector<CommandDefinition> commands;
   std::vector<SignalRow> furtherInputs;
   std::vector<SignalRow> outputs;
@@ -78,6 +83,8 @@ struct Definition {
   std::vector<PropertyDefinition> properties;
   std::vector<std::string> slots;  // of a module
 
+  /// How many ports of its connection a device takes, one behind the other.
+  std::int16_t portsTaken() const;
   const CommandDefinition* findCommand(std::string_view name) const;
   const PropertyDefinition* findProperty(std::string_view name) const;
   /// Empty when the driver has no command for the id.

@@ -23,7 +23,15 @@ constexpr Choices<Connection> connections = {
     {"serial", Connection::serial}, {"infrared", Connection::infrared},
     {"relay", Connection::relay},   {"contact", Connection::contact},
     {"sensor", Connection::sensor}, {"network", Connection::network},
-    {"link", Connection::link}};
+    {"link", Connection::link},     {"none", Connection::none}};
+
+constexpr std::int16_t mostPorts = 100;  // of one connection, far above what is built
+
+constexpr Choices<Connection> portConnections = {{"link", Connection::link},
+                                                 {"serial", Connection::serial},
+                                                 {"infrared", Connection::infrared},
+                                                 {"relay", Connection::relay},
+                                                 {"contact", Connection::contact}};
 
 constexpr Choices<std::int16_t> commandKinds = {{"momentary", host::commandMomentary},
                                                 {"pulse", host::commandPulse},
@@ -171,9 +179,23 @@ void readEntry(JsonReader& reader, Definition& definition) {
   readPart(reader, definition);
 }
 
+/// The receiver's ports by connection. Sensors take the ports of contacts, and the network has as
+/// many places as devices ask for.
+void readPorts(const JsonReader& list, Definition& definition) {
+  list.eachKey([&](const std::string& key, const JsonReader& count) {
+    for (const auto& [name, connection] : portConnections) {
+      if (key != name) continue;
+      definition.ports.emplace_back(connection, count.int16(0, mostPorts));
+      return;
+    }
+    count.fail("is no connection with ports of its own");
+  });
+}
+
 void readReceiver(JsonReader& reader, Definition& definition) {
   definition.modelId = reader.at("model_id").int16(1);
   definition.part = reader.at("part").int32(1);
+  reader.ifPresent("ports", [&](const JsonReader& list) { readPorts(list, definition); });
 }
 
 void readDriver(JsonReader& reader, Definition& definition) {
@@ -182,6 +204,11 @@ void readDriver(JsonReader& reader, Definition& definition) {
   definition.connection = reader.at("connection").choice(connections);
   reader.ifPresent("second_off",
                    [&](const JsonReader& value) { definition.secondOff = value.boolean(); });
+  reader.ifPresent("terminals", [&](const JsonReader& list) {
+    Names names;
+    list.each([&](const JsonReader& name) { definition.terminals.push_back(names.take(name)); });
+    if (definition.terminals.size() > mostPorts) list.fail("are more than a receiver has");
+  });
 }
 
 void readModule(JsonReader& reader, Definition& definition) {
@@ -248,6 +275,7 @@ void addDriver(Json& json, const Definition& definition) {
   json["type"] = definition.type;
   json["connection"] = nameOf(definition.connection, connections);
   if (definition.secondOff) json["second_off"] = true;
+  if (!definition.terminals.empty()) json["terminals"] = definition.terminals;
 }
 
 void addEntry(Json& json, const Definition& definition) {
@@ -263,6 +291,9 @@ void addEntry(Json& json, const Definition& definition) {
 void addReceiver(Json& json, const Definition& definition) {
   json["model_id"] = definition.modelId;
   json["part"] = definition.part;
+  for (const auto& [connection, count] : definition.ports) {
+    json["ports"][nameOf(connection, portConnections)] = count;
+  }
   addDriver(json, definition);
 }
 

@@ -1,3 +1,4 @@
+#include "forms/Paths.h"
 #include "host/Numbers.h"
 #include "trellisar/AddressBookDialog.h"
 #include "trellisar/DeviceDialog.h"
@@ -45,7 +46,9 @@ void MainWindowOperations::ShowPreferencesDialog() {
 void MainWindowOperations::ShowReportsDialog(const std::string& strReports) {
   note("ShowReportsDialog " + strReports);
   const DocumentData& document = *session_->data();
-  std::vector<Report> reports = reportsNamed(document, strReports);
+  const ReportOptions options{forms::toMachinePath(session_->libraryManager->get_PicturesFolder()),
+                              today()};
+  std::vector<Report> reports = reportsNamed(document, strReports, options);
   if (reports.empty()) return;
   ReportsDialog(std::move(reports), document.folder, session_->printer).run();
 }

@@ -127,10 +127,7 @@ void Document::ChangeControlSystem(std::int16_t iModelID, const std::string&, st
                  ". The receiver stays as it is.";
     return;
   }
-  takeDefinition(*receiver, definition);
-  receiver->description = definition->description;
-  receiver->maker = definition->maker;
-  data().markStructureChanged();
+  changeReceiver(data(), definition);
   const std::string missing = whatIsMissing(*receiver);
   if (missing.empty()) return;
   strMessage = "The program of \"" + receiver->name + "\" uses signals that the model " +

@@ -18,9 +18,40 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void fail(const std::string& what, const fs::path& file, int errorNumber) {
-  throw host::Error(host::errFile,
-                    what + " \"" + file.string() + "\": " + systemReason(errorNumber));
+[[noreturn]] void fail(const char* what, const fs::path& file, const std::string& reason) {
+  throw host::Error(host::errFile, std::string(what) + " \"" + file.string() + "\": " + reason);
+}
+
+std::string readingReason(int errorNumber) {
+  switch (errorNumber) {
+    case ENOENT:
+      return "it does not exist.";
+    case ENOTDIR:
+      return "a file stands where one of its folders should be.";
+    case EISDIR:
+      return "it is a folder and no file.";
+    case EACCES:
+    case EPERM:
+      return "access is denied. You need the right to read it.";
+    case ENAMETOOLONG:
+      return "the name is too long.";
+    default:
+      return std::generic_category().message(errorNumber) + ".";
+  }
+}
+
+[[noreturn]] void failToRead(const fs::path& file, int errorNumber) {
+  fail("Can't read", file, readingReason(errorNumber));
+}
+
+/// The system says the same of a folder that is missing and of one that takes no files.
+[[noreturn]] void failToWrite(const fs::path& file, int errorNumber) {
+  std::error_code error;
+  const bool hasFolder = file.parent_path().empty() || fs::is_directory(file.parent_path(), error);
+  if (errorNumber == ENOENT && !hasFolder) {
+    fail("Can't write", file, "its folder does not exist. Make it, or choose another one.");
+  }
+  fail("Can't write", file, systemReason(errorNumber));
 }
 
 class Descriptor {
@@ -78,8 +109,8 @@ Descriptor openBeside(const fs::path& beside, const fs::path& file) {
   while (true) {
     Descriptor opened(
         ::open(beside.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666));
-    if (!opened.isOpen()) fail("Can't write", file, errno);
-    if (flock(opened.number(), LOCK_EX) != 0) fail("Can't write", file, errno);
+    if (!opened.isOpen()) failToWrite(file, errno);
+    if (flock(opened.number(), LOCK_EX) != 0) failToWrite(file, errno);
     if (isSameFile(opened.number(), beside)) return opened;
   }
 }
@@ -123,20 +154,20 @@ std::string systemReason(int errorNumber) {
     case EDQUOT:
       return "the disk is full. Make room or choose another folder.";
     case EFBIG:
-      return "the file would be larger than the disk or its limit allows.";
+      return "the file would be larger than the disk or its limit allows. Choose another folder.";
     case EACCES:
     case EPERM:
       return "access is denied. Choose a folder that you may write to.";
     case EROFS:
       return "the disk can only be read. Choose another folder.";
     case ENOENT:
-      return "it does not exist.";
+      return "the place can't hold files. Choose another folder.";
     case ENOTDIR:
       return "a file stands where a folder should be. Choose another folder.";
     case EISDIR:
       return "a folder stands where the file should be. Choose another name.";
     case ENAMETOOLONG:
-      return "the name is too long.";
+      return "the name is too long. Choose a shorter one.";
     default:
       return std::generic_category().message(errorNumber) + ".";
   }
@@ -144,16 +175,16 @@ std::string systemReason(int errorNumber) {
 
 std::string readFile(const fs::path& file) {
   const Descriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
-  if (!opened.isOpen()) fail("Can't read", file, errno);
+  if (!opened.isOpen()) failToRead(file, errno);
   struct stat status {};
-  if (fstat(opened.number(), &status) != 0) fail("Can't read", file, errno);
+  if (fstat(opened.number(), &status) != 0) failToRead(file, errno);
   std::string content;
   content.reserve(static_cast<std::size_t>(status.st_size) + 1);
   char buffer[64 * 1024];
   while (true) {
     const ssize_t count = ::read(opened.number(), buffer, sizeof buffer);
     if (count < 0 && errno == EINTR) continue;
-    if (count < 0) fail("Can't read", file, errno);
+    if (count < 0) failToRead(file, errno);
     if (count == 0) return content;
     content.append(buffer, static_cast<std::size_t>(count));
   }
@@ -164,7 +195,7 @@ void replaceFile(const fs::path& named, std::string_view content) {
   const std::string name = file.filename().string();
   const fs::path beside = file.parent_path() / ("." + name + ".saving");
   std::error_code ignored;
-  if (fs::is_directory(file, ignored)) fail("Can't write", named, EISDIR);
+  if (fs::is_directory(file, ignored)) failToWrite(named, EISDIR);
   const NoSizeSignal noSizeSignal;
   const Descriptor opened = openBeside(beside, named);
   int error = writeAll(opened.number(), content);
@@ -174,9 +205,18 @@ void replaceFile(const fs::path& named, std::string_view content) {
   }
   if (error != 0) {
     ::unlink(beside.c_str());
-    fail("Can't write", named, error);
+    failToWrite(named, error);
   }
   flushFolder(file.parent_path());
+}
+
+FolderLock::FolderLock(const fs::path& folder)
+    : descriptor_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+  if (descriptor_ >= 0) static_cast<void>(flock(descriptor_, LOCK_EX));
+}
+
+FolderLock::~FolderLock() {
+  if (descriptor_ >= 0) ::close(descriptor_);
 }
 
 }  // namespace trellisar

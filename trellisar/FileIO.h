@@ -15,7 +15,21 @@ std::string readFile(const std::filesystem::path& file);
 /// Raises host::Error errFile with the file and the reason, and then the old content is untouched.
 void replaceFile(const std::filesystem::path& file, std::string_view content);
 
-/// "The disk is full." for the number of a failed system call.
+/// While it lives, no other program has a lock on the folder; who wants one waits. Without the
+/// folder there is none to wait for.
+class FolderLock {
+ public:
+  explicit FolderLock(const std::filesystem::path& folder);
+  ~FolderLock();
+  FolderLock(const FolderLock&) = delete;
+  FolderLock& operator=(const FolderLock&) = delete;
+
+ private:
+  int descriptor_;
+};
+
+/// Why a file or folder can't be made or written, for the number of a failed system call: "the disk
+/// is full. Make room or choose another folder."
 std::string systemReason(int errorNumber);
 
 }  // namespace trellisar

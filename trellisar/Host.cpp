@@ -1,5 +1,6 @@
 #include "trellisar/Host.h"
 
+#include "forms/Application.h"
 #include "forms/Components.h"
 #include "forms/Paths.h"
 #include "host/Numbers.h"
@@ -16,6 +17,12 @@ void registerDocumentObjects() {
   forms::registerObject(host::progIDDevice, [] { return std::make_shared<DeviceObject>(); });
 }
 
+/// Before a window is open, nobody has given the application its title.
+void tellPreferences(const std::string& problem) {
+  forms::Application::current().messageBox(problem, forms::Buttons::ok, forms::Icon::exclamation,
+                                           "Preferences");
+}
+
 }  // namespace
 
 Host::Host(const HostOptions& options)
@@ -28,7 +35,7 @@ Host::Host(const HostOptions& options)
   session_->libraryManager = std::make_shared<LibraryManager>(
       session_->library, forms::fromMachinePath(dataFolder_ / "pictures"));
   session_->panelTemplates = dataFolder_ / "PanelTemplates";
-  session_->preferences = Preferences(options.preferencesFile);
+  session_->preferences = Preferences(options.preferencesFile, tellPreferences);
   session_->replacing = options.replacing;
   session_->exportFile = options.exportFile.empty() ? fs::path() : fs::absolute(options.exportFile);
   session_->printer = options.printer;

@@ -124,14 +124,18 @@ std::string jsonText(const Json& json) {
   return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-const Json* JsonReader::find(const char* key) {
+const Json::object_t& JsonReader::members() const {
   if (!value_.is_object()) fail("must be an object");
-  const auto& members = value_.get_ref<const Json::object_t&>();
-  asked_.resize(members.size());
+  return value_.get_ref<const Json::object_t&>();
+}
+
+const Json* JsonReader::find(const char* key) {
+  const Json::object_t& all = members();
+  asked_.resize(all.size());
   // Files are mostly read in the order in which they were written.
-  for (std::size_t i = 0; i < members.size(); ++i) {
-    const std::size_t place = (expected_ + i) % members.size();
-    const auto& [name, value] = *(members.begin() + static_cast<std::ptrdiff_t>(place));
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    const std::size_t place = (expected_ + i) % all.size();
+    const auto& [name, value] = *(all.begin() + static_cast<std::ptrdiff_t>(place));
     if (name != key) continue;
     asked_[place] = true;
     expected_ = place + 1;
@@ -148,7 +152,7 @@ JsonReader JsonReader::at(const char* key) {
 
 void JsonReader::finish() const {
   std::size_t place = 0;
-  for (const auto& [key, value] : value_.get_ref<const Json::object_t&>()) {
+  for (const auto& [key, value] : members()) {
     const bool wasAsked = place < asked_.size() && asked_[place];
     if (!wasAsked) JsonReader(value, *this, key.c_str(), 0).fail("is no key that is known here");
     ++place;

@@ -51,6 +51,7 @@ class JsonReader {
     read(at(key));
     return true;
   }
+  /// Raises when the value is no object, or has a key that was not asked for.
   void finish() const;
 
   /// Calls `read` for each element of an array.
@@ -62,8 +63,7 @@ class JsonReader {
   /// Calls `read` with each key and value of an object.
   template <typename Read>
   void eachKey(Read&& read) const {
-    if (!value_.is_object()) fail("must be an object");
-    for (const auto& [key, value] : value_.items()) {
+    for (const auto& [key, value] : members()) {
       read(key, JsonReader(value, *this, key.c_str(), 0));
     }
   }
@@ -93,6 +93,7 @@ class JsonReader {
   JsonReader(const Json& value, const JsonReader& parent, const char* key, std::size_t index)
       : value_(value), file_(parent.file_), parent_(&parent), key_(key), index_(index) {}
 
+  const Json::object_t& members() const;
   const Json* find(const char* key);
   std::string place() const;
 

@@ -8,11 +8,15 @@
 #include "host/Error.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/Json.h"
+#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr const char* preferencesFormat = "trellisar-preferences";
+constexpr int preferencesVersion = 1;
 constexpr std::size_t maximumRecent = 10;
 constexpr JsonLimits preferencesLimits{1U << 20U, 10, 100};
 
@@ -59,89 +63,166 @@ std::string environment(const char* name) {
   return value ? value : "";
 }
 
-}  // namespace
-
-Preferences::Preferences(std::filesystem::path file) : file_(std::move(file)) {
-  if (file_.empty()) return;
-  try {
-    read();
-  } catch (const host::Error&) {
-    defaultFolder_.clear();
-    recentSystems_.clear();
-    addressBook_ = {};
-    ipSettings_ = {};
-  }
+bool isThere(const fs::path& file) {
+  std::error_code error;
+  return fs::exists(fs::symlink_status(file, error));
 }
 
-void Preferences::read() {
-  const std::string shown = file_.filename().string();
-  const Json json = parseJson(readFile(file_), shown, preferencesLimits);
+/// Beside the file, under a name that is free.
+fs::path placeAside(const fs::path& file) {
+  const std::string name = file.string() + ".unreadable";
+  fs::path place = name;
+  for (int number = 2; isThere(place); ++number) place = name + "-" + std::to_string(number);
+  return place;
+}
+
+bool contains(const AddressBook& book, const NamedAddress& receiver) {
+  return std::find(book.receivers.begin(), book.receivers.end(), receiver) != book.receivers.end();
+}
+
+/// What one host made of `before`, done to what another one has made of it.
+AddressBook merged(const AddressBook& before, const AddressBook& mine, AddressBook others) {
+  if (others == before) return mine;
+  const NamedAddress* wanted = mine.inUse();
+  const bool isChosen = wanted && (!before.inUse() || *wanted != *before.inUse());
+  const NamedAddress inUse = isChosen ? *wanted : others.inUse() ? *others.inUse() : NamedAddress();
+  std::erase_if(others.receivers, [&](const NamedAddress& receiver) {
+    return contains(before, receiver) && !contains(mine, receiver);
+  });
+  for (const NamedAddress& receiver : mine.receivers) {
+    const bool isNew = !contains(before, receiver) && !contains(others, receiver);
+    if (isNew) others.receivers.push_back(receiver);
+  }
+  const auto place = std::find(others.receivers.begin(), others.receivers.end(), inUse);
+  const bool isLeft = place != others.receivers.end();
+  others.current = isLeft ? static_cast<std::size_t>(place - others.receivers.begin()) : 0;
+  return others;
+}
+
+}  // namespace
+
+Preferences::Preferences(fs::path file, Tell tell)
+    : file_(std::move(file)), tell_(std::move(tell)) {
+  if (file_.empty()) return;
+  change([](Kept&) {});
+}
+
+Preferences Preferences::lookedAt(const fs::path& file) {
+  Preferences preferences;
+  try {
+    preferences.kept_ = read(file);
+  } catch (const host::Error&) {
+    // Who keeps them tells it.
+  }
+  return preferences;
+}
+
+Preferences::Kept Preferences::read(const fs::path& file) {
+  Kept kept;
+  if (!isThere(file)) return kept;
+  const std::string shown = file.filename().string();
+  const Json json = parseJson(readFile(file), shown, preferencesLimits);
   JsonReader reader(json, shown);
-  if (reader.at("format").text() != preferencesFormat) reader.fail("is another file");
-  reader.at("version").integer(1, 1);
-  defaultFolder_ = reader.at("default_folder").text();
+  const JsonReader format = reader.at("format");
+  if (format.text() != preferencesFormat) format.fail("is another file's");
+  const JsonReader version = reader.at("version");
+  if (const auto number = version.integer(1, INT32_MAX); number != preferencesVersion) {
+    version.fail("the file is of version " + std::to_string(number) +
+                 "; this program reads version " + std::to_string(preferencesVersion));
+  }
+  kept.defaultFolder = reader.at("default_folder").text();
   reader.at("recent_systems").each([&](const JsonReader& item) {
-    if (recentSystems_.size() < maximumRecent) recentSystems_.push_back(item.text());
+    if (kept.recentSystems.size() < maximumRecent) kept.recentSystems.push_back(item.text());
   });
   // Files of before there was a link to a receiver lack them.
   reader.ifPresent("address_book",
-                   [&](const JsonReader& item) { addressBook_ = readAddressBook(item); });
+                   [&](const JsonReader& item) { kept.addressBook = readAddressBook(item); });
   reader.ifPresent("ip_settings",
-                   [&](const JsonReader& item) { ipSettings_ = readIPSettings(item); });
+                   [&](const JsonReader& item) { kept.ipSettings = readIPSettings(item); });
+  return kept;
 }
 
-void Preferences::write() const {
-  if (file_.empty()) return;
+void Preferences::write(const fs::path& file, const Kept& kept) {
   Json json;
   json["format"] = preferencesFormat;
-  json["version"] = 1;
-  json["default_folder"] = defaultFolder_;
-  json["recent_systems"] = recentSystems_;
-  json["address_book"] = toJson(addressBook_);
-  json["ip_settings"] = toJson(ipSettings_);
-  std::error_code error;
-  std::filesystem::create_directories(file_.parent_path(), error);
+  json["version"] = preferencesVersion;
+  json["default_folder"] = kept.defaultFolder;
+  json["recent_systems"] = kept.recentSystems;
+  json["address_book"] = toJson(kept.addressBook);
+  json["ip_settings"] = toJson(kept.ipSettings);
+  replaceFile(file, jsonText(json));
+}
+
+Preferences::Kept Preferences::readOrMoveAside() {
   try {
-    replaceFile(file_, jsonText(json));
-  } catch (const host::Error&) {
-    // Preferences that can't be kept are no reason to trouble the user in the middle of a save.
+    return read(file_);
+  } catch (const host::Error& error) {
+    const fs::path aside = placeAside(file_);
+    std::error_code failure;
+    fs::rename(file_, aside, failure);
+    if (failure) throw;
+    tell("The preferences could not be read, and begin anew.\r\n\r\n" + error.description() +
+         "\r\n\r\nThe address book and all else that they held is kept in \"" + aside.string() +
+         "\".");
+  }
+  return {};
+}
+
+void Preferences::change(const std::function<void(Kept&)>& edit) {
+  if (file_.empty()) return edit(kept_);
+  try {
+    const FolderLock alone(file_.parent_path());
+    Kept kept = readOrMoveAside();
+    const Kept before = kept;
+    edit(kept);
+    if (kept != before) {
+      MadeFolders folders(file_.parent_path());
+      write(file_, kept);
+      folders.keep();
+    }
+    kept_ = std::move(kept);
+  } catch (const host::Error& error) {
+    edit(kept_);
+    tell("The preferences can't be kept: they last until the program ends.\r\n\r\n" +
+         error.description());
   }
 }
 
+void Preferences::tell(const std::string& problem) {
+  if (tell_ && told_ != problem) tell_(problem);
+  told_ = problem;
+}
+
 void Preferences::setDefaultFolder(const std::string& folder) {
-  if (defaultFolder_ == folder) return;
-  defaultFolder_ = folder;
-  write();
+  change([&](Kept& kept) { kept.defaultFolder = folder; });
 }
 
 void Preferences::forget(const std::string& system) {
-  if (std::erase(recentSystems_, system) > 0) write();
+  change([&](Kept& kept) { std::erase(kept.recentSystems, system); });
 }
 
 void Preferences::setAddressBook(const AddressBook& book) {
-  if (addressBook_ == book) return;
-  addressBook_ = book;
-  write();
+  const AddressBook before = kept_.addressBook;
+  change([&](Kept& kept) { kept.addressBook = merged(before, book, kept.addressBook); });
 }
 
 void Preferences::setIPSettings(const IPSettings& settings) {
-  if (ipSettings_ == settings) return;
-  ipSettings_ = settings;
-  write();
+  change([&](Kept& kept) { kept.ipSettings = settings; });
 }
 
 void Preferences::remember(const std::string& system) {
-  if (!recentSystems_.empty() && recentSystems_.front() == system) return;
-  std::erase(recentSystems_, system);
-  recentSystems_.insert(recentSystems_.begin(), system);
-  if (recentSystems_.size() > maximumRecent) recentSystems_.resize(maximumRecent);
-  write();
+  change([&](Kept& kept) {
+    auto& systems = kept.recentSystems;
+    std::erase(systems, system);
+    systems.insert(systems.begin(), system);
+    if (systems.size() > maximumRecent) systems.resize(maximumRecent);
+  });
 }
 
-std::filesystem::path Preferences::usualFile() {
+fs::path Preferences::usualFile() {
   std::string folder = environment("XDG_CONFIG_HOME");
   if (folder.empty()) folder = environment("HOME") + "/.config";
-  return std::filesystem::path(folder) / "trellisar" / "preferences.json";
+  return fs::path(folder) / "trellisar" / "preferences.json";
 }
 
 }  // namespace trellisar

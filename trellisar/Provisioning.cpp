@@ -6,6 +6,7 @@
 #include <set>
 #include <utility>
 
+#include "forms/Text.h"
 #include "host/Numbers.h"
 
 namespace trellisar {
@@ -22,11 +23,29 @@ Connection portKind(Connection connection) {
 /// IP-IDs below 3 belong to the receiver itself.
 std::int16_t firstPort(Connection connection) { return connection == Connection::network ? 3 : 1; }
 
-bool isPortFree(const DocumentData& document, Connection connection, std::int16_t port) {
-  const auto takes = [&](const DevicePtr& device) {
-    return device->port == port && portKind(device->definition->connection) == connection;
+/// How many ports of a connection the document's receiver has.
+std::int16_t portCount(const DocumentData& document, Connection connection) {
+  const DevicePtr receiver = document.find(document.controlSystem);
+  if (receiver) {
+    for (const auto& [portConnection, count] : receiver->definition->ports) {
+      if (portConnection == connection) return count;
+    }
+  }
+  return INT16_MAX;
+}
+
+/// Whether the receiver has the port and those behind it that the device takes, and no other device
+/// is at one of them.
+bool fitsAt(const DocumentData& document, const DeviceData& device, std::int16_t port) {
+  const Connection connection = portKind(device.definition->connection);
+  const int end = port + device.definition->portsTaken();
+  if (port < firstPort(connection) || end - 1 > portCount(document, connection)) return false;
+  const auto isInTheWay = [&](const DevicePtr& other) {
+    return other->id != device.id && other->port > 0 && other->port < end &&
+           portKind(other->definition->connection) == connection &&
+           other->port + other->definition->portsTaken() > port;
   };
-  return std::none_of(document.devices.begin(), document.devices.end(), takes);
+  return std::none_of(document.devices.begin(), document.devices.end(), isInTheWay);
 }
 
 /// The number at the end of a name such as "Digital Input 2"; 0 without one.
@@ -37,16 +56,76 @@ std::int16_t numberAtEnd(const std::string& name) {
   return number;
 }
 
-/// The port that the name speaks of, if it is free, else the first free one.
-std::int16_t choosePort(const DocumentData& document, const Definition& definition,
-                        const std::string& name) {
-  const Connection connection = portKind(definition.connection);
-  if (connection == Connection::none) return 0;
-  const std::int16_t named = numberAtEnd(name);
-  if (named >= firstPort(connection) && isPortFree(document, connection, named)) return named;
-  std::int16_t port = firstPort(connection);
-  while (!isPortFree(document, connection, port)) ++port;
-  return port;
+/// The port that the name speaks of, if it is free, else the first free one; 0 when none is. A
+/// transmitter is at the link of its name or at none.
+std::int16_t choosePort(const DocumentData& document, const DeviceData& device) {
+  const Connection connection = portKind(device.definition->connection);
+  if (connection == Connection::none || device.parent == 0) return 0;
+  const std::int16_t named = numberAtEnd(device.name);
+  if (fitsAt(document, device, named)) return named;
+  if (connection == Connection::link && named > portCount(document, connection)) return 0;
+  const int last = portCount(document, connection);
+  for (int port = firstPort(connection); port <= last; ++port) {
+    if (fitsAt(document, device, static_cast<std::int16_t>(port))) {
+      return static_cast<std::int16_t>(port);
+    }
+  }
+  return 0;
+}
+
+bool needsPort(const DeviceData& device) {
+  return device.parent != 0 && device.definition->connection != Connection::none;
+}
+
+/// "serial port", and "relays" where a device takes more than one.
+std::string portWords(const Definition& definition) {
+  const std::string plural = definition.portsTaken() == 1 ? "" : "s";
+  switch (portKind(definition.connection)) {
+    case Connection::serial:
+      return "serial port" + plural;
+    case Connection::infrared:
+      return "infrared port" + plural;
+    case Connection::relay:
+      return "relay" + plural;
+    case Connection::link:
+      return "link port" + plural;
+    case Connection::network:
+      return "IP-ID" + plural;
+    default:
+      return "digital input" + plural;
+  }
+}
+
+/// Two digits at least.
+std::string hexadecimal(std::int16_t number) {
+  std::array<char, 8> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16);
+  std::string text(digits.data(), end.ptr);
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+  return text.size() < 2 ? "0" + text : text;
+}
+
+std::string portText(Connection connection, std::int16_t port) {
+  const std::string number = std::to_string(port);
+  switch (connection) {
+    case Connection::none:
+      return {};
+    case Connection::serial:
+      return "Serial Port " + number;
+    case Connection::infrared:
+      return "Infrared Port " + number;
+    case Connection::relay:
+      return "Relay " + number;
+    case Connection::contact:
+    case Connection::sensor:
+      return "Digital Input " + number;
+    case Connection::network:
+      return "IP-ID " + hexadecimal(port);
+    case Connection::link:
+      return "OL" + number;
+  }
+  return {};
 }
 
 bool isNameTaken(const DocumentData& document, Kind kind, const std::string& name,
@@ -183,11 +262,11 @@ DevicePtr addDevice(DocumentData& document, const DefinitionPtr& definition,
   }
   device->parent = parent;
   device->name = name;
-  device->description = definition->description;
+  device->description = isPanel ? definition->description : describe(*definition);
   device->maker = definition->maker;
   device->libraryId = definition->controlEntry;
-  if (parent != 0) device->port = choosePort(document, *definition, name);
   takeDefinition(*device, definition);
+  device->port = choosePort(document, *device);
   (isPanel ? document.panels : document.devices).push_back(device);
   document.enter(device);
   document.markStructureChanged();
@@ -221,44 +300,63 @@ void removeDevice(DocumentData& document, const DevicePtr& device) {
   document.markStructureChanged();
 }
 
+void changeReceiver(DocumentData& document, const DefinitionPtr& definition) {
+  const DevicePtr receiver = document.find(document.controlSystem);
+  takeDefinition(*receiver, definition);
+  receiver->description = describe(*definition);
+  receiver->maker = definition->maker;
+  for (const DevicePtr& device : document.devices) {
+    if (!fitsAt(document, *device, device->port)) device->port = choosePort(document, *device);
+  }
+  document.markStructureChanged();
+}
+
+std::vector<std::string> devicesWithoutPort(const DocumentData& document) {
+  const DevicePtr receiver = document.find(document.controlSystem);
+  std::vector<std::string> sentences;
+  for (const DevicePtr& device : document.devices) {
+    if (!needsPort(*device) || fitsAt(document, *device, device->port)) continue;
+    const Definition& definition = *device->definition;
+    const std::int16_t taken = definition.portsTaken();
+    const std::string count = std::to_string(taken);
+    sentences.push_back("\"" + device->name + "\" (" + definition.name + ") needs " +
+                        (taken == 1 ? "a" : count) + " " + portWords(definition) + ", and the " +
+                        receiver->definition->name + " has " +
+                        (taken == 1 ? "none left" : "no " + count + " left side by side") +
+                        ". Choose a device that is connected otherwise, or a receiver with more "
+                        "ports.");
+  }
+  return sentences;
+}
+
 bool canTakePort(const DocumentData& document, const DeviceData& device, std::int16_t port) {
-  const Connection connection = portKind(device.definition->connection);
-  if (connection == Connection::none || device.parent == 0) return false;
-  if (port == device.port) return true;
-  return port >= firstPort(connection) && isPortFree(document, connection, port);
+  return needsPort(device) && (port == device.port || fitsAt(document, device, port));
+}
+
+std::string describe(const Definition& definition) {
+  const std::string start = forms::lowerCase(definition.name);
+  if (forms::lowerCase(definition.description).starts_with(start)) return definition.description;
+  if (definition.description.empty()) return definition.name;
+  return definition.name + ": " + definition.description;
 }
 
 std::string portText(const DeviceData& device) {
-  if (device.port == 0) return {};
-  const std::string number = std::to_string(device.port);
-  switch (device.definition->connection) {
-    case Connection::none:
-      return {};
-    case Connection::serial:
-      return "Serial Port " + number;
-    case Connection::infrared:
-      return "Infrared Port " + number;
-    case Connection::relay:
-      return "Relay " + number;
-    case Connection::contact:
-    case Connection::sensor:
-      return "Digital Input " + number;
-    case Connection::network:
-      return "IP-ID " + ipId(device);
-    case Connection::link:
-      return "OL" + number;
+  return device.port == 0 ? "" : portText(device.definition->connection, device.port);
+}
+
+std::vector<std::string> portTexts(const DeviceData& device) {
+  std::vector<std::string> texts;
+  if (device.port == 0) return texts;
+  for (std::int16_t i = 0; i < device.definition->portsTaken(); ++i) {
+    texts.push_back(
+        portText(device.definition->connection, static_cast<std::int16_t>(device.port + i)));
   }
-  return {};
+  return texts;
 }
 
 std::string ipId(const DeviceData& device) {
   if (device.definition->connection != Connection::network || device.port == 0) return {};
-  std::array<char, 8> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), device.port, 16);
-  std::string text(digits.data(), end.ptr);
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
-  return text.size() < 2 ? "0" + text : text;
+  return hexadecimal(device.port);
 }
 
 }  // namespace trellisar

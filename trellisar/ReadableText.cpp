@@ -118,8 +118,9 @@ class Reader {
     std::string text = "    " + device.name;
     if (!type.empty()) text += ": " + type;
     if (!device.label.empty()) text += ", labelled " + inQuotes(device.label);
-    if (const std::string port = portText(device); !port.empty() && port != device.name)
-      text += ", " + port;
+    for (const std::string& port : portTexts(device)) {
+      if (port != device.name) text += ", " + port;
+    }
     text += powerControl(device) + "\n" + properties(device, "        ");
     for (const DevicePtr& module : device.modules) {
       text += "        module " + module->shortName + " (" + module->name + ")\n" +
@@ -142,6 +143,8 @@ class Reader {
   std::string devices() const {
     std::string text = "\nDevices\n";
     for (const DevicePtr& item : listedDevices(document_)) text += device(*item);
+    for (const std::string& problem : devicesWithoutPort(document_))
+      text += "    " + problem + "\n";
     return text;
   }
 

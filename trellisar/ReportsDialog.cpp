@@ -61,7 +61,7 @@ void ReportsDialog::save() {
   dialog.title = "Save Report";
   dialog.filter = printer_ ? "PDF (*.pdf)|*.pdf|HTML (*.html)|*.html" : "HTML (*.html)|*.html";
   dialog.defaultExtension = printer_ ? "pdf" : "html";
-  dialog.fileName = shown().title + "." + dialog.defaultExtension;
+  dialog.fileName = reportFileName(shown(), dialog.defaultExtension);
   dialog.initialFolder = folder_;
   const std::string file = forms::Application::current().desktop().chooseFileToSave(dialog);
   if (file.empty()) return;

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "tests/app/Program.h"
 #include "tests/receiver/Running.h"
+#include "trellisar/PanelProject.h"
 
 namespace app {
 namespace {
@@ -71,13 +74,54 @@ TEST_F(Delivery, wrongCommandLineStartsNothing) {
   }
 }
 
+TEST_F(Delivery, panelBearsTheLabelsInCapitalsAndTheRoomsCommands) {
+  const fs::path hall = fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "lecture-hall.json";
+  const Outcome built = build({"--export", "hall.tsa"}, hall.string());
+  ASSERT_EQ(built.status, 0) << built.errors;
+  const fs::path system = built.output.substr(0, built.output.find('\n'));
+  std::map<std::string, std::string> commands;
+  for (const auto& page : trellisar::readPanelProject(system.parent_path() / "Fenlet.tpj").pages) {
+    for (const auto& object : page.objects) commands[object.text] = object.command;
+  }
+  EXPECT_TRUE(commands.contains("LECTERN\r\nSELECTED"));
+  EXPECT_TRUE(commands.contains("ROW 1\r\nSELECTED"));
+  EXPECT_EQ(commands["SCREEN\r\nDOWN"], "Down");
+  EXPECT_EQ(commands["DISPLAY\r\nOFF"], "Off");
+}
+
+/// The drawing of the largest room stands below the sheet's head, the table on the next page. A
+/// program without a window writes no PDF.
+TEST_F(Delivery, drawingOfAFullRoomHasItsPlaceOnTheFirstPage) {
+  const fs::path hall = fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "lecture-hall.json";
+  const Outcome built = build({}, hall.string());
+  const std::string system = built.output.substr(0, built.output.find('\n'));
+  ASSERT_EQ(program.run({"report", system, "--out", "papers"}).status, 0);
+  const fs::path sheet = folder / "papers/Lecture Hall - Connection Sheet.pdf";
+  if (!fs::exists(sheet)) GTEST_SKIP();
+  const std::string bytes = readWhole(sheet);
+  const std::string page = "/Type /Page\n";
+  int pages = 0;
+  for (auto at = bytes.find(page); at != std::string::npos; at = bytes.find(page, at + 1)) ++pages;
+  EXPECT_EQ(pages, 2);
+}
+
 TEST_F(Delivery, reportsAreWrittenFromASavedSystem) {
   const Outcome built = build({});
   ASSERT_EQ(built.status, 0) << built.errors;
   const std::string system = built.output.substr(0, built.output.find('\n'));
   EXPECT_EQ(program.run({"report", system, "--out", "papers"}).status, 0);
-  EXPECT_NE(readWhole(folder / "papers/Connection Sheet.html").find("Wall Plate Transmitter"),
-            std::string::npos);
+  const fs::path sheet = folder / "papers/Meeting Room - Connection Sheet.html";
+  EXPECT_NE(readWhole(sheet).find("Wall Plate Transmitter"), std::string::npos);
+  EXPECT_EQ(program.run({"report", system, "--out", "papers"}).status, 0) << "its own are replaced";
+  fs::create_directory(folder / "other");
+  fs::copy_file(system, folder / "other/Meeting Room.tsy");
+  const Outcome refused = program.run({"report", "other/Meeting Room.tsy", "--out", "papers"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_NE(refused.errors.find("Meeting Room - Bill of Materials.html\" is there already"),
+            std::string::npos)
+      << refused.errors;
+  EXPECT_EQ(
+      program.run({"report", "other/Meeting Room.tsy", "--out", "papers", "--replace"}).status, 0);
   EXPECT_EQ(program.run({"report", "nowhere.tsy"}).status, 2);
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include "tests/fuzz/Targets.h"
@@ -19,6 +20,21 @@ TEST(KeptCases, areTakenOrRefusedAndNothingElse) {
       std::stringstream bytes;
       bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
       EXPECT_NO_THROW(target(bytes.str())) << entry.path();
+    }
+  }
+}
+
+/// A share of what tools/fuzz tries for as long as it is let; the same one in every run.
+TEST(ChangedStructure, isTakenOrRefusedAndNothingElse) {
+  constexpr int kindsOfFile = 6;
+  constexpr int changesOfEach = 200;
+  const tests::FuzzTarget target = tests::fuzzTargets().at("structure");
+  for (int kind = 0; kind < kindsOfFile; ++kind) {
+    std::mt19937 random(1);
+    for (int i = 0; i < changesOfEach; ++i) {
+      std::string bytes(1, static_cast<char>(kind));
+      while (bytes.size() < 5) bytes += static_cast<char>(random() % 256);
+      EXPECT_NO_THROW(target(bytes)) << "change " << i << " of kind " << kind;
     }
   }
 }

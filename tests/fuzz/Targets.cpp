@@ -17,11 +17,15 @@
 #include "receiver/Error.h"
 #include "receiver/Frame.h"
 #include "receiver/Messages.h"
+#include "tests/fuzz/Structure.h"
 #include "trellisar/Archive.h"
 #include "trellisar/DeviceLibrary.h"
+#include "trellisar/FileIO.h"
 #include "trellisar/Host.h"
 #include "trellisar/Json.h"
 #include "trellisar/Listing.h"
+#include "trellisar/PanelProject.h"
+#include "trellisar/Preferences.h"
 #include "trellisar/ProgramCheck.h"
 #include "trellisar/SystemFile.h"
 
@@ -142,12 +146,64 @@ void protocol(std::string_view bytes) {
   }
 }
 
+void project(std::string_view bytes) {
+  try {
+    const auto read = trellisar::readPanelProject(folder().write("Panel.tpj", bytes));
+    const std::string text = trellisar::panelProjectText(read);
+    const auto again = trellisar::readPanelProject(folder().write("Panel.tpj", text));
+    require(trellisar::panelProjectText(again) == text,
+            "the project changed when it was read again");
+  } catch (const host::Error&) {
+  }
+}
+
+/// A file that can't be read is kept beside; one that can be keeps what was not changed.
+void preferences(std::string_view bytes) {
+  const fs::path parent = folder().path() / "preferences";
+  fs::create_directories(parent);
+  const fs::path file = folder().write("preferences/preferences.json", bytes);
+  bool isAside = false;
+  trellisar::Preferences kept(file, [&](const std::string&) { isAside = true; });
+  const trellisar::AddressBook book = kept.addressBook();
+  kept.setDefaultFolder("\\Rooms\\");
+  require(trellisar::Preferences(file).addressBook() == book,
+          "the address book changed with the folder");
+  const fs::path aside = parent / "preferences.json.unreadable";
+  require(fs::exists(aside) == isAside, "it was told otherwise than it was done");
+  require(!isAside || trellisar::readFile(aside) == bytes, "what was kept aside is not the file");
+  fs::remove_all(parent);
+}
+
+/// The kinds of file whose structure is changed. Each has a valid file among its kept cases.
+constexpr std::pair<const char*, FuzzTarget> structured[] = {
+    {"system", system},           {"library", library}, {"project", project},
+    {"preferences", preferences}, {"archive", archive}, {"answers", answers}};
+
+trellisar::Json wholeFile(const std::string& kind) {
+  const fs::path file = fs::path(ORLENA_SOURCE_FOLDER) / "tests/fuzz/cases" / kind / "whole";
+  if (kind == "archive") return archiveStructure(file);
+  return trellisar::parseJson(trellisar::readFile(file), kind);
+}
+
+/// The first byte chooses the kind of file, each of the next ones a change.
+void structure(std::string_view bytes) {
+  Decisions decisions(bytes);
+  const auto& [kind, target] = structured[decisions.below(std::size(structured))];
+  static std::map<std::string, trellisar::Json> files;
+  if (!files.contains(kind)) files[kind] = wholeFile(kind);
+  trellisar::Json json = files[kind];
+  constexpr int mostChanges = 4;
+  for (int i = 0; i < mostChanges && !decisions.isEmpty(); ++i) changeStructure(json, decisions);
+  target(kind == std::string("archive") ? archiveBytes(json) : trellisar::jsonText(json));
+}
+
 }  // namespace
 
 const std::map<std::string, FuzzTarget>& fuzzTargets() {
   static const std::map<std::string, FuzzTarget> targets{
-      {"settings", settings}, {"system", system},   {"library", library},
-      {"answers", answers},   {"archive", archive}, {"protocol", protocol}};
+      {"settings", settings}, {"system", system},           {"library", library},
+      {"answers", answers},   {"archive", archive},         {"protocol", protocol},
+      {"project", project},   {"preferences", preferences}, {"structure", structure}};
   return targets;
 }
 

@@ -1,18 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include "forms/Application.h"
 #include "forms/CommandButton.h"
 #include "forms/Form.h"
-#include "forms/Paths.h"
 #include "forms/User.h"
 #include "host/Error.h"
 #include "host/ErrorLog.h"
 #include "host/Numbers.h"
 #include "host/ctlSteps.h"
+#include "tests/support/Files.h"
 #include "tests/support/ScriptedDesktop.h"
 
 namespace tests {
@@ -65,15 +61,12 @@ TEST_F(ControlsTest, ErrorLogShowsWarningsAndWritesWhatItShows) {
   item(host::severityWarning, "No command\r\nfor the button.");
   EXPECT_TRUE(log.HasItems());
 
-  const auto file = std::filesystem::temp_directory_path() / "trellisar-error-log-test.txt";
-  const std::string path = forms::fromMachinePath(file);
+  const TemporaryFolder folder;
+  const std::string path = folder.inside("messages.txt");
   log.SaveToFile(path, false);
   log.SaveToFile(path, true);
-  std::ostringstream written;
-  written << std::ifstream(file).rdbuf();
-  std::filesystem::remove(file);
   const std::string line = "Warning\tNo command for the button.\r\n";
-  EXPECT_EQ(written.str(), line + line);
+  EXPECT_EQ(fileText(folder.path() / "messages.txt"), line + line);
   EXPECT_THROW(log.SaveToFile(path + "\\deeper", false), host::Error);
   log.Clear();
   EXPECT_FALSE(log.HasItems());

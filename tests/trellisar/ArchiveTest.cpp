@@ -124,7 +124,7 @@ TEST_F(ArchiveTest, SameRoomGivesTheSameBytesInEveryTimeZone) {
 }
 
 TEST_F(ArchiveTest, ExportThatCantBeIsToldAndReplacesNothing) {
-  desktop.expectMessageWith(forms::Icon::critical, "it does not exist");
+  desktop.expectMessageWith(forms::Icon::critical, "its folder does not exist");
   exportTo("none\\Room.tsa");
   writeFile(folder.path() / "Old.tsa", "old");
   fs::remove(inRoom("Büro.tsp"));

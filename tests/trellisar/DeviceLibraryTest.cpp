@@ -77,6 +77,20 @@ TEST_F(DeviceLibraryTest, ReadsOnlyTheFilesItIsAskedFor) {
 
 TEST(ShippedLibrary, PassesItsCheck) { EXPECT_NO_THROW(shippedLibrary()->check()); }
 
+TEST(ShippedLibrary, SendsNoCommandThroughAnInput) {
+  using Connection = trellisar::Definition::Connection;
+  for (const auto& device : shippedLibrary()->all(trellisar::Definition::Form::device)) {
+    const bool isInput =
+        device->connection == Connection::contact || device->connection == Connection::sensor;
+    EXPECT_TRUE(!isInput || device->commands.empty()) << device->name;
+    EXPECT_TRUE(device->terminals.empty() || device->connection == Connection::relay)
+        << device->name;
+    for (const std::string& terminal : device->terminals) {
+      EXPECT_TRUE(device->findCommand(terminal)) << device->name << ": " << terminal;
+    }
+  }
+}
+
 TEST(ShippedLibrary, FilterLeavesTheTypesThatItNames) {
   const trellisar::LibraryManager manager(shippedLibrary(), "\\pictures");
   const auto all = manager.offered("Screen").size();

@@ -113,7 +113,7 @@ TEST_F(PanelTest, ProjectThatCantBeMadeIsToldInTheList) {
   EXPECT_NE(refusal().find("has no page whose name begins with \"[Other]\""), std::string::npos);
   manager->SetTemplatePrefix("[Orlena]");
   data().folder = folder.inside("none\\");
-  EXPECT_NE(refusal().find("it does not exist"), std::string::npos);
+  EXPECT_NE(refusal().find("its folder does not exist"), std::string::npos);
   constexpr std::int16_t plainTouchPanel = 52;
   panel = window().AddInterface(plainTouchPanel, data().controlSystem, "");
   EXPECT_NE(refusal().find("has no project template for panels of model 52"), std::string::npos);

@@ -35,20 +35,80 @@ class ReportTest : public HostTest {
   std::int16_t panel = 0;
 };
 
-TEST_F(ReportTest, ConnectionSheetNamesThePortOfEveryDevice) {
+TEST_F(ReportTest, ConnectionSheetNamesEveryTerminalAndItsUse) {
   const auto sensed = data().find(add("Sensed", host::entryMotionDetector));
   sensed->port = 0;
   sensed->sensorHandle = 7;
   sensed->sensorFormat = "i4";
+  constexpr std::int16_t entryOfLiftWithTwoRelays = 2302;
+  add("Lift", entryOfLiftWithTwoRelays);
+  const std::int16_t mute =
+      data().findByName(trellisar::DeviceData::Kind::device, "Digital Input 3", "Receiver")->id;
+  const auto contact = signal(mute, "dig_input_1");
+  const std::int16_t receiver = data().controlSystem;
+  press(*contact->GetEvent(host::eventHigh)->get_Preset(), receiver, "Volume_Mute_On");
+  press(*branch(*contact->GetEvent(host::eventLow)->get_Preset(), receiver, "Powered_On"), receiver,
+        "Volume_Mute_Off");
   const auto sheet = trellisar::connectionSheet(data());
-  EXPECT_TRUE(has(sheet, {"Serial Port 1", "Serial", "Display Device", "Bravonne P2200",
-                          "\"Big\" screen's", "", "Receiver"}));
-  EXPECT_TRUE(has(sheet, {"Relay 1", "Relay", "Power Relay", "Power Relay", "", "", "Receiver"}));
-  EXPECT_TRUE(has(sheet, {"IP-ID 03", "Network", "Kestrum Interface", "Kestrum Interface", "",
-                          "10.0.0.9", "Receiver"}));
-  EXPECT_TRUE(
-      has(sheet, {"Digital Input 4", "Sensor", "Receiver", "Power Sensor", "", "", "Receiver"}));
-  EXPECT_EQ(sheet.rows.back(), (Row{"", "", "Fenlet", "Fenlet", "", "", "Receiver"}));
+  for (const Row& row : std::vector<Row>{
+           {"Serial Port 1", "Serial", "Display Device", "Bravonne P2200", "control",
+            "\"Big\" screen's", "9600 baud"},
+           {"Relay 1", "Relay", "Power Relay", "Power Relay", "mains of the display", "", ""},
+           {"Relay 2", "Relay", "Lift", "Hoistrel HL-60", "Down", "", ""},
+           {"Relay 3", "Relay", "Lift", "Hoistrel HL-60", "Up", "", ""},
+           {"IP-ID 03", "Network", "Kestrum Interface", "Kestrum Interface", "help desk", "",
+            "10.0.0.9"},
+           {"Network", "Network", "Fenlet", "Fenlet", "panel", "", ""},
+           {"Digital Input 2", "Contact", "Digital Input 2", "Digital Input", "", "", ""},
+           {"Digital Input 3", "Contact", "Digital Input 3", "Digital Input",
+            "closes: Volume_Mute_On; opens: Volume_Mute_Off", "", ""},
+           {"Digital Input 4", "Sensor", "Receiver", "Power Sensor", "mains current of the display",
+            "", ""}}) {
+    EXPECT_TRUE(has(sheet, row)) << testing::PrintToString(row);
+  }
+}
+
+TEST_F(ReportTest, RevisionIsAnotherWhenTheRoomIs) {
+  const std::string revision = trellisar::revisionOf(data());
+  EXPECT_EQ(trellisar::revisionOf(data()), revision);
+  const auto display =
+      data().findByName(trellisar::DeviceData::Kind::device, "Display Device", "Receiver");
+  const auto change = [&](auto& value, const auto& other) {
+    const auto old = std::exchange(value, other);
+    EXPECT_NE(trellisar::revisionOf(data()), revision);
+    value = old;
+  };
+  change(display->label, "Another");
+  change(display->port, 2);
+  change(*display->findProperty("Baud Rate"), "19200");
+  change(data().settings, decltype(data().settings){{"Orlena", "A=1;"}});
+  EXPECT_EQ(trellisar::revisionOf(data()), revision);
+}
+
+/// The numbers of an attribute, in the order of the drawing.
+std::vector<int> numbers(const std::string& svg, const std::string& before) {
+  std::vector<int> found;
+  for (std::size_t at = svg.find(before); at != std::string::npos; at = svg.find(before, at + 1)) {
+    found.push_back(std::stoi(svg.substr(at + before.size())));
+  }
+  return found;
+}
+
+TEST_F(ReportTest, DrawingHasALevelLineForEachWireAndAPictureForEachDevice) {
+  const auto drawing = trellisar::drawWiring(data(), dataFolder() / "pictures");
+  for (const char* text :
+       {"Display Device", "serial, 9600 baud", "Serial Port 1", "Power Relay",
+        "mains of the display", "Kestrum Interface", "10.0.0.9", "IP-ID 03", "Fenlet", "OL-RX1"}) {
+    EXPECT_NE(drawing.svg.find(text), std::string::npos) << text;
+  }
+  EXPECT_EQ(drawing.svg.find("Digital Input 2"), std::string::npos) << "nothing uses it";
+  EXPECT_EQ(numbers(drawing.svg, "<g transform=\"translate(").size(), 5u)
+      << "the receiver, display, relay, monitoring and panel";
+  std::vector<int> lines = numbers(drawing.svg, "<circle cx=\"390\" cy=\"");
+  EXPECT_EQ(lines.size(), 2u) << "Kestrum and Fenlet on the left";
+  EXPECT_EQ(std::adjacent_find(lines.begin(), lines.end()), lines.end()) << "no line over another";
+  EXPECT_EQ(trellisar::drawWiring(data(), dataFolder() / "pictures").svg, drawing.svg);
+  EXPECT_NE(trellisar::drawWiring(data(), {}).svg.find("Serial Port 1"), std::string::npos);
 }
 
 TEST_F(ReportTest, BillNamesEntriesAndTheirFurtherParts) {
@@ -66,14 +126,34 @@ TEST_F(ReportTest, BillNamesEntriesAndTheirFurtherParts) {
 
 TEST_F(ReportTest, HtmlIsEscapedAndTheSameEachTime) {
   const fs::path out = folder.path() / "out" / "reports";
-  const auto files = trellisar::writeReports(data(), out);
+  const trellisar::ReportOptions options{.date = "2026-03-31"};
+  const auto files = trellisar::writeReports(data(), out, options);
   ASSERT_EQ(files.size(), 2u);
-  EXPECT_EQ(files[1], out / "Connection Sheet.html");
+  EXPECT_EQ(files[1], out / "R&D <1> - Connection Sheet.html");
   const std::string sheet = trellisar::readFile(files[1]);
   EXPECT_NE(sheet.find("<title>Connection Sheet - R&amp;D &lt;1&gt;</title>"), std::string::npos);
   EXPECT_NE(sheet.find("<td>&quot;Big&quot; screen&#39;s</td>"), std::string::npos);
-  trellisar::writeReports(data(), out);
+  EXPECT_NE(
+      sheet.find("Date: 2026-03-31<br>Revision of the answers: " + trellisar::revisionOf(data())),
+      std::string::npos);
+  trellisar::writeReports(data(), out, options);
   EXPECT_EQ(trellisar::readFile(files[1]), sheet);
+}
+
+TEST_F(ReportTest, ReportsReplaceThoseOfTheirOwnSystemAlone) {
+  data().ownFile = "/one/Room.tsy";
+  const auto files = trellisar::writeReports(data(), folder.path());
+  data().ownFile = "/other/Room.tsy";
+  const std::string first = trellisar::readFile(files[0]);
+  const std::string refusal =
+      raisedBy([&] { trellisar::writeReports(data(), folder.path()); }).description();
+  EXPECT_TRUE(refusal.starts_with("The file \"" + files[0].string() + "\" is there already"));
+  EXPECT_EQ(trellisar::readFile(files[0]), first);
+  fs::remove(files[0]);
+  EXPECT_NE(raisedBy([&] { trellisar::writeReports(data(), folder.path()); }).number(), 0);
+  EXPECT_FALSE(fs::exists(files[0])) << "all are written, or none";
+  trellisar::writeReports(data(), folder.path(), {}, nullptr, /*replace=*/true);
+  EXPECT_NE(trellisar::readFile(files[0]), first);
 }
 
 TEST_F(ReportTest, DialogShowsSavesAndTellsAFailure) {
@@ -81,18 +161,19 @@ TEST_F(ReportTest, DialogShowsSavesAndTellsAFailure) {
     auto& list = dynamic_cast<forms::ListView&>(form.control("lvwReport"));
     EXPECT_EQ(list.columns().front(), "Part");
     user.select(dynamic_cast<forms::DropDownList&>(form.control("cboReport")), 1);
-    EXPECT_EQ(list.columns().front(), "Port");
+    EXPECT_EQ(list.columns().front(), "Terminal");
     EXPECT_FALSE(form.control("cmdPrint").isVisible());
     desktop.expectSaveDialog("Save Report", folder.inside("Sheet.html"));
     user.click(form.control("cmdSave"));
     desktop.expectSaveDialog("Save Report", folder.inside("none\\Sheet.html"));
-    desktop.expectMessageWith(forms::Icon::exclamation, "it does not exist");
+    desktop.expectMessageWith(forms::Icon::exclamation, "its folder does not exist");
     user.click(form.control("cmdSave"));
     user.press(forms::keys::escape);
   });
   window().ShowReportsDialog(host::reportsAll);
-  EXPECT_EQ(trellisar::readFile(folder.path() / "Sheet.html"),
-            reportHtml(trellisar::connectionSheet(data())));
+  const std::string saved = trellisar::readFile(folder.path() / "Sheet.html");
+  EXPECT_NE(saved.find("<td>Serial Port 1</td>"), std::string::npos);
+  EXPECT_NE(saved.find("<br>Date: 2"), std::string::npos);
   window().ShowReportsDialog("Anything Else");
 }
 

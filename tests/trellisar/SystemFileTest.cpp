@@ -97,6 +97,7 @@ TEST_F(SystemFileTest, DamageIsToldWithItsPlace) {
       {"devices[0].definition: there is no such definition", "/devices/0/definition", "99"},
       {"devices[0].properties.Volume Knob Control: \"9d\" is not what the property takes",
        "/devices/0/properties/Volume Knob Control", "\"9d\""},
+      {"devices[1].properties: must be an object", "/devices/1/properties", "null"},
       {"control_system: there is no receiver under this id", "/control_system", "2"},
       {"presets[2].steps[0].target: there is no device under this id", "/presets/2/steps/0/target",
        "999"},

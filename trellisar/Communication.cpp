@@ -12,6 +12,7 @@
 #include "trellisar/CompiledProgram.h"
 #include "trellisar/IPSettingsDialog.h"
 #include "trellisar/MainWindowOperations.h"
+#include "trellisar/PanelState.h"
 #include "trellisar/TransferDialog.h"
 
 namespace trellisar {
@@ -33,6 +34,7 @@ receiver::Program programToSend(const DocumentData& document, std::int32_t handl
   receiver::Program program;
   program.name = document.name;
   program.bytes = storedProgram(document);
+  requireProjectFiles(document);
   for (const auto& [name, value] : deviceToSendTo(document, handle).properties) {
     program.properties[name] = value;
   }

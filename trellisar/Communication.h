@@ -27,8 +27,8 @@ class Communication : public host::CommObject, public std::enable_shared_from_th
   /// opens when the application runs what is left for later, and closes by itself; after that
   /// OnTransferComplete tells a success, and a message anything else.
   ///
-  /// Raises host::Error when no system is open, it has no compiled program, the handle or the
-  /// address is none, or another transfer has not ended.
+  /// Raises host::Error when no system is open, it has no compiled program or a panel no project
+  /// beside it, the handle or the address is none, or another transfer has not ended.
   void StartTransfer(std::int16_t iWhat, std::int32_t lHandle, std::int16_t iMode) override;
   /// Waits for the receiver's answer.
   bool SetPassword(const std::string& strPassword) override;

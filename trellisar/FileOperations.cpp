@@ -67,6 +67,7 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
     if (bCancelled) return nullptr;
     const DocumentPtr data = readSystemFile(file, session_->library);
     data->journal = session_->journal;
+    data->panelSource = session_->panelSource;
     forgetMissingProgram(*data, file.parent_path());
     // A template is where systems come from and never where one is saved to without a question.
     if (!bUseRecovery) data->ownFile.clear();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -165,6 +166,57 @@ TEST_F(ChainTest, ExportEndsInTheHostsExport) {
     EXPECT_EQ(callsOf("cmdExport"),
               Calls{"FileSaveAs"} + pages + panel + compile + Calls{"Export"});
     EXPECT_TRUE(std::filesystem::exists(archive));
+  });
+}
+
+TEST_F(ChainTest, PanelFollowsTheRoomAndItsName) {
+  run([&] {
+    callsOf("cmdUpload");
+    const auto makesPanel = [&](const std::string& button) {
+      const Calls made = callsOf(button);
+      return std::ranges::count(made, "CreateTouchpanels") == 1;
+    };
+    EXPECT_FALSE(makesPanel("cmdUpload"));
+    wizard.goTo("Display Device");
+    wizard.chooseDisplay("Orvistel F42");
+    wizard.goTo("Finish");
+    EXPECT_TRUE(makesPanel("cmdUpload")) << "the display has other commands";
+
+    wizard.goTo("Orlena Transmitters");
+    wizard.click("cmdAdd");
+    wizard.goTo("Finish");
+    EXPECT_TRUE(makesPanel("cmdUpload"));
+    const auto project = wizard.systemsFolder() / "My Orlena System" / "Fenlet.tpj";
+    EXPECT_NE(tests::fileText(project).find("Select_Input_2"), std::string::npos);
+
+    wizard.goTo("Name and Location");
+    wizard.enter("txtSystemName", "Hall");
+    wizard.goTo("Finish");
+    EXPECT_TRUE(makesPanel("cmdUpload"));
+    EXPECT_TRUE(std::filesystem::exists(wizard.systemsFolder() / "Hall" / "Fenlet.tpj"));
+  });
+}
+
+TEST_F(ChainTest, PanelThatCantBeMadeStopsUploadAndExport) {
+  run([&] {
+    callsOf("cmdUpload");
+    const auto project = wizard.systemsFolder() / "My Orlena System" / "Fenlet.tpj";
+    std::filesystem::remove(project);
+    std::filesystem::create_directories(project / "in the way");
+    for (const char* button : {"cmdUpload", "cmdExport"}) {
+      wizard.desktop.expectMessage("Orlena", "Failed to create project: Fenlet", Buttons::ok,
+                                   Icon::exclamation);
+      wizard.desktop.whenShown("frmBuildPanels", [&](forms::Form& window) {
+        wizard.user.click(window.control("cmdClose"));
+      });
+      if (button == std::string("cmdExport")) {
+        wizard.desktop.expectSaveDialog("Export System",
+                                        forms::fromMachinePath(wizard.systemsFolder() / "a.tsa"));
+      }
+      wizard.desktop.expectMessageWith(Icon::critical, "The touch panel \"Fenlet\" has no project");
+      callsOf(button);
+    }
+    EXPECT_FALSE(std::filesystem::exists(wizard.systemsFolder() / "a.tsa"));
   });
 }
 

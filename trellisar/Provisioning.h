@@ -26,6 +26,10 @@ void removeDevice(DocumentData& document, const DevicePtr& device);
 /// stay.
 void takeDefinition(DeviceData& device, const DefinitionPtr& definition);
 
+/// Takes the events and sources of the signals that the device's definition does not have out of
+/// the document: nothing can ever raise or feed them.
+void dropLostSignals(DocumentData& document, DeviceData& device);
+
 /// Whether a device could be at a port: the port is its own, or free and one for devices.
 bool canTakePort(const DocumentData& document, const DeviceData& device, std::int16_t port);
 

@@ -8,6 +8,7 @@
 #include "host/Error.h"
 #include "receiver/Digest.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/ProgramCheck.h"
 #include "trellisar/SystemFile.h"
 
 namespace trellisar {
@@ -97,6 +98,16 @@ std::string storedProgram(const DocumentData& document) {
   if (isWholeProgram(program)) return program;
   throw host::Error(host::errBadFile, "The compiled program \"" + file.string() +
                                           "\" is damaged. Save and build the system again.");
+}
+
+bool isProgramCurrent(const DocumentData& document) {
+  if (!document.programIsCurrent || document.compiledProgram.empty()) return false;
+  if (!programErrors(document).empty()) return false;
+  try {
+    return readFile(storedProgramFile(document)) == compileProgram(document);
+  } catch (const host::Error&) {
+    return false;  // building it again tells what is wrong
+  }
 }
 
 void forgetMissingProgram(DocumentData& document, const fs::path& folder) {

@@ -19,6 +19,10 @@ void storeCompiledProgram(DocumentData& document, const std::string& program);
 /// errFile when there is none or it can't be read, and errBadFile when it is damaged.
 std::string storedProgram(const DocumentData& document);
 
+/// Whether the stored program is the one that compiling would give now. A change that nobody has
+/// marked is found all the same, since the program itself is compared.
+bool isProgramCurrent(const DocumentData& document);
+
 /// A program with the line in front that tells its form, hash and length.
 std::string withProgramHead(const std::string& body);
 

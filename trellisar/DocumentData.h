@@ -128,8 +128,8 @@ class DocumentData {
   std::filesystem::path ownFile;  // what it was opened from or saved to last; empty: none
   std::string application;
   bool isModified = false;
-  bool programIsCurrent = false;
-  std::string compiledProgram;  // a file's name in the system's folder; empty: none
+  bool programIsCurrent = false;  // nobody has marked a change; isProgramCurrent looks for one
+  std::string compiledProgram;    // a file's name in the system's folder; empty: none
   std::vector<std::pair<std::string, std::string>> settings;  // by add-in title
   std::int16_t nextId = 1;
   std::int16_t nextHandle = 1;

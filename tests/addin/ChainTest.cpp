@@ -144,6 +144,7 @@ TEST_F(ChainTest, SecondPowerOffMayNotComeAfterTheLockout) {
     bool isRefused;
   };
   run([&] {
+    wizard.clickInWindow("cmdSave");
     for (const Case& c : {Case{1, 60, 59, true}, Case{1, 60, 60, false}, Case{1, 60, 0, false},
                           Case{0, 60, 59, false}, Case{1, 0, 59, false}}) {
       wizard.addIn->put_bSecondPowerOff(c.flag);

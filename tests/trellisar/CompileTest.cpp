@@ -62,9 +62,17 @@ TEST_F(CompileTest, StoresTheProgramAndSaysSoInTheSavedFile) {
   const std::size_t unit = program["presets"][2]["steps"][0]["unit"];
   EXPECT_EQ(program["units"][unit]["name"], "Display Device");
 
+  const std::string whole = text;
   text[text.size() / 2] ^= 1;
   writeFile(inRoom("Room.tsp"), text);
+  EXPECT_FALSE(info->get_ProgramIsCurrent());
   EXPECT_THROW(static_cast<void>(trellisar::storedProgram(*saved)), host::Error);
+
+  writeFile(inRoom("Room.tsp"), whole);
+  EXPECT_TRUE(info->get_ProgramIsCurrent());
+  data().find(display)->port = 3;
+  info->put_ProgramIsCurrent(true);
+  EXPECT_FALSE(info->get_ProgramIsCurrent()) << "a change that nobody has marked";
 }
 
 TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {

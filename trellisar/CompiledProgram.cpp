@@ -10,6 +10,7 @@
 #include "trellisar/FileIO.h"
 #include "trellisar/ProgramCheck.h"
 #include "trellisar/SystemFile.h"
+#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {
@@ -117,6 +118,12 @@ void forgetMissingProgram(DocumentData& document, const fs::path& folder) {
   }
   document.compiledProgram.clear();
   document.programIsCurrent = false;
+}
+
+void leaveProgramBehind(DocumentData& document, const fs::path& folder) {
+  if (!isSameFile(folder, document.ownFile.parent_path())) document.compiledProgram.clear();
+  forgetMissingProgram(document, folder);
+  document.programIsCurrent = document.programIsCurrent && !document.compiledProgram.empty();
 }
 
 }  // namespace trellisar

@@ -36,4 +36,8 @@ std::filesystem::path storedProgramFile(const DocumentData& document);
 /// anew.
 void forgetMissingProgram(DocumentData& document, const std::filesystem::path& folder);
 
+/// As above for a system that is about to be saved in the folder: the program of a system that
+/// comes from another folder stays there, and one of its name that lies here is another system's.
+void leaveProgramBehind(DocumentData& document, const std::filesystem::path& folder);
+
 }  // namespace trellisar

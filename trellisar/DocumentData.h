@@ -125,6 +125,7 @@ class DocumentData {
   std::shared_ptr<const PanelSource> panelSource;  // nothing: panels have no projects here
   std::string name;
   std::string folder;             // with backslashes
+  std::string ownDigest;          // of the content that ownFile had then
   std::filesystem::path ownFile;  // what it was opened from or saved to last; empty: none
   std::string application;
   bool isModified = false;

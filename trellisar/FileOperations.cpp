@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 
 #include "forms/Application.h"
 #include "forms/Paths.h"
@@ -83,39 +84,42 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
   }
 }
 
-bool MainWindowOperations::mayReplace(const fs::path& file) const {
-  const Replacing replacing = session_->replacing;
-  if (!isThere(file) || isSameFile(file, session_->data()->ownFile)) return true;
-  if (replacing == Replacing::always) return true;
+std::optional<Overwriting> MainWindowOperations::mayOverwrite(const fs::path& file) const {
+  if (session_->replacing == Replacing::always) return Overwriting::allowed;
+  const Standing standing = standingAt(*session_->data(), file);
+  if (standing == Standing::nothing || standing == Standing::own) return Overwriting::refused;
   const std::string name = "\"" + file.string() + "\"";
-  if (replacing == Replacing::never) {
-    showFailure("Another system is in the file " + name + ". It was not replaced.");
-    return false;
+  const bool isChanged = standing == Standing::changed;
+  const std::string what =
+      isChanged ? "Another program has changed the file " + name + " since the system was opened."
+                : "Another system is in the file " + name + ".";
+  if (session_->replacing == Replacing::never) {
+    showFailure(what + " It was not replaced.");
+    return std::nullopt;
   }
   // The first button is the default one, so the question is put so that Yes does no harm.
-  return forms::Application::current().messageBox(
-             "Another system is in the file " + name +
-                 ".\r\n\r\nDo you want to keep that system? "
-                 "Yes keeps it and does not save; No replaces it.",
-             forms::Buttons::yesNo, forms::Icon::question) == forms::Answer::no;
+  const auto answer = forms::Application::current().messageBox(
+      what + "\r\n\r\nDo you want to keep that " + (isChanged ? "file" : "system") +
+          "? Yes keeps it and does not save; No replaces it.",
+      forms::Buttons::yesNo, forms::Icon::question);
+  return answer == forms::Answer::no ? std::optional(Overwriting::allowed) : std::nullopt;
 }
 
-void MainWindowOperations::save(const std::string& path, const std::string& application) {
+void MainWindowOperations::save(const std::string& path, const std::string& application,
+                                Overwriting overwriting) {
   DocumentData& document = *session_->data();
-  MadeFolders folders(forms::toMachinePath(path).parent_path());
+  const fs::path file = forms::toMachinePath(path);
+  const Belongings replaced = belongingsOfOther(document, file);
+  MadeFolders folders(file.parent_path());
   const std::string oldApplication = std::exchange(document.application, application);
-  const std::string oldProgram = document.compiledProgram;
-  const bool wasCurrent = document.programIsCurrent;
-  forgetMissingProgram(document, forms::toMachinePath(path).parent_path());
   try {
-    saveSystemFile(document, path);
+    saveSystemFile(document, path, overwriting);
   } catch (const host::Error&) {
     document.application = oldApplication;
-    document.compiledProgram = oldProgram;
-    document.programIsCurrent = wasCurrent;
     throw;
   }
   folders.keep();
+  replaced.remove();
   document.isModified = false;
   session_->preferences.remember(withSystemExtension(path));
 }
@@ -129,8 +133,9 @@ bool MainWindowOperations::FileSaveAs(const std::string& strFile,
   }
   const std::string path = withSystemExtension(strFile);
   try {
-    if (!mayReplace(forms::toMachinePath(path))) return false;
-    save(path, strApplication);
+    const std::optional<Overwriting> overwriting = mayOverwrite(forms::toMachinePath(path));
+    if (!overwriting) return false;
+    save(path, strApplication, *overwriting);
     return true;
   } catch (const host::Error& error) {
     forms::Application::current().messageBox(

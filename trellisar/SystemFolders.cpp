@@ -8,7 +8,10 @@
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
+#include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/PanelProject.h"
+#include "trellisar/SystemFile.h"
 
 namespace trellisar {
 namespace {
@@ -67,6 +70,28 @@ fs::path foreignSystemIn(const fs::path& folder, const fs::path& ownFile) {
     if (foreign.empty() || entry.path() < foreign) foreign = entry.path();
   }
   return foreign;
+}
+
+void Belongings::remove() const {
+  std::error_code ignored;
+  for (const fs::path& file : files_) fs::remove(file, ignored);
+}
+
+Belongings belongingsOfOther(const DocumentData& document, const fs::path& file) {
+  std::error_code error;
+  if (!fs::exists(file, error)) return {};
+  if (isSameFile(file.parent_path(), document.ownFile.parent_path())) return {};
+  try {
+    const DocumentPtr other = readSystemFile(file, nullptr);
+    std::vector<fs::path> files;
+    if (!other->compiledProgram.empty()) files.push_back(storedProgramFile(*other));
+    for (const DevicePtr& panel : other->panels) {
+      if (panel->definition->projectPanel) files.push_back(panelProjectFile(*other, *panel));
+    }
+    return Belongings(std::move(files));
+  } catch (const host::Error&) {
+    return {};  // of a damaged system nobody knows what belongs to it
+  }
 }
 
 MadeFolders::MadeFolders(const fs::path& folder) {

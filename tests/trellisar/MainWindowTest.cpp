@@ -2,9 +2,11 @@
 
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
+#include "forms/Paths.h"
 #include "forms/TextBox.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
+#include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
 
 namespace tests {
@@ -96,6 +98,74 @@ TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
   desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
   EXPECT_TRUE(save("Room"));
   EXPECT_NE(trellisar::readFile(folder.path() / "Room.tsy"), first);
+}
+
+TEST_F(MainWindowTest, ReplacedSystemLeavesNoProgramAndNoPanels) {
+  bool cancelled = false;
+  const auto panel = [&] { return fs::exists(folder.path() / "Room/Fenlet.tpj"); };
+  auto fenlet = window().AddInterface(host::modelFenlet, data().controlSystem, "");
+  saveAsRoom();
+  ASSERT_TRUE(window().CreateTouchpanels(fenlet));
+  ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
+  saveAsRoom();
+  EXPECT_TRUE(panel() && fs::exists(folder.path() / "Room/Room.tsp")) << "they are its own";
+
+  openTemplate();
+  trellisar::Host other({.dataFolder = dataFolder(),
+                         .library = shippedLibrary(),
+                         .replacing = trellisar::Replacing::always});
+  const auto templateFile = dataFolder() / "TemplateSystems/Orlena TEMPLATE/Orlena TEMPLATE.tsy";
+  ASSERT_TRUE(other.mainWindow()->FileOpen(forms::fromMachinePath(templateFile), false));
+  EXPECT_TRUE(other.mainWindow()->FileSaveAs(folder.inside("Room\\Room"), "Orlena"));
+  EXPECT_FALSE(panel() || fs::exists(folder.path() / "Room/Room.tsp"));
+}
+
+TEST_F(MainWindowTest, FileThatAnotherProgramChangedIsNotReplacedUnasked) {
+  saveAsRoom();
+  const fs::path file = folder.path() / "Room/Room.tsy";
+  const std::string theirs = trellisar::readFile(file) + "\n";
+  writeFile(file, theirs);
+  const std::string question =
+      "Another program has changed the file \"" + file.string() +
+      "\" since the system was opened.\r\n\r\nDo you want to keep that file? Yes keeps it and does "
+      "not save; No replaces it.";
+  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question);
+  EXPECT_FALSE(save("Room\\Room"));
+  bool saved = true;
+  host.document()->Save(folder.inside("Room\\Room"), saved);
+  EXPECT_FALSE(saved);
+  EXPECT_NE(host.document()->GetLastError().find("was changed by another program"),
+            std::string::npos);
+  EXPECT_THROW(trellisar::storeCompiledProgram(data(), trellisar::compileProgram(data())),
+               host::Error);
+  EXPECT_EQ(trellisar::readFile(file), theirs);
+  EXPECT_FALSE(fs::exists(folder.path() / "Room/Room.tsp"));
+
+  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
+  EXPECT_TRUE(save("Room\\Room"));
+  EXPECT_NE(trellisar::readFile(file), theirs);
+  EXPECT_TRUE(save("Room\\Room")) << "and it is the system's own again";
+
+  fs::permissions(file, fs::perms::owner_read);
+  expectCritical("The system could not be saved.\r\n\r\nCan't write \"" + file.string() +
+                 "\": it is protected against writing. Take the protection away or choose another "
+                 "name.");
+  EXPECT_FALSE(save("Room\\Room"));
+}
+
+TEST_F(MainWindowTest, ProgramStaysWithTheSystemItWasCompiledFor) {
+  bool cancelled = false;
+  saveAsRoom();
+  ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
+  fs::create_directory(folder.path() / "Hall");
+  writeFile(folder.path() / "Hall/Room.tsp", "another system's");
+  data().name = "Hall";
+  data().folder = folder.inside("Hall\\");
+  bool saved = false;
+  host.document()->Save(folder.inside("Hall\\Hall"), saved);
+  EXPECT_TRUE(saved);
+  EXPECT_EQ(host.document()->get_SystemInfo()->get_CompiledProgramFile(), "");
+  EXPECT_FALSE(host.document()->get_SystemInfo()->get_ProgramIsCurrent());
 }
 
 TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {

@@ -1,5 +1,6 @@
 #include "trellisar/Communication.h"
 
+#include <chrono>
 #include <utility>
 
 #include "forms/Application.h"
@@ -10,9 +11,11 @@
 #include "receiver/Client.h"
 #include "receiver/Error.h"
 #include "trellisar/CompiledProgram.h"
+#include "trellisar/DoneDialog.h"
 #include "trellisar/IPSettingsDialog.h"
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/PanelState.h"
+#include "trellisar/PasswordDialog.h"
 #include "trellisar/TransferDialog.h"
 
 namespace trellisar {
@@ -39,6 +42,20 @@ receiver::Program programToSend(const DocumentData& document, std::int32_t handl
     program.properties[name] = value;
   }
   return program;
+}
+
+/// Whether the answer comes so soon that a window would only flicker.
+bool answersAtOnce(receiver::Request& request) {
+  using Clock = std::chrono::steady_clock;
+  constexpr auto unseen = std::chrono::milliseconds(300);
+  const auto end = Clock::now() + unseen;
+  forms::Application& application = forms::Application::current();
+  application.setMousePointer(forms::MousePointer::hourglass);
+  const forms::AtEnd waited([&] { application.setMousePointer(forms::MousePointer::standard); });
+  for (auto now = Clock::now(); now < end; now = Clock::now()) {
+    if (!request.poll(std::chrono::ceil<std::chrono::milliseconds>(end - now))) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -71,13 +88,17 @@ void Communication::StartTransfer(std::int16_t, std::int32_t lHandle, std::int16
 void Communication::runTransfer() {
   {
     const forms::AtEnd ended([this] { dialog_.reset(); });
-    transferOutcome_ = dialog_->run();
+    dialog_->run();
+    transferOutcome_ = dialog_->outcome();
   }
-  const receiver::Outcome outcome = *transferOutcome_;  // a listener may start the next one
+  // A listener may start the next one, to another receiver.
+  const receiver::Outcome outcome = *transferOutcome_;
+  const std::string receiver = shownReceiver();
   switch (outcome.kind) {
     case receiver::Outcome::Kind::done:
       session_->journal->note("OnTransferComplete");
       OnTransferComplete.raise(receiversSentTo);
+      DoneDialog("Upload", "Sent to " + receiver + ", running.").run();
       break;
     case receiver::Outcome::Kind::cancelled:
       showFailure(outcome.message + " The receiver keeps the program that it had.");
@@ -90,11 +111,11 @@ void Communication::runTransfer() {
 
 bool Communication::SetPassword(const std::string& strPassword) {
   session_->journal->note(strPassword.empty() ? "SetPassword, empty" : "SetPassword");
-  forms::Application& application = forms::Application::current();
-  application.setMousePointer(forms::MousePointer::hourglass);
-  const forms::AtEnd waited([&] { application.setMousePointer(forms::MousePointer::standard); });
   try {
-    passwordOutcome_ = receiver::setPassword(receiverAddress(), strPassword);
+    const receiver::Address address = receiverAddress();
+    receiver::Request request = receiver::passwordRequest(address, strPassword);
+    if (!answersAtOnce(request)) PasswordDialog(address, request).run();
+    passwordOutcome_ = request.wait();
   } catch (const receiver::Error& error) {
     passwordOutcome_ = receiver::Outcome{receiver::Outcome::Kind::failed, error.what()};
   }
@@ -121,6 +142,14 @@ std::string Communication::address() const {
   if (const NamedAddress* inUse = preferences.addressBook().inUse()) return inUse->address;
   const std::string& place = preferences.ipSettings().place();
   return place.empty() ? defaultAddress_ : place;
+}
+
+/// `"Hall" at 10.0.0.7:47210` for one of the address book.
+std::string Communication::shownReceiver() const {
+  const NamedAddress* inUse = session_->preferences.addressBook().inUse();
+  const bool isNamed = inUse && inUse->address == address();
+  return (isNamed ? "\"" + inUse->name + "\"" : std::string("the receiver")) + " at " +
+         receiverAddress().text();
 }
 
 receiver::Address Communication::receiverAddress() const {

@@ -30,6 +30,10 @@ constexpr const char* lockoutTooShort =
 class ChainTest : public testing::Test {
  protected:
   void run(const std::function<void()>& script) {
+    wizard.desktop.wheneverShown("DoneDialog", [this](forms::Form& form) {
+      lastWords = form.control("lblState").shownText();
+      wizard.user.click(form.control("cmdClose"));
+    });
     wizard.run([&] {
       wizard.host->communication()->setAddress(receiver.address().text());
       wizard.goTo("Display Device");
@@ -70,6 +74,7 @@ class ChainTest : public testing::Test {
   tests::TemporaryFolder place;
   tests::Running receiver{tests::optionsFor(place)};
   tests::Wizard wizard;
+  std::string lastWords;
 };
 
 const Calls pages{"SetTemplatePrefix", "SetIncludeDefaultPages", "SetIncludeSharedPages"};
@@ -87,6 +92,7 @@ TEST_F(ChainTest, UploadSavesMakesPanelsCompilesAndSendsAndThenOnlySends) {
   run([&] {
     EXPECT_EQ(callsOf("cmdUpload"), Calls{"FileSaveAs"} + pages + panel + compile + upload);
     EXPECT_TRUE(programIsCurrent());
+    EXPECT_EQ(lastWords, "Sent to the receiver at " + receiver.address().text() + ", running.");
     EXPECT_EQ(holdings().program->name, "My Orlena System");
     EXPECT_TRUE(holdings().passwordSet);
     EXPECT_TRUE(receiver::checkPassword(receiver.address(), "lantern"));
@@ -167,6 +173,7 @@ TEST_F(ChainTest, ExportEndsInTheHostsExport) {
     EXPECT_EQ(callsOf("cmdExport"),
               Calls{"FileSaveAs"} + pages + panel + compile + Calls{"Export"});
     EXPECT_TRUE(std::filesystem::exists(archive));
+    EXPECT_EQ(lastWords, "Exported to \"" + archive.string() + "\".");
   });
 }
 

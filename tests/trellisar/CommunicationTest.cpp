@@ -111,6 +111,7 @@ TEST_F(CommunicationTest, TransferEndsLaterAndThenThePasswordIsSet) {
   EXPECT_FALSE(link().isSending());
   EXPECT_EQ(link().transferOutcome()->kind, Kind::done);
   EXPECT_EQ(link().passwordOutcome()->kind, Kind::done);
+  EXPECT_EQ(lastWords, "Sent to the receiver at " + running.address().text() + ", running.");
 
   const receiver::Holdings holdings = holdingsOf(running.address());
   EXPECT_EQ(holdings.program->name, "Room");
@@ -159,6 +160,14 @@ TEST_F(CommunicationTest, CancelledTransferIsToldAndCompletesNothing) {
     EXPECT_FALSE(link().passwordOutcome());
   }
   EXPECT_EQ(calls, (std::vector<std::string>{"started", "started"}));
+}
+
+TEST_F(CommunicationTest, PasswordForASilentReceiverCanBeCancelled) {
+  const Silent silent;
+  link().setAddress(silent.address());
+  application.runLater([&] { user.press(forms::keys::escape); });
+  EXPECT_FALSE(link().SetPassword("1234"));
+  EXPECT_EQ(link().passwordOutcome()->kind, Kind::cancelled);
 }
 
 TEST_F(CommunicationTest, FailedTransferIsToldAndTheNextOneWorks) {

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <optional>
 
 #include "forms/Application.h"
@@ -10,7 +9,6 @@
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/SystemFile.h"
 #include "trellisar/SystemFolders.h"
-#include "trellisar/SystemInfoObject.h"
 #include "trellisar/TimeText.h"
 
 namespace trellisar {
@@ -21,20 +19,6 @@ namespace fs = std::filesystem;
 bool isThere(const fs::path& file) {
   std::error_code error;
   return fs::exists(file, error);
-}
-
-/// Why the name can't be a system's; empty when it can.
-std::string nameProblem(const std::string& name) {
-  if (name.empty()) return "A system must have a name.";
-  if (forms::length(name) > maximumNameLength) {
-    return "The name of a system has at most " + std::to_string(maximumNameLength) + " characters.";
-  }
-  const bool isReserved = name == "." || name == "..";
-  const bool hasIllegal = std::any_of(name.begin(), name.end(), [](unsigned char c) {
-    return c < ' ' || c == '/' || c == '\\' || c == 0x7F;
-  });
-  if (!isReserved && !hasIllegal) return {};
-  return "\"" + name + "\" can't be the name of a file. Choose another name for the system.";
 }
 
 }  // namespace
@@ -127,12 +111,8 @@ void MainWindowOperations::save(const std::string& path, const std::string& appl
 bool MainWindowOperations::FileSaveAs(const std::string& strFile,
                                       const std::string& strApplication) {
   note("FileSaveAs " + strFile + ", " + strApplication);
-  if (forms::fileNameOf(strFile).empty()) {
-    showFailure("The system could not be saved: it has no name. Give it one and save again.");
-    return false;
-  }
-  const std::string path = withSystemExtension(strFile);
   try {
+    const std::string path = withSystemExtension(strFile);
     const std::optional<Overwriting> overwriting = mayOverwrite(forms::toMachinePath(path));
     if (!overwriting) return false;
     save(path, strApplication, *overwriting);
@@ -158,8 +138,14 @@ std::string MainWindowOperations::GetDefaultSystemsFolder() const {
 
 bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
   note("CreateProjectFolder " + strFolder);
-  if (strFolder.empty() || strFolder.ends_with("\\\\")) {
+  const std::string name = forms::fileNameOf(
+      strFolder.ends_with('\\') ? strFolder.substr(0, strFolder.size() - 1) : strFolder);
+  if (name.empty()) {
     showFailure("The system has no name, so its folder can't be made. Give the system a name.");
+    return false;
+  }
+  if (const std::string problem = fileNameProblem(name); !problem.empty()) {
+    showFailure(problem);
     return false;
   }
   const fs::path folder = (forms::toMachinePath(strFolder) / "").parent_path();
@@ -183,7 +169,7 @@ bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
 }
 
 bool MainWindowOperations::CheckValidSystemName(std::string& strName) {
-  const std::string problem = nameProblem(strName);
+  const std::string problem = systemNameProblem(strName);
   if (!problem.empty()) {
     forms::Application::current().messageBox(problem, forms::Buttons::ok, forms::Icon::information);
   }

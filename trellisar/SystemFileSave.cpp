@@ -17,6 +17,11 @@ namespace fs = std::filesystem;
 
 constexpr const char* systemExtension = ".tsy";
 
+void checkName(const std::string& name) {
+  const std::string problem = fileNameProblem(name);
+  if (!problem.empty()) throw host::Error(host::errBadArgument, problem);
+}
+
 [[noreturn]] void refuse(const fs::path& file, const std::string& why) {
   throw host::Error(host::errFile, "The file \"" + file.string() + "\" " + why +
                                        " It was not replaced. Save the system under another name, "
@@ -56,6 +61,8 @@ Standing standingAt(const DocumentData& document, const fs::path& file) {
 
 void saveSystemFile(DocumentData& document, const std::string& path, Overwriting overwriting) {
   const fs::path file = forms::toMachinePath(withSystemExtension(path));
+  checkName(document.name);
+  checkName(file.stem().string());
   const std::string oldProgram = document.compiledProgram;
   const bool wasCurrent = document.programIsCurrent;
   leaveProgramBehind(document, file.parent_path());

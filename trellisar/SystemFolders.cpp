@@ -1,5 +1,6 @@
 #include "trellisar/SystemFolders.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
@@ -12,6 +13,7 @@
 #include "trellisar/FileIO.h"
 #include "trellisar/PanelProject.h"
 #include "trellisar/SystemFile.h"
+#include "trellisar/SystemInfoObject.h"
 
 namespace trellisar {
 namespace {
@@ -44,6 +46,8 @@ fs::path documentsFolder() {
   return fs::path(home) / "Documents";
 }
 
+bool isControl(unsigned char c) { return c < ' ' || c == 0x7F; }
+
 }  // namespace
 
 std::string defaultSystemsFolder(const Preferences& preferences) {
@@ -53,6 +57,25 @@ std::string defaultSystemsFolder(const Preferences& preferences) {
   }
   if (!preferences.defaultFolder().empty()) return withBackslash(preferences.defaultFolder());
   return withBackslash(forms::fromMachinePath(documentsFolder() / "Trellisar Systems"));
+}
+
+std::string fileNameProblem(const std::string& name) {
+  if (name.empty()) return "A system must have a name.";
+  if (forms::lowerCase(name).ends_with(".tsy")) {
+    return "\"" + name +
+           "\" ends like the name of a file, which the system's file gets by itself. " +
+           "Leave \".tsy\" out of the system's name.";
+  }
+  std::string shown = name;
+  std::replace_if(shown.begin(), shown.end(), isControl, '?');
+  const bool isReserved = name == "." || name == "..";
+  if (!isReserved && shown == name && name.find_first_of("/\\") == std::string::npos) return {};
+  return "\"" + shown + "\" can't be the name of a file. Choose another name for the system.";
+}
+
+std::string systemNameProblem(const std::string& name) {
+  if (forms::length(name) <= maximumNameLength) return fileNameProblem(name);
+  return "The name of a system has at most " + std::to_string(maximumNameLength) + " characters.";
 }
 
 bool isSameFile(const fs::path& one, const fs::path& other) {

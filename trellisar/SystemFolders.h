@@ -14,6 +14,12 @@ namespace trellisar {
 /// folder.
 std::string defaultSystemsFolder(const Preferences& preferences);
 
+/// Why no system's file can have the name, which is without the extension; empty when one can.
+std::string fileNameProblem(const std::string& name);
+
+/// As above for a name that a user gives a system, which is no longer than systems' names are.
+std::string systemNameProblem(const std::string& name);
+
 /// Whether the two machine paths lead to one file.
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
 

@@ -8,6 +8,7 @@
 #include "tests/trellisar/World.h"
 #include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/SystemFolders.h"
 
 namespace tests {
 namespace {
@@ -57,8 +58,27 @@ TEST_F(MainWindowTest, SaveThatCantBeLeavesEverythingAsItWas) {
   EXPECT_FALSE(save("Room"));
   EXPECT_EQ(data().application, "Trellisar");
   EXPECT_TRUE(data().isModified);
-  expectRefusal("The system could not be saved: it has no name. Give it one and save again.");
-  EXPECT_FALSE(save(""));
+}
+
+TEST_F(MainWindowTest, NameThatNoFileCanHaveIsRefusedWhereverItComesFrom) {
+  for (const std::string name : {"", ".", "..", "a\tb", "a/b", "Room.tsy", "\x7F", "a\001b"}) {
+    data().name = name;
+    expectRefusal(name.empty() ? "The system has no name, so its folder can't be made. Give the "
+                                 "system a name."
+                               : trellisar::fileNameProblem(name));
+    EXPECT_FALSE(window().CreateProjectFolder(folder.inside(name) + "\\"));
+    expectCritical("The system could not be saved.\r\n\r\n" + trellisar::fileNameProblem(name));
+    EXPECT_FALSE(save("Room"));
+    bool saved = true;
+    host.document()->Save(folder.inside("Room"), saved);
+    EXPECT_FALSE(saved);
+  }
+  data().name = "Room";
+  data().name += '\0';
+  expectCritical("The system could not be saved.\r\n\r\n" +
+                 trellisar::fileNameProblem(data().name));
+  EXPECT_FALSE(save("Room"));
+  EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
 TEST_F(MainWindowTest, OpenReplacesTheSystemOnlyWhenItSucceeded) {

@@ -10,6 +10,7 @@
 #include "host/Numbers.h"
 #include "receiver/Client.h"
 #include "receiver/Error.h"
+#include "trellisar/AddressBookDialog.h"
 #include "trellisar/CompiledProgram.h"
 #include "trellisar/DoneDialog.h"
 #include "trellisar/IPSettingsDialog.h"
@@ -75,6 +76,7 @@ void Communication::StartTransfer(std::int16_t, std::int32_t lHandle, std::int16
   passwordOutcome_.reset();
   try {
     const receiver::Program program = programToSend(*session_->data(), lHandle);
+    if (!confirmAddress()) return;
     dialog_ = std::make_unique<TransferDialog>(receiverAddress(), program);
   } catch (const receiver::Error& error) {
     throw host::Error(host::errBadArgument,
@@ -83,6 +85,35 @@ void Communication::StartTransfer(std::int16_t, std::int32_t lHandle, std::int16
   forms::Application::current().runLater([weak = weak_from_this()] {
     if (const auto self = weak.lock()) self->runTransfer();
   });
+}
+
+bool Communication::isAddressChosen() const {
+  const Preferences& preferences = session_->preferences;
+  return !ownAddress_.empty() || preferences.addressBook().inUse() ||
+         !preferences.ipSettings().place().empty();
+}
+
+bool Communication::confirmAddress() {
+  const std::string place = receiverAddress().text();
+  if (isAddressChosen()) return true;
+  // Yes, the default, sends nothing to a place that the user has not seen.
+  const forms::Answer answer = forms::Application::current().messageBox(
+      "No receiver has been chosen yet. The system would be sent to " + place +
+          ".\r\n\r\nDo you want to choose the receiver first? Yes opens the address book; No sends "
+          "the system to " +
+          place + ", which is put into the address book.",
+      forms::Buttons::yesNoCancel, forms::Icon::question);
+  if (answer == forms::Answer::no) {
+    session_->preferences.setAddressBook({{{"Receiver", place}}, 0});
+  } else if (answer == forms::Answer::yes) {
+    AddressBookDialog(session_->preferences, [this] {
+      DisplayHelp.raise(host::helpFinishTab);
+    }).run();
+  }
+  if (isAddressChosen()) return true;
+  transferOutcome_ = receiver::Outcome{receiver::Outcome::Kind::cancelled,
+                                       "No receiver was chosen, and nothing was sent."};
+  return false;
 }
 
 void Communication::runTransfer() {

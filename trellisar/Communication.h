@@ -27,6 +27,9 @@ class Communication : public host::CommObject, public std::enable_shared_from_th
   /// opens when the application runs what is left for later, and closes by itself; after that
   /// OnTransferComplete tells a success, and then a window the user; a message tells anything else.
   ///
+  /// An address that nobody chose is asked about first; then it is in the address book, or another
+  /// one is chosen, or nothing is sent.
+  ///
   /// Raises host::Error when no system is open, it has no compiled program or a panel no project
   /// beside it, the handle or the address is none, or another transfer has not ended.
   void StartTransfer(std::int16_t iWhat, std::int32_t lHandle, std::int16_t iMode) override;
@@ -50,6 +53,9 @@ class Communication : public host::CommObject, public std::enable_shared_from_th
 
  private:
   void runTransfer();
+  bool isAddressChosen() const;
+  /// Asks about an address that nobody chose; false when nothing may be sent.
+  bool confirmAddress();
   receiver::Address receiverAddress() const;
   std::string shownReceiver() const;
 

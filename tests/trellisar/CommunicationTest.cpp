@@ -240,6 +240,39 @@ TEST_F(CommunicationTest, DefaultAddressCountsWhileTheUserHasGivenNone) {
   EXPECT_EQ(link().address(), "10.0.0.9:5000");
 }
 
+TEST_F(CommunicationTest, AddressThatNobodyChoseIsAskedAbout) {
+  build();
+  const Running running(optionsFor(place));
+  const std::string there = running.address().text();
+  link().SetDefaultAddress(there);
+  const auto uploadAnswering = [&](forms::Answer answer) {
+    desktop.expectMessage(
+        "Trellisar",
+        "No receiver has been chosen yet. The system would be sent to " + there +
+            ".\r\n\r\nDo you want to choose the receiver first? Yes opens the address book; No "
+            "sends the system to " +
+            there + ", which is put into the address book.",
+        forms::Buttons::yesNoCancel, Icon::question, answer);
+    link().StartTransfer(0, handle(), 2);
+    application.processEvents();
+    return link().transferOutcome()->kind;
+  };
+  EXPECT_EQ(uploadAnswering(forms::Answer::cancel), Kind::cancelled);
+  desktop.whenShown("AddressBookDialog", [&](forms::Form&) { user.press(forms::keys::escape); });
+  EXPECT_EQ(uploadAnswering(forms::Answer::yes), Kind::cancelled);
+  desktop.whenShown("AddressBookDialog", [&](forms::Form&) {
+    addReceiver("Hall", there);
+    click("cmdOK");
+  });
+  EXPECT_EQ(uploadAnswering(forms::Answer::yes), Kind::done);
+  EXPECT_EQ(lastWords, "Sent to \"Hall\" at " + there + ", running.");
+  host.preferences().setAddressBook({});
+  EXPECT_EQ(uploadAnswering(forms::Answer::no), Kind::done);
+  link().StartTransfer(0, handle(), 2);
+  application.processEvents();
+  EXPECT_EQ(link().transferOutcome()->kind, Kind::done) << "and is not asked about again";
+}
+
 TEST_F(CommunicationTest, AddressBookIsKeptWithTheReceiverInUse) {
   const std::filesystem::path file = folder.path() / "preferences.json";
   host.preferences() = trellisar::Preferences(file);

@@ -234,9 +234,18 @@ TEST_F(DocumentTest, BillEntriesAreLive) {
   bill->Item(key)->get_Parts()->Remove(host::partKeyPowerSensor);
   EXPECT_THROW(entry->get_Parts()->Remove(host::partKeyPowerSensor), host::Error);
   const std::int16_t display = addDisplay();
-  EXPECT_FALSE(bill->AddItem(0, 0, 0, display));
+  const auto refusal = [&](std::int32_t part, std::int16_t device) {
+    EXPECT_FALSE(bill->AddItem(0, 0, part, device));
+    return document().GetLastError();
+  };
+  EXPECT_NE(refusal(0, display).find("\"Display Device\" can't be added"), std::string::npos);
+  EXPECT_NE(refusal(20711, 999).find("there is no device 999"), std::string::npos);
   EXPECT_TRUE(bill->AddItem(0, 0, 20711, display));
-  EXPECT_FALSE(bill->AddItem(0, 0, 20711, display));
+  EXPECT_EQ(refusal(20711, display), "\"Display Device\" is in the bill of materials already.");
+  EXPECT_EQ(window().AddInterface(7, receiver(), ""), nullptr);
+  EXPECT_EQ(document().GetLastError(), "The device library has no user interface of model 7.");
+  EXPECT_EQ(window().AddInterface(host::modelFenlet, 999, ""), nullptr);
+  EXPECT_NE(document().GetLastError().find("there is no device 999"), std::string::npos);
   EXPECT_TRUE(bill->RemoveItem(-display));
 }
 

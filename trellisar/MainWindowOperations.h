@@ -76,8 +76,6 @@ class MainWindowOperations : public host::OwnerForm {
 
   std::shared_ptr<Session> session_;
   forms::Form* form_ = nullptr;
-  host::SystemManagerOptions systemManager_;
-  std::vector<std::int16_t> queryResponses_;
   std::shared_ptr<UIManagerObject> uiManager_;  // made when it is first asked for
 };
 

@@ -34,6 +34,10 @@ class SystemFileTest : public HostTest {
     append(*powered->GetEvent(host::eventLow)->get_Preset(), host::stepDelay, host::targetDevice,
            display, "", "100");
     powered->get_Options()->EnableEvents(host::eventsAll, true);
+    const auto fed = signal(receiver, "", "Lock");
+    fed->put_SourceType(host::sourceSignal);
+    fed->put_SourceDeviceID(receiver);
+    fed->put_SourceSignalName("Powered_On");
     window().AddInterface(host::modelFenlet, receiver, "");
     const auto entry =
         host.document()->get_Reports()->get_BillOfMaterials()->Item(data().bill.front()->key);

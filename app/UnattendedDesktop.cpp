@@ -15,7 +15,8 @@ namespace {
 
 /// The host's long work.
 bool canBeCancelled(const forms::Form& form) {
-  return form.name() == "CompileDialog" || form.name() == "TransferDialog";
+  return form.name() == "CompileDialog" || form.name() == "TransferDialog" ||
+         form.name() == "PasswordDialog";
 }
 
 }  // namespace

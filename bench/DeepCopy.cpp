@@ -36,6 +36,7 @@ class Copier {
  private:
   void copyHead() {
     copy_->journal = from_.journal;
+    copy_->panelSource = from_.panelSource;
     copy_->name = from_.name;
     copy_->folder = from_.folder;
     copy_->ownFile = from_.ownFile;

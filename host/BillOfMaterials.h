@@ -56,7 +56,7 @@ class BillOfMaterials {
   virtual std::shared_ptr<BillOfMaterialsEntry> Item(std::int32_t lKey) const = 0;
   /// An entry of its own, quantity 1, under the negated device id. False, with nothing changed: the
   /// device has an entry already, is not in the document, or the part number is not above 0.
-  /// iModelID and lReserved are kept by no one.
+  /// The document's GetLastError tells which. iModelID and lReserved are kept by no one.
   [[nodiscard]] virtual bool AddItem(std::int16_t iModelID, std::int32_t lReserved,
                                      std::int32_t lPartID, std::int16_t iDeviceID) = 0;
   /// False: there is no entry under the key.

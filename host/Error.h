@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "forms/Error.h"
 
@@ -18,12 +17,6 @@ enum enumHostError : std::int32_t {
   errBadFile = 321,         // a file whose content is damaged, foreign or of another version
   errDocumentClosed = 424,  // the object belongs to a document or device that is gone
   errCannotCreate = 429,    // a class that can't be created by its program id
-  errNotAvailable = 445,    // an operation that this host does not have
 };
-
-/// The error of an operation that the host does not have; sOperation is its name.
-[[nodiscard]] inline Error NotAvailable(const std::string& sOperation) {
-  return Error(errNotAvailable, sOperation + " is not available in this host.");
-}
 
 }  // namespace host

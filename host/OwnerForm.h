@@ -101,7 +101,8 @@ class OwnerForm {
   /// deviceDialogNone, deviceDialogUnchanged, or the id of the chosen device.
   [[nodiscard]] virtual std::int16_t ShowAddReplaceDeviceDialog(
       DeviceDialogArguments& arguments) = 0;
-  /// Nothing when the model is no user interface of the library. An empty name takes the library's.
+  /// Nothing, with a text in the document's GetLastError, when it can't be added. An empty name
+  /// takes the library's.
   virtual std::shared_ptr<Touchpanel> AddInterface(std::int16_t iModelID, std::int16_t iParentID,
                                                    const std::string& strName) = 0;
   virtual void SetDeviceIPAddress(std::int16_t iDeviceHandle, const std::string& strAddress) = 0;

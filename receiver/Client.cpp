@@ -1,78 +1,101 @@
 #include "receiver/Client.h"
 
 #include <optional>
+#include <utility>
 
 #include "receiver/Conversation.h"
 #include "receiver/Error.h"
 
 namespace receiver {
-namespace {
 
-class Question {
- public:
-  Question(const Address& address, TimeLimits limits)
-      : conversation_(std::make_shared<Conversation>(
-            context_, address, limits,
+struct Request::Impl {
+  Impl(const Address& to, Message sentMessage, TimeLimits limits)
+      : address(to),
+        message(std::move(sentMessage)),
+        conversation(std::make_shared<Conversation>(
+            context, to, limits,
             [this](const std::string& text, Conversation::Failure) { fail(text); })) {}
-  ~Question() { conversation_->close(); }
-  Question(const Question&) = delete;
-  Question& operator=(const Question&) = delete;
+  ~Impl() { conversation->close(); }
+  Impl(const Impl&) = delete;
+  Impl& operator=(const Impl&) = delete;
 
-  /// Waits for the answer; `answer` gets it.
-  Outcome ask(const Message& message, Message& answer) {
-    conversation_->open([this, &message, &answer] {
-      conversation_->ask(message, [this, &answer](const Message& given) {
-        answer = given;
-        outcome_.emplace();
-      });
-    });
-    // Its time limit is among its work, so that it always has some.
-    while (!outcome_) context_->run_one();
-    return *outcome_;
-  }
+  void begin();
+  void fail(const std::string& text) { outcome = Outcome{Outcome::Kind::failed, text}; }
 
- private:
-  void fail(const std::string& text) { outcome_ = Outcome{Outcome::Kind::failed, text}; }
-
-  std::shared_ptr<asio::io_context> context_ = std::make_shared<asio::io_context>();
-  std::optional<Outcome> outcome_;
-  std::shared_ptr<Conversation> conversation_;
+  Address address;
+  Message message;
+  Message answer;
+  std::shared_ptr<asio::io_context> context = std::make_shared<asio::io_context>();
+  std::optional<Outcome> outcome;
+  std::shared_ptr<Conversation> conversation;
 };
 
-Outcome ask(const Address& address, const Message& message, Message& answer, TimeLimits limits) {
+void Request::Impl::begin() {
   try {
     static_cast<void>(writeMessage(message));
   } catch (const Error& error) {
-    return {Outcome::Kind::failed,
-            "Nothing was sent to the receiver at " + address.text() + ". " + error.what()};
+    return fail("Nothing was sent to the receiver at " + address.text() + ". " + error.what());
   }
-  return Question(address, limits).ask(message, answer);
+  conversation->open([this] {
+    conversation->ask(message, [this](const Message& given) {
+      answer = given;
+      outcome.emplace();
+    });
+  });
 }
 
-Outcome order(const Address& address, const Message& message, TimeLimits limits) {
-  Message answer;
-  return ask(address, message, answer, limits);
+Request::Request(const Address& address, const Message& message, TimeLimits limits)
+    : impl_(std::make_unique<Impl>(address, message, limits)) {
+  impl_->begin();
 }
 
-}  // namespace
+Request::~Request() = default;
+
+bool Request::poll(std::chrono::milliseconds wait) {
+  if (!impl_->outcome) {
+    impl_->context->restart();
+    impl_->context->run_one_for(wait);
+  }
+  return !impl_->outcome;
+}
+
+void Request::cancel() {
+  if (impl_->outcome) return;
+  impl_->outcome = Outcome{Outcome::Kind::cancelled, "The question to the receiver at " +
+                                                         impl_->address.text() + " was cancelled."};
+  impl_->conversation->close();
+}
+
+Outcome Request::wait() {
+  constexpr std::chrono::milliseconds anyTime{1000};
+  while (poll(anyTime)) {
+  }
+  return *impl_->outcome;
+}
+
+const Message& Request::answer() const { return impl_->answer; }
+
+Request passwordRequest(const Address& address, const std::string& password, TimeLimits limits) {
+  return Request(address, SetPassword{std::string(userName), password}, limits);
+}
 
 Outcome setPassword(const Address& address, const std::string& password, TimeLimits limits) {
-  return order(address, SetPassword{std::string(userName), password}, limits);
+  return passwordRequest(address, password, limits).wait();
 }
 
 Outcome checkPassword(const Address& address, const std::string& password, TimeLimits limits) {
-  return order(address, CheckPassword{std::string(userName), password}, limits);
+  return Request(address, CheckPassword{std::string(userName), password}, limits).wait();
 }
 
 Outcome setProperties(const Address& address, const Properties& properties, TimeLimits limits) {
-  return order(address, SetProperties{properties}, limits);
+  return Request(address, SetProperties{properties}, limits).wait();
 }
 
 Outcome query(const Address& address, Holdings& holdings, TimeLimits limits) {
-  Message answer;
-  Outcome outcome = ask(address, Query(), answer, limits);
+  Request request(address, Query(), limits);
+  Outcome outcome = request.wait();
   if (!outcome) return outcome;
-  const auto* held = std::get_if<Holdings>(&answer);
+  const auto* held = std::get_if<Holdings>(&request.answer());
   if (held == nullptr) {
     return {Outcome::Kind::failed,
             "The receiver at " + address.text() + " did not tell what it holds."};

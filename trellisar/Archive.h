@@ -12,8 +12,8 @@ namespace trellisar {
 inline constexpr const char* archiveExtension = ".tsa";
 
 /// The archive of a system with its compiled program, panel projects and reports. The same system
-/// gives the same bytes. Raises host::Error where the compiled program is missing or damaged, or a
-/// panel project can't be read.
+/// gives the same bytes. Raises host::Error where the compiled program is missing or damaged, or
+/// the project of a panel is not built.
 std::string archiveOf(const DocumentData& document);
 
 /// Unpacks an archive into a folder of the system's name below `parent` and answers the system's

@@ -1,8 +1,13 @@
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <set>
 #include <system_error>
 #include <utility>
 
+#include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/Archive.h"
@@ -20,7 +25,7 @@ namespace fs = std::filesystem;
 constexpr std::uintmax_t largestArchive = 64U << 20U;
 constexpr std::size_t largestContent = 128U << 20U;
 constexpr std::size_t mostEntries = 1000;
-constexpr std::size_t longestName = 200;
+constexpr std::size_t longestName = 255;
 
 struct Unpacked {
   std::string name;
@@ -28,7 +33,7 @@ struct Unpacked {
 };
 
 /// Why a name can't be that of a file below the folder; empty when it can.
-std::string nameProblem(const std::string& name) {
+std::string entryProblem(const std::string& name) {
   if (name.empty() || name.size() > longestName) return "has no usable name";
   if (forms::fromCodePoints(forms::toCodePoints(name)) != name) return "has no usable name";
   if (name.front() == '/') return "leads out of the system's folder";
@@ -91,7 +96,7 @@ class ZipReader {
     const bool isFolder = archive_entry_filetype(&entry) == AE_IFDIR;
     if (isFolder && name.ends_with('/')) name.pop_back();
     const std::string which = "its entry \"" + name + "\" ";
-    if (const std::string problem = nameProblem(name); !problem.empty()) refuse(which + problem);
+    if (const std::string problem = entryProblem(name); !problem.empty()) refuse(which + problem);
     if (!names_.insert(forms::lowerCase(name)).second) refuse(which + "stands twice");
     if (isFolder) return;
     const bool isLink = archive_entry_symlink(&entry) || archive_entry_hardlink(&entry);
@@ -128,21 +133,20 @@ class ZipReader {
   std::vector<Unpacked> files_;
 };
 
-/// A new folder that goes with all that is in it unless it is moved to its place.
+/// A new folder that goes with all that is in it unless it is moved to its place. It is locked
+/// while somebody fills it; one that is there without a lock was left by a program that was ended.
 class FolderAside {
  public:
   explicit FolderAside(const fs::path& parent) {
     for (int number = 0; number < 100 && folder_.empty(); ++number) {
-      const fs::path folder = parent / (".opening-" + std::to_string(number));
-      std::error_code error;
-      if (fs::create_directory(folder, error)) folder_ = folder;
-      if (error) fail(parent, error);
+      take(parent / (".opening-" + std::to_string(number)));
     }
     if (folder_.empty()) fail(parent, std::make_error_code(std::errc::file_exists));
   }
   ~FolderAside() {
     std::error_code ignored;
     if (!folder_.empty()) fs::remove_all(folder_, ignored);
+    if (lock_ >= 0) ::close(lock_);
   }
   FolderAside(const FolderAside&) = delete;
   FolderAside& operator=(const FolderAside&) = delete;
@@ -165,12 +169,27 @@ class FolderAside {
   }
 
  private:
+  /// Makes and locks the folder; one that somebody else fills is left to them.
+  void take(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directory(folder, error);
+    if (error) fail(folder.parent_path(), error);
+    lock_ = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (lock_ >= 0 && ::flock(lock_, LOCK_EX | LOCK_NB) == 0) {
+      for (const auto& old : fs::directory_iterator(folder, error)) fs::remove_all(old, error);
+      folder_ = folder;
+    } else if (lock_ >= 0) {
+      ::close(std::exchange(lock_, -1));
+    }
+  }
+
   [[noreturn]] static void fail(const fs::path& folder, const std::error_code& error) {
     throw host::Error(host::errFile, "Can't make the folder \"" + folder.string() +
                                          "\": " + systemReason(error.value()));
   }
 
   fs::path folder_;
+  int lock_ = -1;
 };
 
 /// The one system file at the top of the archive.
@@ -180,7 +199,7 @@ std::string systemFileIn(const std::vector<Unpacked>& files, const ZipReader& re
     const bool isOnTop = file.name.find('/') == std::string::npos;
     if (!isOnTop || fs::path(file.name).extension() != ".tsy") continue;
     if (!found.empty()) reader.refuse("it holds more than one system");
-    if (!nameProblem(fs::path(file.name).stem().string()).empty()) {
+    if (!fileNameProblem(fs::path(file.name).stem().string()).empty()) {
       reader.refuse("its system has no usable name");
     }
     found = file.name;
@@ -189,13 +208,24 @@ std::string systemFileIn(const std::vector<Unpacked>& files, const ZipReader& re
   return found;
 }
 
+/// The zip library gives names in composed letters, whatever the archive has. A program that the
+/// system names in others lies beside it under the system's own name; it is named so from now on.
+void renameProgram(DocumentData& document) {
+  const std::string name = document.ownFile.stem().string() + ".tsp";
+  std::error_code error;
+  if (!fs::is_regular_file(document.ownFile.parent_path() / name, error)) return;
+  document.compiledProgram = name;
+  saveSystemFile(document, forms::fromMachinePath(document.ownFile));
+}
+
 /// Raises what reading a system raises, and refuses one whose compiled program is not whole.
 void checkSystem(const fs::path& file, const ZipReader& reader) {
   const DocumentPtr document = readSystemFile(file, nullptr);
   if (document->compiledProgram.empty()) return;
-  const fs::path program = file.parent_path() / document->compiledProgram;
   const std::string name = "\"" + document->compiledProgram + "\"";
   std::error_code error;
+  if (!fs::is_regular_file(storedProgramFile(*document), error)) renameProgram(*document);
+  const fs::path program = storedProgramFile(*document);
   if (!fs::is_regular_file(program, error)) reader.refuse("it lacks the compiled program " + name);
   if (!isWholeProgram(readFile(program))) {
     reader.refuse("the compiled program " + name + " is damaged");

@@ -1,4 +1,3 @@
-#include <system_error>
 #include <utility>
 
 #include "host/Error.h"
@@ -7,7 +6,7 @@
 #include "trellisar/ArchiveHandle.h"
 #include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
-#include "trellisar/PanelProject.h"
+#include "trellisar/PanelState.h"
 #include "trellisar/Report.h"
 #include "trellisar/SystemFile.h"
 
@@ -65,16 +64,14 @@ class ZipWriter {
 }  // namespace
 
 std::string archiveOf(const DocumentData& document) {
+  requireBuiltProjects(document);
   ZipWriter zip;
   zip.add(document.name + ".tsy", systemFileText(document));
   zip.add(document.compiledProgram, storedProgram(document));
   for (const DevicePtr& panel : document.panels) {
+    if (!panel->definition->projectPanel) continue;
     const auto project = panelProjectFile(document, *panel);
-    std::error_code error;
-    const bool hasProject = panel->definition->projectPanel && panel->projectBuilt;
-    if (hasProject && std::filesystem::exists(project, error)) {
-      zip.add(project.filename().string(), readFile(project));
-    }
+    zip.add(project.filename().string(), readFile(project));
   }
   for (const Report& report : reportsNamed(document, host::reportsAll)) {
     zip.add("reports/" + reportFileName(report), reportHtml(report));

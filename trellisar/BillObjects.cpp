@@ -87,7 +87,11 @@ class Bill : public host::BillOfMaterials {
 
   bool AddItem(std::int16_t, std::int32_t, std::int32_t lPartID, std::int16_t iDeviceID) override {
     const std::int32_t key = -std::int32_t{iDeviceID};
-    if (lPartID < 1 || !document_->find(iDeviceID) || document_->findBillEntry(key)) return false;
+    const std::string problem = problemOf(lPartID, iDeviceID, key);
+    if (!problem.empty()) {
+      document_->lastError = problem;
+      return false;
+    }
     auto entry = std::make_shared<BillEntryData>();
     entry->key = key;
     entry->main = {lPartID, 1};
@@ -109,6 +113,19 @@ class Bill : public host::BillOfMaterials {
   }
 
  private:
+  /// Why the part can't be added to the bill; empty when it can.
+  std::string problemOf(std::int32_t part, std::int16_t id, std::int32_t key) const {
+    const std::string number = std::to_string(part);
+    if (!document_->find(id)) {
+      return "The part " + number +
+             " can't be added to the bill of materials: there is no device " + std::to_string(id) +
+             ".";
+    }
+    const std::string what = "\"" + document_->shownName(id) + "\"";
+    if (part < 1) return what + " can't be added to the bill of materials: it has no part number.";
+    return document_->findBillEntry(key) ? what + " is in the bill of materials already." : "";
+  }
+
   DocumentPtr document_;
 };
 

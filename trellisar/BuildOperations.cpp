@@ -12,15 +12,14 @@ bool MainWindowOperations::ShowCreateProgramDialog(bool& bCancelled) {
   return isStored;
 }
 
-void MainWindowOperations::SetupSystemManager(std::int32_t&,
-                                              const host::SystemManagerOptions& options) {
+// The transfer asks its questions itself, so that what the next two say in advance is not needed.
+
+void MainWindowOperations::SetupSystemManager(std::int32_t&, const host::SystemManagerOptions&) {
   note("SetupSystemManager");
-  systemManager_ = options;
 }
 
 void MainWindowOperations::SetQueryResponse(std::int16_t iResponse) {
   note("SetQueryResponse " + std::to_string(iResponse));
-  queryResponses_.push_back(iResponse);
 }
 
 }  // namespace trellisar

@@ -1,5 +1,6 @@
 #include "trellisar/Communication.h"
 
+#include <chrono>
 #include <utility>
 
 #include "forms/Application.h"
@@ -9,9 +10,13 @@
 #include "host/Numbers.h"
 #include "receiver/Client.h"
 #include "receiver/Error.h"
+#include "trellisar/AddressBookDialog.h"
 #include "trellisar/CompiledProgram.h"
+#include "trellisar/DoneDialog.h"
 #include "trellisar/IPSettingsDialog.h"
 #include "trellisar/MainWindowOperations.h"
+#include "trellisar/PanelState.h"
+#include "trellisar/PasswordDialog.h"
 #include "trellisar/TransferDialog.h"
 
 namespace trellisar {
@@ -33,10 +38,25 @@ receiver::Program programToSend(const DocumentData& document, std::int32_t handl
   receiver::Program program;
   program.name = document.name;
   program.bytes = storedProgram(document);
+  requireProjectFiles(document);
   for (const auto& [name, value] : deviceToSendTo(document, handle).properties) {
     program.properties[name] = value;
   }
   return program;
+}
+
+/// Whether the answer comes so soon that a window would only flicker.
+bool answersAtOnce(receiver::Request& request) {
+  using Clock = std::chrono::steady_clock;
+  constexpr auto unseen = std::chrono::milliseconds(300);
+  const auto end = Clock::now() + unseen;
+  forms::Application& application = forms::Application::current();
+  application.setMousePointer(forms::MousePointer::hourglass);
+  const forms::AtEnd waited([&] { application.setMousePointer(forms::MousePointer::standard); });
+  for (auto now = Clock::now(); now < end; now = Clock::now()) {
+    if (!request.poll(std::chrono::ceil<std::chrono::milliseconds>(end - now))) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -56,6 +76,7 @@ void Communication::StartTransfer(std::int16_t, std::int32_t lHandle, std::int16
   passwordOutcome_.reset();
   try {
     const receiver::Program program = programToSend(*session_->data(), lHandle);
+    if (!confirmAddress()) return;
     dialog_ = std::make_unique<TransferDialog>(receiverAddress(), program);
   } catch (const receiver::Error& error) {
     throw host::Error(host::errBadArgument,
@@ -66,16 +87,49 @@ void Communication::StartTransfer(std::int16_t, std::int32_t lHandle, std::int16
   });
 }
 
+bool Communication::isAddressChosen() const {
+  const Preferences& preferences = session_->preferences;
+  return !ownAddress_.empty() || preferences.addressBook().inUse() ||
+         !preferences.ipSettings().place().empty();
+}
+
+bool Communication::confirmAddress() {
+  const std::string place = receiverAddress().text();
+  if (isAddressChosen()) return true;
+  // Yes, the default, sends nothing to a place that the user has not seen.
+  const forms::Answer answer = forms::Application::current().messageBox(
+      "No receiver has been chosen yet. The system would be sent to " + place +
+          ".\r\n\r\nDo you want to choose the receiver first? Yes opens the address book; No sends "
+          "the system to " +
+          place + ", which is put into the address book.",
+      forms::Buttons::yesNoCancel, forms::Icon::question);
+  if (answer == forms::Answer::no) {
+    session_->preferences.setAddressBook({{{"Receiver", place}}, 0});
+  } else if (answer == forms::Answer::yes) {
+    AddressBookDialog(session_->preferences, [this] {
+      DisplayHelp.raise(host::helpFinishTab);
+    }).run();
+  }
+  if (isAddressChosen()) return true;
+  transferOutcome_ = receiver::Outcome{receiver::Outcome::Kind::cancelled,
+                                       "No receiver was chosen, and nothing was sent."};
+  return false;
+}
+
 void Communication::runTransfer() {
   {
     const forms::AtEnd ended([this] { dialog_.reset(); });
-    transferOutcome_ = dialog_->run();
+    dialog_->run();
+    transferOutcome_ = dialog_->outcome();
   }
-  const receiver::Outcome outcome = *transferOutcome_;  // a listener may start the next one
+  // A listener may start the next one, to another receiver.
+  const receiver::Outcome outcome = *transferOutcome_;
+  const std::string receiver = shownReceiver();
   switch (outcome.kind) {
     case receiver::Outcome::Kind::done:
       session_->journal->note("OnTransferComplete");
       OnTransferComplete.raise(receiversSentTo);
+      DoneDialog("Upload", "Sent to " + receiver + ", running.").run();
       break;
     case receiver::Outcome::Kind::cancelled:
       showFailure(outcome.message + " The receiver keeps the program that it had.");
@@ -88,11 +142,11 @@ void Communication::runTransfer() {
 
 bool Communication::SetPassword(const std::string& strPassword) {
   session_->journal->note(strPassword.empty() ? "SetPassword, empty" : "SetPassword");
-  forms::Application& application = forms::Application::current();
-  application.setMousePointer(forms::MousePointer::hourglass);
-  const forms::AtEnd waited([&] { application.setMousePointer(forms::MousePointer::standard); });
   try {
-    passwordOutcome_ = receiver::setPassword(receiverAddress(), strPassword);
+    const receiver::Address address = receiverAddress();
+    receiver::Request request = receiver::passwordRequest(address, strPassword);
+    if (!answersAtOnce(request)) PasswordDialog(address, request).run();
+    passwordOutcome_ = request.wait();
   } catch (const receiver::Error& error) {
     passwordOutcome_ = receiver::Outcome{receiver::Outcome::Kind::failed, error.what()};
   }
@@ -119,6 +173,14 @@ std::string Communication::address() const {
   if (const NamedAddress* inUse = preferences.addressBook().inUse()) return inUse->address;
   const std::string& place = preferences.ipSettings().place();
   return place.empty() ? defaultAddress_ : place;
+}
+
+/// `"Hall" at 10.0.0.7:47210` for one of the address book.
+std::string Communication::shownReceiver() const {
+  const NamedAddress* inUse = session_->preferences.addressBook().inUse();
+  const bool isNamed = inUse && inUse->address == address();
+  return (isNamed ? "\"" + inUse->name + "\"" : std::string("the receiver")) + " at " +
+         receiverAddress().text();
 }
 
 receiver::Address Communication::receiverAddress() const {

@@ -25,12 +25,15 @@ class Communication : public host::CommObject, public std::enable_shared_from_th
   /// Sends the stored compiled program of the open system, with the properties of the device with
   /// the handle `lHandle`; the other two numbers have no meaning here. The window of the transfer
   /// opens when the application runs what is left for later, and closes by itself; after that
-  /// OnTransferComplete tells a success, and a message anything else.
+  /// OnTransferComplete tells a success, and then a window the user; a message tells anything else.
   ///
-  /// Raises host::Error when no system is open, it has no compiled program, the handle or the
-  /// address is none, or another transfer has not ended.
+  /// An address that nobody chose is asked about first; then it is in the address book, or another
+  /// one is chosen, or nothing is sent.
+  ///
+  /// Raises host::Error when no system is open, it has no compiled program or a panel no project
+  /// beside it, the handle or the address is none, or another transfer has not ended.
   void StartTransfer(std::int16_t iWhat, std::int32_t lHandle, std::int16_t iMode) override;
-  /// Waits for the receiver's answer.
+  /// Waits for the receiver's answer, in a window when it does not come at once.
   bool SetPassword(const std::string& strPassword) override;
   void SetDefaultAddress(const std::string& strAddress) override { defaultAddress_ = strAddress; }
   void ShowSetIPDialog(std::int32_t& hwnd) override;
@@ -50,7 +53,11 @@ class Communication : public host::CommObject, public std::enable_shared_from_th
 
  private:
   void runTransfer();
+  bool isAddressChosen() const;
+  /// Asks about an address that nobody chose; false when nothing may be sent.
+  bool confirmAddress();
   receiver::Address receiverAddress() const;
+  std::string shownReceiver() const;
 
   std::shared_ptr<Session> session_;
   std::string ownAddress_;

@@ -8,7 +8,9 @@
 #include "host/Error.h"
 #include "receiver/Digest.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/ProgramCheck.h"
 #include "trellisar/SystemFile.h"
+#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {
@@ -99,6 +101,16 @@ std::string storedProgram(const DocumentData& document) {
                                           "\" is damaged. Save and build the system again.");
 }
 
+bool isProgramCurrent(const DocumentData& document) {
+  if (!document.programIsCurrent || document.compiledProgram.empty()) return false;
+  if (!programErrors(document).empty()) return false;
+  try {
+    return readFile(storedProgramFile(document)) == compileProgram(document);
+  } catch (const host::Error&) {
+    return false;  // building it again tells what is wrong
+  }
+}
+
 void forgetMissingProgram(DocumentData& document, const fs::path& folder) {
   std::error_code error;
   if (document.compiledProgram.empty() || fs::exists(folder / document.compiledProgram, error)) {
@@ -106,6 +118,12 @@ void forgetMissingProgram(DocumentData& document, const fs::path& folder) {
   }
   document.compiledProgram.clear();
   document.programIsCurrent = false;
+}
+
+void leaveProgramBehind(DocumentData& document, const fs::path& folder) {
+  if (!isSameFile(folder, document.ownFile.parent_path())) document.compiledProgram.clear();
+  forgetMissingProgram(document, folder);
+  document.programIsCurrent = document.programIsCurrent && !document.compiledProgram.empty();
 }
 
 }  // namespace trellisar

@@ -19,6 +19,10 @@ void storeCompiledProgram(DocumentData& document, const std::string& program);
 /// errFile when there is none or it can't be read, and errBadFile when it is damaged.
 std::string storedProgram(const DocumentData& document);
 
+/// Whether the stored program is the one that compiling would give now. A change that nobody has
+/// marked is found all the same, since the program itself is compared.
+bool isProgramCurrent(const DocumentData& document);
+
 /// A program with the line in front that tells its form, hash and length.
 std::string withProgramHead(const std::string& body);
 
@@ -31,5 +35,9 @@ std::filesystem::path storedProgramFile(const DocumentData& document);
 /// Forgets a compiled program that does not lie beside the system any more, so that it is made
 /// anew.
 void forgetMissingProgram(DocumentData& document, const std::filesystem::path& folder);
+
+/// As above for a system that is about to be saved in the folder: the program of a system that
+/// comes from another folder stays there, and one of its name that lies here is another system's.
+void leaveProgramBehind(DocumentData& document, const std::filesystem::path& folder);
 
 }  // namespace trellisar

@@ -6,6 +6,7 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/DeviceObject.h"
+#include "trellisar/PanelState.h"
 #include "trellisar/Provisioning.h"
 
 namespace trellisar {
@@ -74,7 +75,7 @@ class TouchpanelObject : public host::Touchpanel {
   std::int16_t get_ConnectSlot() const override { return data().connectSlot; }
   void put_ConnectSlot(std::int16_t iSlot) override { data().connectSlot = iSlot; }
   bool get_IsProjectPanel() const override { return data().definition->projectPanel; }
-  bool get_ProjectBuilt() const override { return data().projectBuilt; }
+  bool get_ProjectBuilt() const override { return document_ && isProjectBuilt(*document_, data()); }
   void put_ProjectBuilt(bool bBuilt) override { data().projectBuilt = bBuilt; }
 
  private:

@@ -97,11 +97,16 @@ std::shared_ptr<host::Touchpanel> MainWindowOperations::AddInterface(std::int16_
   const DocumentPtr& document = session_->data();
   const DefinitionPtr definition = document->library->findInterface(iModelID);
   const DevicePtr parent = document->find(iParentID, Kind::device);
-  if (!definition || !parent) return nullptr;
+  if (!definition || !parent) {
+    document->lastError = definition ? "The user interface can't be added: there is no device " +
+                                           std::to_string(iParentID) + " that it could belong to."
+                                     : "The device library has no user interface of model " +
+                                           std::to_string(iModelID) + ".";
+    return nullptr;
+  }
   const std::string name = strName.empty() ? definition->name : strName;
   DevicePtr panel = document->findByName(Kind::panel, name, parent->name);
-  std::string error;
-  if (!panel) panel = addDevice(*document, definition, name, iParentID, error);
+  if (!panel) panel = addDevice(*document, definition, name, iParentID, document->lastError);
   return makeTouchpanel(document, panel);
 }
 

@@ -1,11 +1,14 @@
 #include "trellisar/Document.h"
 
+#include <algorithm>
+
 #include "host/Error.h"
 #include "host/Numbers.h"
 #include "trellisar/BillObjects.h"
 #include "trellisar/DeviceLists.h"
 #include "trellisar/DeviceObject.h"
 #include "trellisar/LibraryObjects.h"
+#include "trellisar/ProgramCheck.h"
 #include "trellisar/ProgramObjects.h"
 #include "trellisar/Provisioning.h"
 #include "trellisar/SystemFile.h"
@@ -16,18 +19,14 @@ namespace {
 
 using Kind = DeviceData::Kind;
 
-/// Names what the program uses of the control system and the new model lacks.
-std::string whatIsMissing(const DeviceData& receiver) {
-  std::string missing;
-  for (const auto& signal : receiver.signals) {
-    bool isUsed = signal->sourceType == host::sourceSignal;
-    for (const auto& event : signal->events) isUsed = isUsed || (event && !event->steps.empty());
-    const SignalRow& row = signal->row;
-    SignalRow found;
-    if (!isUsed || receiver.definition->findRow(row.output, row.input, row.type, found)) continue;
-    missing += "\r\n" + (row.output.empty() ? row.input : row.output);
+/// Those that are in the second list alone, each on a line of its own.
+std::string addedLines(const std::vector<std::string>& before,
+                       const std::vector<std::string>& after) {
+  std::string added;
+  for (const std::string& line : after) {
+    if (std::find(before.begin(), before.end(), line) == before.end()) added += "\r\n" + line;
   }
-  return missing;
+  return added;
 }
 
 }  // namespace
@@ -127,11 +126,13 @@ void Document::ChangeControlSystem(std::int16_t iModelID, const std::string&, st
                  ". The receiver stays as it is.";
     return;
   }
+  const std::vector<std::string> before = programErrors(data());
   changeReceiver(data(), definition);
-  const std::string missing = whatIsMissing(*receiver);
-  if (missing.empty()) return;
-  strMessage = "The program of \"" + receiver->name + "\" uses signals that the model " +
-               definition->model + " does not have:\r\n" + missing;
+  dropLostSignals(data(), *receiver);
+  const std::string errors = addedLines(before, programErrors(data()));
+  if (errors.empty()) return;
+  strMessage = "The program uses what the receiver's model " + definition->model +
+               " does not have:\r\n" + errors;
 }
 
 std::int16_t Document::AddModules(const host::ModuleList& colModules,

@@ -20,6 +20,7 @@
 /// interfaces are thin handles over it.
 namespace trellisar {
 
+struct PanelSource;
 struct PresetData;
 
 struct StepData {
@@ -82,7 +83,7 @@ struct DeviceData {
   std::int16_t sensorHandle = 0;
   std::string sensorFormat;
   std::int16_t connectSlot = 0;  // of a panel, like the next one
-  bool projectBuilt = false;
+  bool projectBuilt = false;     // one was finished; see isProjectBuilt
   std::vector<std::shared_ptr<host::StandardCommand>> standardCommands;
   std::vector<std::pair<std::string, std::string>> properties;  // as in the definition
   std::vector<std::shared_ptr<SlotData>> slots;
@@ -119,15 +120,17 @@ class DocumentData {
   explicit DocumentData(std::shared_ptr<const DeviceLibrary> deviceLibrary)
       : library(std::move(deviceLibrary)) {}
 
-  std::shared_ptr<const DeviceLibrary> library;  // nothing for a document that is only looked at
-  std::shared_ptr<Journal> journal;              // nothing: no calls are written down
+  std::shared_ptr<const DeviceLibrary> library;    // nothing for a document that is only looked at
+  std::shared_ptr<Journal> journal;                // nothing: no calls are written down
+  std::shared_ptr<const PanelSource> panelSource;  // nothing: panels have no projects here
   std::string name;
   std::string folder;             // with backslashes
+  std::string ownDigest;          // of the content that ownFile had then
   std::filesystem::path ownFile;  // what it was opened from or saved to last; empty: none
   std::string application;
   bool isModified = false;
-  bool programIsCurrent = false;
-  std::string compiledProgram;  // a file's name in the system's folder; empty: none
+  bool programIsCurrent = false;  // nobody has marked a change; isProgramCurrent looks for one
+  std::string compiledProgram;    // a file's name in the system's folder; empty: none
   std::vector<std::pair<std::string, std::string>> settings;  // by add-in title
   std::int16_t nextId = 1;
   std::int16_t nextHandle = 1;

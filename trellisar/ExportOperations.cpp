@@ -3,6 +3,7 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/Archive.h"
+#include "trellisar/DoneDialog.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/MainWindowOperations.h"
 
@@ -42,6 +43,7 @@ void MainWindowOperations::Export(std::int32_t& hwnd) {
   try {
     replaceFile(file, archiveOf(document));
     session_->exportedFile = file;
+    DoneDialog("Export System", "Exported to \"" + file.string() + "\".").run();
   } catch (const host::Error& error) {
     forms::Application::current().messageBox(
         "The system could not be exported.\r\n\r\n" + error.description(), forms::Buttons::ok,

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <ctime>
 #include <system_error>
 #include <utility>
@@ -146,6 +147,48 @@ void flushFolder(const fs::path& folder) {
   if (opened.isOpen()) static_cast<void>(fsync(opened.number()));
 }
 
+/// By its permissions: to the superuser every file can be written.
+bool isProtected(const fs::path& file) {
+  struct stat status {};
+  constexpr mode_t anyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
+  if (stat(file.c_str(), &status) != 0) return false;
+  return (status.st_mode & anyWriter) == 0 || ::access(file.c_str(), W_OK) != 0;
+}
+
+/// 0, or the number of the error, like the next one.
+int moveOver(const fs::path& from, const fs::path& to) {
+  return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+int moveIfFree(const fs::path& from, const fs::path& to) {
+  if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
+  if (errno != EINVAL && errno != ENOSYS) return errno;
+  // A file system that can't do it has links.
+  if (::link(from.c_str(), to.c_str()) != 0) return errno;
+  ::unlink(from.c_str());
+  return 0;
+}
+
+/// Writes beside the file and moves that to its place; 0, or the number of the error, and then
+/// nothing is left of it.
+int put(const fs::path& file, std::string_view content,
+        int (*move)(const fs::path& from, const fs::path& to)) {
+  const fs::path beside = file.parent_path() / ("." + file.filename().string() + ".saving");
+  const NoSizeSignal noSizeSignal;
+  const Descriptor opened = openBeside(beside, file);
+  int error = writeAll(opened.number(), content);
+  if (error == 0) {
+    keepMode(opened.number(), file);
+    error = move(beside, file);
+  }
+  if (error == 0) {
+    flushFolder(file.parent_path());
+  } else {
+    ::unlink(beside.c_str());
+  }
+  return error;
+}
+
 }  // namespace
 
 std::string systemReason(int errorNumber) {
@@ -192,22 +235,20 @@ std::string readFile(const fs::path& file) {
 
 void replaceFile(const fs::path& named, std::string_view content) {
   const fs::path file = behindLinks(named);
-  const std::string name = file.filename().string();
-  const fs::path beside = file.parent_path() / ("." + name + ".saving");
   std::error_code ignored;
   if (fs::is_directory(file, ignored)) failToWrite(named, EISDIR);
-  const NoSizeSignal noSizeSignal;
-  const Descriptor opened = openBeside(beside, named);
-  int error = writeAll(opened.number(), content);
-  if (error == 0) {
-    keepMode(opened.number(), file);
-    if (::rename(beside.c_str(), file.c_str()) != 0) error = errno;
+  if (isProtected(file)) {
+    throw host::Error(host::errFile, "Can't write \"" + named.string() +
+                                         "\": it is protected against writing. Take the "
+                                         "protection away or choose another name.");
   }
-  if (error != 0) {
-    ::unlink(beside.c_str());
-    failToWrite(named, error);
-  }
-  flushFolder(file.parent_path());
+  if (const int error = put(file, content, moveOver)) failToWrite(named, error);
+}
+
+bool createFile(const fs::path& file, std::string_view content) {
+  const int error = put(file, content, moveIfFree);
+  if (error != 0 && error != EEXIST) failToWrite(file, error);
+  return error == 0;
 }
 
 FolderLock::FolderLock(const fs::path& folder)

@@ -12,8 +12,13 @@ std::string readFile(const std::filesystem::path& file);
 
 /// Replaces a file's content: writes a file beside it, flushes it to the disk and renames it, so
 /// that at every moment the file holds the old or the new content, whole. A link stays a link.
-/// Raises host::Error errFile with the file and the reason, and then the old content is untouched.
+/// Raises host::Error errFile with the file and the reason, and then the old content is untouched;
+/// a file that nobody may write is refused.
 void replaceFile(const std::filesystem::path& file, std::string_view content);
+
+/// As above for a file that is not there yet. False, and nothing is changed, when one is: of two
+/// programs that make the same file at once, one gets false.
+[[nodiscard]] bool createFile(const std::filesystem::path& file, std::string_view content);
 
 /// While it lives, no other program has a lock on the folder; who wants one waits. Without the
 /// folder there is none to wait for.

@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <optional>
 
 #include "forms/Application.h"
 #include "forms/Paths.h"
@@ -9,7 +9,6 @@
 #include "trellisar/MainWindowOperations.h"
 #include "trellisar/SystemFile.h"
 #include "trellisar/SystemFolders.h"
-#include "trellisar/SystemInfoObject.h"
 #include "trellisar/TimeText.h"
 
 namespace trellisar {
@@ -20,20 +19,6 @@ namespace fs = std::filesystem;
 bool isThere(const fs::path& file) {
   std::error_code error;
   return fs::exists(file, error);
-}
-
-/// Why the name can't be a system's; empty when it can.
-std::string nameProblem(const std::string& name) {
-  if (name.empty()) return "A system must have a name.";
-  if (forms::length(name) > maximumNameLength) {
-    return "The name of a system has at most " + std::to_string(maximumNameLength) + " characters.";
-  }
-  const bool isReserved = name == "." || name == "..";
-  const bool hasIllegal = std::any_of(name.begin(), name.end(), [](unsigned char c) {
-    return c < ' ' || c == '/' || c == '\\' || c == 0x7F;
-  });
-  if (!isReserved && !hasIllegal) return {};
-  return "\"" + name + "\" can't be the name of a file. Choose another name for the system.";
 }
 
 }  // namespace
@@ -67,6 +52,7 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
     if (bCancelled) return nullptr;
     const DocumentPtr data = readSystemFile(file, session_->library);
     data->journal = session_->journal;
+    data->panelSource = session_->panelSource;
     forgetMissingProgram(*data, file.parent_path());
     // A template is where systems come from and never where one is saved to without a question.
     if (!bUseRecovery) data->ownFile.clear();
@@ -82,40 +68,42 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
   }
 }
 
-bool MainWindowOperations::mayReplace(const fs::path& file) const {
-  const Replacing replacing = session_->replacing;
-  if (!isThere(file) || isSameFile(file, session_->data()->ownFile)) return true;
-  if (replacing == Replacing::always) return true;
-  const std::string path = file.string();
-  const std::string name = "\"" + path + "\"";
-  if (replacing == Replacing::never) {
-    showFailure("Another system is in the file " + name + ". It was not replaced.");
-    return false;
+std::optional<Overwriting> MainWindowOperations::mayOverwrite(const fs::path& file) const {
+  if (session_->replacing == Replacing::always) return Overwriting::allowed;
+  const Standing standing = standingAt(*session_->data(), file);
+  if (standing == Standing::nothing || standing == Standing::own) return Overwriting::refused;
+  const std::string name = "\"" + file.string() + "\"";
+  const bool isChanged = standing == Standing::changed;
+  const std::string what =
+      isChanged ? "Another program has changed the file " + name + " since the system was opened."
+                : "Another system is in the file " + name + ".";
+  if (session_->replacing == Replacing::never) {
+    showFailure(what + " It was not replaced.");
+    return std::nullopt;
   }
   // The first button is the default one, so the question is put so that Yes does no harm.
-  return forms::Application::current().messageBox(
-             "Another system is in the file " + name +
-                 ".\r\n\r\nDo you want to keep that system? "
-                 "Yes keeps it and does not save; No replaces it.",
-             forms::Buttons::yesNo, forms::Icon::question) == forms::Answer::no;
+  const auto answer = forms::Application::current().messageBox(
+      what + "\r\n\r\nDo you want to keep that " + (isChanged ? "file" : "system") +
+          "? Yes keeps it and does not save; No replaces it.",
+      forms::Buttons::yesNo, forms::Icon::question);
+  return answer == forms::Answer::no ? std::optional(Overwriting::allowed) : std::nullopt;
 }
 
-void MainWindowOperations::save(const std::string& path, const std::string& application) {
+void MainWindowOperations::save(const std::string& path, const std::string& application,
+                                Overwriting overwriting) {
   DocumentData& document = *session_->data();
-  MadeFolders folders(forms::toMachinePath(path).parent_path());
+  const fs::path file = forms::toMachinePath(path);
+  const Belongings replaced = belongingsOfOther(document, file);
+  MadeFolders folders(file.parent_path());
   const std::string oldApplication = std::exchange(document.application, application);
-  const std::string oldProgram = document.compiledProgram;
-  const bool wasCurrent = document.programIsCurrent;
-  forgetMissingProgram(document, forms::toMachinePath(path).parent_path());
   try {
-    saveSystemFile(document, path);
+    saveSystemFile(document, path, overwriting);
   } catch (const host::Error&) {
     document.application = oldApplication;
-    document.compiledProgram = oldProgram;
-    document.programIsCurrent = wasCurrent;
     throw;
   }
   folders.keep();
+  replaced.remove();
   document.isModified = false;
   session_->preferences.remember(withSystemExtension(path));
 }
@@ -123,14 +111,11 @@ void MainWindowOperations::save(const std::string& path, const std::string& appl
 bool MainWindowOperations::FileSaveAs(const std::string& strFile,
                                       const std::string& strApplication) {
   note("FileSaveAs " + strFile + ", " + strApplication);
-  if (forms::fileNameOf(strFile).empty()) {
-    showFailure("The system could not be saved: it has no name. Give it one and save again.");
-    return false;
-  }
-  const std::string path = withSystemExtension(strFile);
   try {
-    if (!mayReplace(forms::toMachinePath(path))) return false;
-    save(path, strApplication);
+    const std::string path = withSystemExtension(strFile);
+    const std::optional<Overwriting> overwriting = mayOverwrite(forms::toMachinePath(path));
+    if (!overwriting) return false;
+    save(path, strApplication, *overwriting);
     return true;
   } catch (const host::Error& error) {
     forms::Application::current().messageBox(
@@ -153,8 +138,14 @@ std::string MainWindowOperations::GetDefaultSystemsFolder() const {
 
 bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
   note("CreateProjectFolder " + strFolder);
-  if (strFolder.empty() || strFolder.ends_with("\\\\")) {
+  const std::string name = forms::fileNameOf(
+      strFolder.ends_with('\\') ? strFolder.substr(0, strFolder.size() - 1) : strFolder);
+  if (name.empty()) {
     showFailure("The system has no name, so its folder can't be made. Give the system a name.");
+    return false;
+  }
+  if (const std::string problem = fileNameProblem(name); !problem.empty()) {
+    showFailure(problem);
     return false;
   }
   const fs::path folder = (forms::toMachinePath(strFolder) / "").parent_path();
@@ -178,7 +169,7 @@ bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
 }
 
 bool MainWindowOperations::CheckValidSystemName(std::string& strName) {
-  const std::string problem = nameProblem(strName);
+  const std::string problem = systemNameProblem(strName);
   if (!problem.empty()) {
     forms::Application::current().messageBox(problem, forms::Buttons::ok, forms::Icon::information);
   }

@@ -34,7 +34,7 @@ Host::Host(const HostOptions& options)
   }
   session_->libraryManager = std::make_shared<LibraryManager>(
       session_->library, forms::fromMachinePath(dataFolder_ / "pictures"));
-  session_->panelTemplates = dataFolder_ / "PanelTemplates";
+  session_->panelSource->templates = dataFolder_ / "PanelTemplates";
   session_->preferences = Preferences(options.preferencesFile, tellPreferences);
   session_->replacing = options.replacing;
   session_->exportFile = options.exportFile.empty() ? fs::path() : fs::absolute(options.exportFile);

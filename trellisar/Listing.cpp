@@ -5,6 +5,7 @@
 
 #include "forms/Numbers.h"
 #include "host/Numbers.h"
+#include "trellisar/CompiledProgram.h"
 
 namespace trellisar {
 namespace {
@@ -18,7 +19,7 @@ class Lister {
     json["name"] = document_.name;
     json["folder"] = document_.folder;
     json["application"] = document_.application;
-    json["program_is_current"] = document_.programIsCurrent;
+    json["program_is_current"] = isProgramCurrent(document_);
     json["settings"] = settings();
     json["receiver"] = receiver();
     json["devices"] = Json::array();

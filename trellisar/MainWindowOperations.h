@@ -1,12 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "host/OwnerForm.h"
 #include "host/ProgramGuide.h"
 #include "trellisar/Session.h"
+#include "trellisar/SystemFile.h"
 
 namespace trellisar {
 
@@ -70,16 +72,15 @@ class MainWindowOperations : public host::OwnerForm {
   std::string chooseFile() const;
   /// Asks where the system of an archive goes, and answers its file; empty: the user cancelled.
   std::filesystem::path unpack(const std::filesystem::path& archive) const;
-  bool mayReplace(const std::filesystem::path& file) const;
-  void save(const std::string& path, const std::string& application);
+  /// How a save may deal with the file, after asking where that is needed; nothing: not at all.
+  std::optional<Overwriting> mayOverwrite(const std::filesystem::path& file) const;
+  void save(const std::string& path, const std::string& application, Overwriting overwriting);
   const std::shared_ptr<UIManagerObject>& uiManager();
   std::int16_t chooseDevice(host::DeviceDialogArguments& arguments, const DefinitionPtr& chosen);
 
   std::shared_ptr<Session> session_;
   forms::Form* form_ = nullptr;
   host::ProgramGuide* guide_ = nullptr;
-  host::SystemManagerOptions systemManager_;
-  std::vector<std::int16_t> queryResponses_;
   std::shared_ptr<UIManagerObject> uiManager_;  // made when it is first asked for
 };
 

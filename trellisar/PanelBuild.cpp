@@ -5,6 +5,8 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "host/Numbers.h"
+#include "receiver/Digest.h"
+#include "trellisar/Json.h"
 
 namespace trellisar {
 namespace {
@@ -126,6 +128,14 @@ bool isTaken(const TemplatePage& page, const PanelPages& pages) {
   return false;
 }
 
+std::string labelsOf(const DocumentData& document) {
+  Json labels = Json::array();
+  for (const DevicePtr& device : document.devices) {
+    if (!device->label.empty()) labels.push_back({device->name, device->port, device->label});
+  }
+  return jsonText(labels);
+}
+
 }  // namespace
 
 PanelProject buildPanelProject(const DocumentData& document, const DeviceData& panel,
@@ -133,7 +143,7 @@ PanelProject buildPanelProject(const DocumentData& document, const DeviceData& p
                                const PanelMessages& messages) {
   messages(host::severityProgress, "Making the project of " + inQuotes(panel.name));
   const Builder builder(document, messages);
-  PanelProject project{document.name, panel.name, pages.prefix, {}};
+  PanelProject project{document.name, panel.name, pages, {}, {}};
   for (const TemplatePage& page : from.pages) {
     if (isTaken(page, pages)) project.pages.push_back(builder.page(page, pages.prefix));
   }
@@ -142,6 +152,7 @@ PanelProject buildPanelProject(const DocumentData& document, const DeviceData& p
                                             " has no page whose name begins with " +
                                             inQuotes(pages.prefix) + ".");
   }
+  project.madeFrom = receiver::Digest::of(panelProjectText(project) + labelsOf(document));
   return project;
 }
 

@@ -16,7 +16,7 @@ bool MainWindowOperations::CreateTouchpanels(std::shared_ptr<host::Touchpanel>& 
   const DocumentPtr& document = session_->data();
   const DevicePtr panel =
       oPanel ? document->find(oPanel->get_ID(), DeviceData::Kind::panel) : nullptr;
-  if (!panel || !uiManager()->makeProject(*panel)) return false;
+  if (!panel || !uiManager()->makeProject(panel)) return false;
   oPanel = makeTouchpanel(document, panel);
   return true;
 }

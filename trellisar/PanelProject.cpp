@@ -99,7 +99,10 @@ std::string panelProjectText(const PanelProject& project) {
   json["version"] = projectVersion;
   json["system"] = project.system;
   json["panel"] = project.panel;
-  json["prefix"] = project.prefix;
+  json["prefix"] = project.taken.prefix;
+  json["default_pages"] = project.taken.includesDefault;
+  json["shared_pages"] = project.taken.includesShared;
+  json["made_from"] = project.madeFrom;
   json["pages"] = Json::array();
   for (const PanelPage& page : project.pages) {
     Json objects = Json::array();
@@ -120,7 +123,10 @@ PanelProject readPanelProject(const std::filesystem::path& file) {
   PanelProject project;
   project.system = reader.at("system").text();
   project.panel = reader.at("panel").text();
-  project.prefix = reader.at("prefix").text();
+  project.taken.prefix = reader.at("prefix").text();
+  project.taken.includesDefault = reader.at("default_pages").boolean();
+  project.taken.includesShared = reader.at("shared_pages").boolean();
+  project.madeFrom = reader.at("made_from").text();
   std::set<std::int32_t> ids;
   reader.at("pages").each([&](JsonReader item) {
     PanelPage page;

@@ -36,10 +36,18 @@ struct PanelPage {
   std::vector<PanelObject> objects;
 };
 
+/// Which pages of a template are taken.
+struct PanelPages {
+  std::string prefix;  // what the names of the template's own pages begin with
+  bool includesDefault = true;
+  bool includesShared = true;
+};
+
 struct PanelProject {
   std::string system;
   std::string panel;
-  std::string prefix;  // of the template's pages that were taken
+  PanelPages taken;
+  std::string madeFrom;  // digest of all that it depends on, see buildPanelProject
   std::vector<PanelPage> pages;
 
   PanelPage* findPage(const std::string& name);

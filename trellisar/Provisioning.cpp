@@ -216,15 +216,17 @@ class Cascade {
   std::set<std::int16_t> ids_;
 };
 
+void forgetEvents(DocumentData& document, const SignalData& signal) {
+  for (const auto& event : signal.events) {
+    if (event) document.forgetPreset(*event);
+  }
+}
+
 void leave(DocumentData& document, const DevicePtr& device, std::set<std::int16_t>& ids) {
   ids.insert(device->id);
   document.forget(device);
   device->isGone = true;
-  for (const auto& signal : device->signals) {
-    for (const auto& event : signal->events) {
-      if (event) document.forgetPreset(*event);
-    }
-  }
+  for (const auto& signal : device->signals) forgetEvents(document, *signal);
 }
 
 }  // namespace
@@ -327,6 +329,16 @@ std::vector<std::string> devicesWithoutPort(const DocumentData& document) {
                         "ports.");
   }
   return sentences;
+}
+
+void dropLostSignals(DocumentData& document, DeviceData& device) {
+  std::erase_if(device.signals, [&](const auto& signal) {
+    const SignalRow& row = signal->row;
+    SignalRow found;
+    if (device.definition->findRow(row.output, row.input, row.type, found)) return false;
+    forgetEvents(document, *signal);
+    return true;
+  });
 }
 
 bool canTakePort(const DocumentData& document, const DeviceData& device, std::int16_t port) {

@@ -35,6 +35,10 @@ void changeReceiver(DocumentData& document, const DefinitionPtr& definition);
 /// A sentence for each device that needs a port and has none that the receiver has.
 std::vector<std::string> devicesWithoutPort(const DocumentData& document);
 
+/// Takes the events and sources of the signals that the device's definition does not have out of
+/// the document: nothing can ever raise or feed them.
+void dropLostSignals(DocumentData& document, DeviceData& device);
+
 /// Whether a device could be at a port: the port is its own, or free and one of the receiver.
 bool canTakePort(const DocumentData& document, const DeviceData& device, std::int16_t port);
 

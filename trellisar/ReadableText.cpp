@@ -4,6 +4,7 @@
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
+#include "trellisar/CompiledProgram.h"
 #include "trellisar/Listing.h"
 #include "trellisar/Provisioning.h"
 
@@ -87,7 +88,7 @@ class Reader {
     return inQuotes(document_.name) + " in " + forms::toMachinePath(document_.folder).string() +
            "\n" + "Saved by: " + document_.application + "\n" + "Compiled program: " +
            (document_.compiledProgram.empty() ? "none"
-            : document_.programIsCurrent      ? "up to date"
+            : isProgramCurrent(document_)     ? "up to date"
                                               : "older than the system") +
            "\n";
   }

@@ -11,6 +11,7 @@
 #include "trellisar/Document.h"
 #include "trellisar/Journal.h"
 #include "trellisar/LibraryObjects.h"
+#include "trellisar/PanelState.h"
 #include "trellisar/Preferences.h"
 #include "trellisar/ReportPrinter.h"
 
@@ -27,7 +28,7 @@ enum class Replacing {
 struct Session {
   std::shared_ptr<const DeviceLibrary> library;
   std::shared_ptr<LibraryManager> libraryManager;
-  std::filesystem::path panelTemplates;  // the folder of the templates of panel projects
+  std::shared_ptr<PanelSource> panelSource = std::make_shared<PanelSource>();
   Preferences preferences;
   std::weak_ptr<host::CommObject> communication;
   Replacing replacing = Replacing::ask;

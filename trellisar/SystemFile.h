@@ -18,9 +18,25 @@ DocumentPtr readSystemFile(const std::filesystem::path& file,
 /// The text that stands in a system's file. The same system gives the same text.
 std::string systemFileText(const DocumentData& document);
 
+/// What stands where a system is to be saved.
+enum class Standing {
+  nothing,
+  own,      // the document's own file, as it was read or saved last
+  changed,  // the document's own file, which another program has changed since
+  other,    // another file
+};
+
+Standing standingAt(const DocumentData& document, const std::filesystem::path& file);
+
+/// Whether a save may replace a file that is changed or another one.
+enum class Overwriting { refused, allowed };
+
 /// Writes the system's file, to whose path, with backslashes, ".tsy" is added, and makes it the
-/// document's own. Raises host::Error errFile, with the old file as it was.
-void saveSystemFile(DocumentData& document, const std::string& path);
+/// document's own. A compiled program that does not lie beside it is forgotten. Raises host::Error:
+/// errBadArgument for a name that a system's file can't have, and errFile, with the old file and
+/// the document as they were. With Overwriting::refused a file that came there just now stays too.
+void saveSystemFile(DocumentData& document, const std::string& path,
+                    Overwriting overwriting = Overwriting::refused);
 
 /// The path with ".tsy" at its end, once.
 std::string withSystemExtension(const std::string& path);

@@ -5,6 +5,7 @@
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
+#include "receiver/Digest.h"
 #include "trellisar/DefinitionJson.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/Json.h"
@@ -375,11 +376,13 @@ std::string systemName(const fs::path& file, const std::string& stored) {
 DocumentPtr readSystemFile(const fs::path& file,
                            const std::shared_ptr<const DeviceLibrary>& library) {
   const std::string shown = file.filename().string();
-  const Json json = parseJson(readFile(file), shown);
+  const std::string text = readFile(file);
+  const Json json = parseJson(text, shown);
   auto document = std::make_shared<DocumentData>(library);
   Loader(*document, json, shown).load();
   document->name = systemName(file, document->name);
   document->ownFile = fs::absolute(file).lexically_normal();
+  document->ownDigest = receiver::Digest::of(text);
   document->folder = forms::fromMachinePath(document->ownFile.parent_path());
   if (!document->folder.ends_with('\\')) document->folder += "\\";
   return document;

@@ -2,11 +2,8 @@
 #include <utility>
 
 #include "forms/Numbers.h"
-#include "forms/Paths.h"
-#include "forms/Text.h"
 #include "host/Numbers.h"
 #include "trellisar/DefinitionJson.h"
-#include "trellisar/FileIO.h"
 #include "trellisar/Json.h"
 #include "trellisar/SystemFile.h"
 #include "trellisar/SystemFileFormat.h"
@@ -272,16 +269,6 @@ class Writer {
 
 std::string systemFileText(const DocumentData& document) {
   return jsonText(Writer(document).write());
-}
-
-std::string withSystemExtension(const std::string& path) {
-  return forms::lowerCase(path).ends_with(".tsy") ? path : path + ".tsy";
-}
-
-void saveSystemFile(DocumentData& document, const std::string& path) {
-  const std::filesystem::path file = forms::toMachinePath(withSystemExtension(path));
-  replaceFile(file, systemFileText(document));
-  document.ownFile = file;
 }
 
 }  // namespace trellisar

@@ -1,5 +1,6 @@
 #include "trellisar/SystemFolders.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
@@ -8,7 +9,11 @@
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
+#include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/PanelProject.h"
+#include "trellisar/SystemFile.h"
+#include "trellisar/SystemInfoObject.h"
 
 namespace trellisar {
 namespace {
@@ -41,6 +46,8 @@ fs::path documentsFolder() {
   return fs::path(home) / "Documents";
 }
 
+bool isControl(unsigned char c) { return c < ' ' || c == 0x7F; }
+
 }  // namespace
 
 std::string defaultSystemsFolder(const Preferences& preferences) {
@@ -50,6 +57,25 @@ std::string defaultSystemsFolder(const Preferences& preferences) {
   }
   if (!preferences.defaultFolder().empty()) return withBackslash(preferences.defaultFolder());
   return withBackslash(forms::fromMachinePath(documentsFolder() / "Trellisar Systems"));
+}
+
+std::string fileNameProblem(const std::string& name) {
+  if (name.empty()) return "A system must have a name.";
+  if (forms::lowerCase(name).ends_with(".tsy")) {
+    return "\"" + name +
+           "\" ends like the name of a file, which the system's file gets by itself. " +
+           "Leave \".tsy\" out of the system's name.";
+  }
+  std::string shown = name;
+  std::replace_if(shown.begin(), shown.end(), isControl, '?');
+  const bool isReserved = name == "." || name == "..";
+  if (!isReserved && shown == name && name.find_first_of("/\\") == std::string::npos) return {};
+  return "\"" + shown + "\" can't be the name of a file. Choose another name for the system.";
+}
+
+std::string systemNameProblem(const std::string& name) {
+  if (forms::length(name) <= maximumNameLength) return fileNameProblem(name);
+  return "The name of a system has at most " + std::to_string(maximumNameLength) + " characters.";
 }
 
 bool isSameFile(const fs::path& one, const fs::path& other) {
@@ -67,6 +93,28 @@ fs::path foreignSystemIn(const fs::path& folder, const fs::path& ownFile) {
     if (foreign.empty() || entry.path() < foreign) foreign = entry.path();
   }
   return foreign;
+}
+
+void Belongings::remove() const {
+  std::error_code ignored;
+  for (const fs::path& file : files_) fs::remove(file, ignored);
+}
+
+Belongings belongingsOfOther(const DocumentData& document, const fs::path& file) {
+  std::error_code error;
+  if (!fs::exists(file, error)) return {};
+  if (isSameFile(file.parent_path(), document.ownFile.parent_path())) return {};
+  try {
+    const DocumentPtr other = readSystemFile(file, nullptr);
+    std::vector<fs::path> files;
+    if (!other->compiledProgram.empty()) files.push_back(storedProgramFile(*other));
+    for (const DevicePtr& panel : other->panels) {
+      if (panel->definition->projectPanel) files.push_back(panelProjectFile(*other, *panel));
+    }
+    return Belongings(std::move(files));
+  } catch (const host::Error&) {
+    return {};  // of a damaged system nobody knows what belongs to it
+  }
 }
 
 MadeFolders::MadeFolders(const fs::path& folder) {

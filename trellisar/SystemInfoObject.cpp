@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "trellisar/CompiledProgram.h"
+
 namespace trellisar {
 namespace {
 
@@ -36,7 +38,7 @@ class SystemInfoObject : public host::SystemInfo {
   void put_LastApplication(const std::string& strApplication) override {
     document_->application = strApplication;
   }
-  bool get_ProgramIsCurrent() const override { return document_->programIsCurrent; }
+  bool get_ProgramIsCurrent() const override { return isProgramCurrent(*document_); }
   void put_ProgramIsCurrent(bool bCurrent) override { document_->programIsCurrent = bCurrent; }
 
   std::string get_CompiledProgramFile() const override {

@@ -15,13 +15,14 @@ namespace fs = std::filesystem;
 
 class TessraProjectObject : public host::TessraProject {
  public:
-  TessraProjectObject(std::string name, fs::path file)
-      : name_(std::move(name)), file_(std::move(file)) {}
-  std::string get_Name() const override { return name_; }
+  TessraProjectObject(DevicePtr panel, fs::path file)
+      : panel_(std::move(panel)), file_(std::move(file)) {}
+  std::string get_Name() const override { return panel_->name; }
+  DeviceData& panel() const { return *panel_; }
   const fs::path& file() const { return file_; }
 
  private:
-  std::string name_;
+  DevicePtr panel_;
   fs::path file_;
 };
 
@@ -41,6 +42,8 @@ const char* word(bool value) { return value ? "True" : "False"; }
 }  // namespace
 
 /// Works on one project at a time, which it holds from SetCurrentProject to CloseCurrentProject.
+/// From there to SaveProject the project counts as unfinished: what breaks off in between leaves
+/// one that is made anew.
 class TessraAppObject : public host::TessraApp {
  public:
   explicit TessraAppObject(std::shared_ptr<Journal> journal) : journal_(std::move(journal)) {}
@@ -51,12 +54,13 @@ class TessraAppObject : public host::TessraApp {
 
   void SetCurrentProject(const std::shared_ptr<host::TessraProject>& oProject) override {
     CloseCurrentProject();
-    const auto project = std::dynamic_pointer_cast<TessraProjectObject>(oProject);
-    if (!project) {
+    const auto object = std::dynamic_pointer_cast<TessraProjectObject>(oProject);
+    if (!object) {
       throw host::Error(host::errBadArgument, "There is no panel project to be opened.");
     }
-    project_ = readPanelProject(project->file());
-    file_ = project->file();
+    object->panel().projectBuilt = false;
+    project_ = readPanelProject(object->file());
+    object_ = object;
   }
 
   bool SetUsePage(const std::string& strPage) override {
@@ -88,7 +92,9 @@ class TessraAppObject : public host::TessraApp {
 
   void SaveProject() override {
     journal_->note("SaveProject");
-    replaceFile(file_, panelProjectText(current()));
+    const PanelProject& project = current();
+    replaceFile(object_->file(), panelProjectText(project));
+    object_->panel().projectBuilt = true;
   }
 
   void CloseCurrentProject() override {
@@ -104,8 +110,8 @@ class TessraAppObject : public host::TessraApp {
 
   std::shared_ptr<Journal> journal_;
   std::shared_ptr<TessraProjectObject> assigned_;
+  std::shared_ptr<TessraProjectObject> object_;  // of the open project
   mutable std::optional<PanelProject> project_;
-  fs::path file_;
   std::string page_;  // the one in use; empty: none
 };
 
@@ -135,44 +141,52 @@ UIManagerObject::UIManagerObject(std::shared_ptr<Session> session)
       tessra_(std::make_shared<TessraAppObject>(session_->journal)),
       log_(std::make_shared<PanelErrorLog>()) {}
 
+PanelPages& UIManagerObject::pages() {
+  std::optional<PanelPages>& pages = session_->panelSource->pages;
+  return pages ? *pages : pages.emplace();
+}
+
 void UIManagerObject::SetIncludeDefaultPages(bool bInclude) {
   session_->journal->note(std::string("SetIncludeDefaultPages ") + word(bInclude));
-  pages_.includesDefault = bInclude;
+  pages().includesDefault = bInclude;
 }
 
 void UIManagerObject::SetIncludeSharedPages(bool bInclude) {
   session_->journal->note(std::string("SetIncludeSharedPages ") + word(bInclude));
-  pages_.includesShared = bInclude;
+  pages().includesShared = bInclude;
 }
 
 void UIManagerObject::SetTemplatePrefix(const std::string& strPrefix) {
   session_->journal->note("SetTemplatePrefix " + strPrefix);
-  pages_.prefix = strPrefix;
+  pages().prefix = strPrefix;
 }
 
 std::shared_ptr<host::TessraApp> UIManagerObject::get_TessraApp() const { return tessra_; }
 
 std::shared_ptr<host::TessraErrorLog> UIManagerObject::get_ErrorLog() const { return log_; }
 
-bool UIManagerObject::makeProject(DeviceData& panel) {
+bool UIManagerObject::makeProject(const DevicePtr& panel) {
   const DocumentData& document = *session_->data();
+  const fs::path file = panelProjectFile(document, *panel);
   const auto say = [this](std::int16_t severity, const std::string& text) {
     log_->add(severity, text);
   };
   tessra_->assign(nullptr);
   projects_->OnStartBuild.raise();
+  panel->projectBuilt = false;
   try {
     const PanelTemplate from =
-        findPanelTemplate(session_->panelTemplates, panel.definition->modelId);
-    const PanelProject project = buildPanelProject(document, panel, from, pages_, say);
-    const fs::path file = panelProjectFile(document, panel);
+        findPanelTemplate(session_->panelSource->templates, panel->definition->modelId);
+    const PanelProject project = buildPanelProject(document, *panel, from, pages(), say);
     replaceFile(file, panelProjectText(project));
-    tessra_->assign(std::make_shared<TessraProjectObject>(panel.name, file));
   } catch (const host::Error& error) {
+    std::error_code ignored;
+    fs::remove(file, ignored);  // what is there does not fit the system
     say(host::severityWarning, error.description());
     return false;
   }
-  panel.projectBuilt = true;
+  tessra_->assign(std::make_shared<TessraProjectObject>(panel, file));
+  panel->projectBuilt = true;
   return true;
 }
 

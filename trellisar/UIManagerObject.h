@@ -17,8 +17,9 @@ class UIManagerObject : public host::UIManager {
   explicit UIManagerObject(std::shared_ptr<Session> session);
 
   /// Makes the panel's project in the system's folder. It raises OnStartBuild first, and its
-  /// messages through the error log; False, with a message there, when it could not be made.
-  bool makeProject(DeviceData& panel);
+  /// messages through the error log; False, with a message there, when it could not be made: then
+  /// the panel has none.
+  bool makeProject(const DevicePtr& panel);
 
   void SetIncludeDefaultPages(bool bInclude) override;
   void SetIncludeSharedPages(bool bInclude) override;
@@ -28,8 +29,10 @@ class UIManagerObject : public host::UIManager {
   std::shared_ptr<host::TessraErrorLog> get_ErrorLog() const override;
 
  private:
+  /// Those of the session's source.
+  PanelPages& pages();
+
   std::shared_ptr<Session> session_;
-  PanelPages pages_;
   std::shared_ptr<TessraAppObject> tessra_;
   std::shared_ptr<host::Projects> projects_ = std::make_shared<host::Projects>();
   std::shared_ptr<PanelErrorLog> log_;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -29,6 +30,10 @@ constexpr const char* lockoutTooShort =
 class ChainTest : public testing::Test {
  protected:
   void run(const std::function<void()>& script) {
+    wizard.desktop.wheneverShown("DoneDialog", [this](forms::Form& form) {
+      lastWords = form.control("lblState").shownText();
+      wizard.user.click(form.control("cmdClose"));
+    });
     wizard.run([&] {
       wizard.host->communication()->setAddress(receiver.address().text());
       wizard.goTo("Display Device");
@@ -70,6 +75,7 @@ class ChainTest : public testing::Test {
   tests::TemporaryFolder place;
   tests::Running receiver{tests::optionsFor(place)};
   tests::Wizard wizard;
+  std::string lastWords;
 };
 
 const Calls pages{"SetTemplatePrefix", "SetIncludeDefaultPages", "SetIncludeSharedPages"};
@@ -87,6 +93,7 @@ TEST_F(ChainTest, UploadSavesMakesPanelsCompilesAndSendsAndThenOnlySends) {
   run([&] {
     EXPECT_EQ(callsOf("cmdUpload"), Calls{"FileSaveAs"} + pages + panel + compile + upload);
     EXPECT_TRUE(programIsCurrent());
+    EXPECT_EQ(lastWords, "Sent to the receiver at " + receiver.address().text() + ", running.");
     EXPECT_EQ(holdings().program->name, "My Orlena System");
     EXPECT_TRUE(holdings().passwordSet);
     EXPECT_TRUE(receiver::checkPassword(receiver.address(), "lantern"));
@@ -146,6 +153,7 @@ TEST_F(ChainTest, SecondPowerOffMayNotComeAfterTheLockout) {
     bool isRefused;
   };
   run([&] {
+    wizard.clickInWindow("cmdSave");
     for (const Case& c : {Case{1, 60, 59, true}, Case{1, 60, 60, false}, Case{1, 60, 0, false},
                           Case{0, 60, 59, false}, Case{1, 0, 59, false}}) {
       wizard.addIn->put_bSecondPowerOff(c.flag);
@@ -168,6 +176,58 @@ TEST_F(ChainTest, ExportEndsInTheHostsExport) {
     EXPECT_EQ(callsOf("cmdExport"),
               Calls{"FileSaveAs"} + pages + panel + compile + Calls{"Export"});
     EXPECT_TRUE(std::filesystem::exists(archive));
+    EXPECT_EQ(lastWords, "Exported to \"" + archive.string() + "\".");
+  });
+}
+
+TEST_F(ChainTest, PanelFollowsTheRoomAndItsName) {
+  run([&] {
+    callsOf("cmdUpload");
+    const auto makesPanel = [&](const std::string& button) {
+      const Calls made = callsOf(button);
+      return std::ranges::count(made, "CreateTouchpanels") == 1;
+    };
+    EXPECT_FALSE(makesPanel("cmdUpload"));
+    wizard.goTo("Display Device");
+    wizard.chooseDisplay("Orvistel F42");
+    wizard.goTo("Finish");
+    EXPECT_TRUE(makesPanel("cmdUpload")) << "the display has other commands";
+
+    wizard.goTo("Orlena Transmitters");
+    wizard.click("cmdAdd");
+    wizard.goTo("Finish");
+    EXPECT_TRUE(makesPanel("cmdUpload"));
+    const auto project = wizard.systemsFolder() / "My Orlena System" / "Fenlet.tpj";
+    EXPECT_NE(tests::fileText(project).find("Select_Input_2"), std::string::npos);
+
+    wizard.goTo("Name and Location");
+    wizard.enter("txtSystemName", "Hall");
+    wizard.goTo("Finish");
+    EXPECT_TRUE(makesPanel("cmdUpload"));
+    EXPECT_TRUE(std::filesystem::exists(wizard.systemsFolder() / "Hall" / "Fenlet.tpj"));
+  });
+}
+
+TEST_F(ChainTest, PanelThatCantBeMadeStopsUploadAndExport) {
+  run([&] {
+    callsOf("cmdUpload");
+    const auto project = wizard.systemsFolder() / "My Orlena System" / "Fenlet.tpj";
+    std::filesystem::remove(project);
+    std::filesystem::create_directories(project / "in the way");
+    for (const char* button : {"cmdUpload", "cmdExport"}) {
+      wizard.desktop.expectMessage("Orlena", "Failed to create project: Fenlet", Buttons::ok,
+                                   Icon::exclamation);
+      wizard.desktop.whenShown("frmBuildPanels", [&](forms::Form& window) {
+        wizard.user.click(window.control("cmdClose"));
+      });
+      if (button == std::string("cmdExport")) {
+        wizard.desktop.expectSaveDialog("Export System",
+                                        forms::fromMachinePath(wizard.systemsFolder() / "a.tsa"));
+      }
+      wizard.desktop.expectMessageWith(Icon::critical, "The touch panel \"Fenlet\" has no project");
+      callsOf(button);
+    }
+    EXPECT_FALSE(std::filesystem::exists(wizard.systemsFolder() / "a.tsa"));
   });
 }
 

@@ -82,11 +82,13 @@ TEST_F(OriginationPointsTest, FailedAddInThePlaceOfAnotherTypeFreesThePort) {
 
 TEST_F(OriginationPointsTest, NewLabelMakesThePanelsProjectAnew) {
   wizard.run([&] {
-    add(1, "Wall Plate Transmitter", "Desk");
     wizard.addIn->AddFenlet();
+    wizard.clickInWindow("cmdSave");
+    add(1, "Wall Plate Transmitter", "Desk");
     const auto panel = wizard.document().get_Touchpanels()->ItemByID(wizard.addIn->get_FenletID());
     for (const std::string label : {"Desk", "desk"}) {
-      panel->put_ProjectBuilt(true);
+      wizard.addIn->BuildTouchpanels();
+      EXPECT_TRUE(panel->get_ProjectBuilt());
       add(1, "Wall Plate Transmitter", label);
       EXPECT_EQ(panel->get_ProjectBuilt(), label == "Desk") << label;
     }

@@ -275,7 +275,8 @@ TEST_F(WizardWindow, NewSystemTakesTheNextFreeName) {
     goTo("Name and Location");
     EXPECT_EQ(text("txtSystemName"), "My Orlena System");
     for (const bool isCurrent : {false, true}) {
-      document().get_SystemInfo()->put_ProgramIsCurrent(isCurrent);
+      bool cancelled = false;
+      EXPECT_TRUE(!isCurrent || host->mainWindow()->ShowCreateProgramDialog(cancelled));
       clickInWindow("cmdSave");
       EXPECT_EQ(document().get_SystemInfo()->get_ProgramIsCurrent(), isCurrent) << "kept";
     }

@@ -123,11 +123,13 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
   onStep([&] {
     expectPasswordBox(true, "mossgate");
     click("chkInclude(1)");
+    clickInWindow("cmdSave");
+    bool cancelled = false;
+    EXPECT_TRUE(host->mainWindow()->ShowCreateProgramDialog(cancelled));
     user.moveFocus(control("txtFenletPassword"));
     EXPECT_EQ(control<TextBox>("txtFenletPassword").selectionLength(), 8);
     user.type(control<TextBox>("txtFenletPassword"), " an Open Door of 20 chars");
     document().MarkUnchanged();
-    document().get_SystemInfo()->put_ProgramIsCurrent(true);
     user.press(forms::keys::enter);
     EXPECT_EQ(addIn->get_FenletPassword(), "an Open Door of 20");
     expectPasswordBox(true, "an Open Door of 20");

@@ -87,6 +87,10 @@ void ScriptedDesktop::runScript(forms::Form& form) {
   const auto next = std::find_if(scripts_.begin(), scripts_.end(), [&](const FormScript& script) {
     return script.formName == form.name();
   });
+  if (const auto standing = standing_.find(form.name());
+      next == scripts_.end() && standing != standing_.end()) {
+    return standing->second(form);
+  }
   if (next == scripts_.end()) {
     ADD_FAILURE() << "The form " << form.name() << " (\"" << form.caption()
                   << "\") was not expected.";

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,6 +45,11 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
 
   /// The next modal run of the form with this name.
   void whenShown(const std::string& formName, Script script);
+
+  /// Every modal run of the form with this name, from now on, that has no script of its own.
+  void wheneverShown(const std::string& formName, Script script) {
+    standing_[formName] = std::move(script);
+  }
 
   /// The next dialog of its sort, told by its title; the answer is a path with backslashes, empty
   /// for Cancel.
@@ -99,6 +105,7 @@ class ScriptedDesktop : public forms::HeadlessDesktop {
   std::deque<ExpectedMessage> messages_;
   std::deque<ExpectedDialog> dialogs_;
   std::deque<FormScript> scripts_;
+  std::map<std::string, Script> standing_;
   forms::FolderDialog lastFolderDialog_;
   forms::FileDialog lastFileDialog_;
   std::vector<std::int16_t> helpTopics_;

@@ -9,6 +9,7 @@
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/Archive.h"
+#include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
 
 namespace tests {
@@ -132,6 +133,29 @@ TEST_F(ArchiveTest, ExportThatCantBeIsToldAndReplacesNothing) {
   exportTo("Old.tsa");
   EXPECT_EQ(readFile(folder.path() / "Old.tsa"), "old");
   EXPECT_TRUE(host.exportedFile().empty());
+}
+
+TEST_F(ArchiveTest, NamesOfAnyLettersComeBack) {
+  fs::create_directories(place() / ".opening-0" / "left by a program that was ended");
+  std::string longest;
+  for (int i = 0; i < 50; ++i) longest += "\U0001F3E2";
+  for (const auto& [name, unpacked] :
+       {std::pair<std::string, std::string>{"Bu\u0308ro", "B\u00FCro"}, {longest, longest}}) {
+    data().name = name;
+    data().folder = folder.inside(name + "\\");
+    ASSERT_TRUE(window().FileSaveAs(folder.inside(name + "\\" + name), "Orlena"));
+    auto panel = host.document()->get_Touchpanels()->Items().front();
+    ASSERT_TRUE(window().CreateTouchpanels(panel));
+    bool cancelled = false;
+    ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
+    const fs::path file = folder.path() / "names.tsa";
+    writeFile(file, trellisar::archiveOf(data()));
+    const fs::path system = trellisar::unpackArchive(file, place());
+    EXPECT_EQ(system, place() / unpacked / (unpacked + ".tsy"));
+    const auto opened = trellisar::readSystemFile(system, nullptr);
+    EXPECT_EQ(trellisar::storedProgram(*opened), trellisar::storedProgram(data()));
+  }
+  EXPECT_EQ(std::distance(fs::directory_iterator(place()), fs::directory_iterator()), 2);
 }
 
 TEST_F(ArchiveTest, HostileArchivesAreRefused) {

@@ -111,6 +111,7 @@ TEST_F(CommunicationTest, TransferEndsLaterAndThenThePasswordIsSet) {
   EXPECT_FALSE(link().isSending());
   EXPECT_EQ(link().transferOutcome()->kind, Kind::done);
   EXPECT_EQ(link().passwordOutcome()->kind, Kind::done);
+  EXPECT_EQ(lastWords, "Sent to the receiver at " + running.address().text() + ", running.");
 
   const receiver::Holdings holdings = holdingsOf(running.address());
   EXPECT_EQ(holdings.program->name, "Room");
@@ -159,6 +160,14 @@ TEST_F(CommunicationTest, CancelledTransferIsToldAndCompletesNothing) {
     EXPECT_FALSE(link().passwordOutcome());
   }
   EXPECT_EQ(calls, (std::vector<std::string>{"started", "started"}));
+}
+
+TEST_F(CommunicationTest, PasswordForASilentReceiverCanBeCancelled) {
+  const Silent silent;
+  link().setAddress(silent.address());
+  application.runLater([&] { user.press(forms::keys::escape); });
+  EXPECT_FALSE(link().SetPassword("1234"));
+  EXPECT_EQ(link().passwordOutcome()->kind, Kind::cancelled);
 }
 
 TEST_F(CommunicationTest, FailedTransferIsToldAndTheNextOneWorks) {
@@ -229,6 +238,39 @@ TEST_F(CommunicationTest, DefaultAddressCountsWhileTheUserHasGivenNone) {
   EXPECT_EQ(link().address(), "127.0.0.1:1");
   link().setAddress("");
   EXPECT_EQ(link().address(), "10.0.0.9:5000");
+}
+
+TEST_F(CommunicationTest, AddressThatNobodyChoseIsAskedAbout) {
+  build();
+  const Running running(optionsFor(place));
+  const std::string there = running.address().text();
+  link().SetDefaultAddress(there);
+  const auto uploadAnswering = [&](forms::Answer answer) {
+    desktop.expectMessage(
+        "Trellisar",
+        "No receiver has been chosen yet. The system would be sent to " + there +
+            ".\r\n\r\nDo you want to choose the receiver first? Yes opens the address book; No "
+            "sends the system to " +
+            there + ", which is put into the address book.",
+        forms::Buttons::yesNoCancel, Icon::question, answer);
+    link().StartTransfer(0, handle(), 2);
+    application.processEvents();
+    return link().transferOutcome()->kind;
+  };
+  EXPECT_EQ(uploadAnswering(forms::Answer::cancel), Kind::cancelled);
+  desktop.whenShown("AddressBookDialog", [&](forms::Form&) { user.press(forms::keys::escape); });
+  EXPECT_EQ(uploadAnswering(forms::Answer::yes), Kind::cancelled);
+  desktop.whenShown("AddressBookDialog", [&](forms::Form&) {
+    addReceiver("Hall", there);
+    click("cmdOK");
+  });
+  EXPECT_EQ(uploadAnswering(forms::Answer::yes), Kind::done);
+  EXPECT_EQ(lastWords, "Sent to \"Hall\" at " + there + ", running.");
+  host.preferences().setAddressBook({});
+  EXPECT_EQ(uploadAnswering(forms::Answer::no), Kind::done);
+  link().StartTransfer(0, handle(), 2);
+  application.processEvents();
+  EXPECT_EQ(link().transferOutcome()->kind, Kind::done) << "and is not asked about again";
 }
 
 TEST_F(CommunicationTest, AddressBookIsKeptWithTheReceiverInUse) {

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <map>
+#include <set>
 
 #include "forms/ListBox.h"
 #include "forms/ProgressBar.h"
@@ -62,9 +64,44 @@ TEST_F(CompileTest, StoresTheProgramAndSaysSoInTheSavedFile) {
   const std::size_t unit = program["presets"][2]["steps"][0]["unit"];
   EXPECT_EQ(program["units"][unit]["name"], "Display Device");
 
+  const std::string whole = text;
   text[text.size() / 2] ^= 1;
   writeFile(inRoom("Room.tsp"), text);
+  EXPECT_FALSE(info->get_ProgramIsCurrent());
   EXPECT_THROW(static_cast<void>(trellisar::storedProgram(*saved)), host::Error);
+
+  writeFile(inRoom("Room.tsp"), whole);
+  EXPECT_TRUE(info->get_ProgramIsCurrent());
+  data().find(display)->port = 3;
+  info->put_ProgramIsCurrent(true);
+  EXPECT_FALSE(info->get_ProgramIsCurrent()) << "a change that nobody has marked";
+}
+
+TEST_F(CompileTest, ProgramKnowsWhereEveryDeviceIsAndWhatFeedsASignal) {
+  constexpr std::int16_t fallowmereRoll = 2002;
+  add("Power Relay", host::entryPowerRelay);
+  add("Screen", fallowmereRoll);
+  const std::int16_t kestrum = add("Kestrum Interface", host::entryKestrum);
+  window().SetDeviceIPAddress(data().find(kestrum)->handle, "127.0.0.1");
+  const auto fed = signal(receiver, "", "Lock");
+  fed->put_SourceType(host::sourceSignal);
+  fed->put_SourceDeviceID(receiver);
+  fed->put_SourceSignalName("Powered_On");
+
+  const std::string text = trellisar::compileProgram(data());
+  const auto program = trellisar::Json::parse(text.substr(text.find('\n')));
+  std::map<std::string, std::string> places;
+  std::set<std::string> ports;
+  for (const auto& unit : program["units"]) {
+    const std::string port = unit["port"];
+    places[unit["name"]] = port + " " + std::string(unit["address"]);
+    EXPECT_TRUE(port.empty() || ports.insert(port).second) << port << " is taken twice";
+  }
+  EXPECT_EQ(places["Kestrum Interface"], "IP-ID 03 127.0.0.1");
+  EXPECT_EQ(places["Power Relay"], "Relay 1 ");
+  EXPECT_EQ(places["Screen"], "Relay 2 ");
+  EXPECT_EQ(program["sources"].dump(),
+            R"([{"unit":0,"input":"Lock","output":"","type":1,"from":0,"signal":"Powered_On"}])");
 }
 
 TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {

@@ -203,10 +203,14 @@ TEST_F(DocumentTest, ControlSystemChangesItsModelAndNothingElse) {
   EXPECT_EQ(before->get_ModelID(), host::modelReceiverThreeInputs);
   EXPECT_EQ(before->get_DeviceHandle(), handle);
   press(*signal(receiver(), "Input3_Error")->GetEvent(0)->get_Preset(), receiver(), "Lock");
+  press(*preset("System Lock"), receiver(), "Sing");
+  press(*preset("System Lock"), receiver(), "Select_Input_3");
 
   document().ChangeControlSystem(host::modelReceiverOneInput, "", 0, message);
-  EXPECT_NE(message.find("Input3_Error"), std::string::npos);
-  EXPECT_EQ(signal(receiver(), "Input3_Error")->GetEvent(0)->get_Preset()->get_StepCount(), 1);
+  EXPECT_EQ(message,
+            "The program uses what the receiver's model OL-RX1 does not have:\r\n\r\npreset "
+            "\"System Lock\", step 2: the device \"Receiver\" has no command "
+            "\"Select_Input_3\".");
   EXPECT_FALSE(before->HasSignal("Input3_Error", host::directionOutput, host::signalDigital));
 
   document().ChangeControlSystem(7, "", 0, message);
@@ -230,9 +234,18 @@ TEST_F(DocumentTest, BillEntriesAreLive) {
   bill->Item(key)->get_Parts()->Remove(host::partKeyPowerSensor);
   EXPECT_THROW(entry->get_Parts()->Remove(host::partKeyPowerSensor), host::Error);
   const std::int16_t display = addDisplay();
-  EXPECT_FALSE(bill->AddItem(0, 0, 0, display));
+  const auto refusal = [&](std::int32_t part, std::int16_t device) {
+    EXPECT_FALSE(bill->AddItem(0, 0, part, device));
+    return document().GetLastError();
+  };
+  EXPECT_NE(refusal(0, display).find("\"Display Device\" can't be added"), std::string::npos);
+  EXPECT_NE(refusal(20711, 999).find("there is no device 999"), std::string::npos);
   EXPECT_TRUE(bill->AddItem(0, 0, 20711, display));
-  EXPECT_FALSE(bill->AddItem(0, 0, 20711, display));
+  EXPECT_EQ(refusal(20711, display), "\"Display Device\" is in the bill of materials already.");
+  EXPECT_EQ(window().AddInterface(7, receiver(), ""), nullptr);
+  EXPECT_EQ(document().GetLastError(), "The device library has no user interface of model 7.");
+  EXPECT_EQ(window().AddInterface(host::modelFenlet, 999, ""), nullptr);
+  EXPECT_NE(document().GetLastError().find("there is no device 999"), std::string::npos);
   EXPECT_TRUE(bill->RemoveItem(-display));
 }
 

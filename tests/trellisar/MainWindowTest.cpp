@@ -2,12 +2,15 @@
 
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"
+#include "forms/Paths.h"
 #include "forms/TextBox.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
+#include "trellisar/CompiledProgram.h"
 #include "trellisar/DeviceDialog.h"
 #include "trellisar/DeviceLibrary.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/SystemFolders.h"
 
 namespace tests {
 namespace {
@@ -57,8 +60,27 @@ TEST_F(MainWindowTest, SaveThatCantBeLeavesEverythingAsItWas) {
   EXPECT_FALSE(save("Room"));
   EXPECT_EQ(data().application, "Trellisar");
   EXPECT_TRUE(data().isModified);
-  expectRefusal("The system could not be saved: it has no name. Give it one and save again.");
-  EXPECT_FALSE(save(""));
+}
+
+TEST_F(MainWindowTest, NameThatNoFileCanHaveIsRefusedWhereverItComesFrom) {
+  for (const std::string name : {"", ".", "..", "a\tb", "a/b", "Room.tsy", "\x7F", "a\001b"}) {
+    data().name = name;
+    expectRefusal(name.empty() ? "The system has no name, so its folder can't be made. Give the "
+                                 "system a name."
+                               : trellisar::fileNameProblem(name));
+    EXPECT_FALSE(window().CreateProjectFolder(folder.inside(name) + "\\"));
+    expectCritical("The system could not be saved.\r\n\r\n" + trellisar::fileNameProblem(name));
+    EXPECT_FALSE(save("Room"));
+    bool saved = true;
+    host.document()->Save(folder.inside("Room"), saved);
+    EXPECT_FALSE(saved);
+  }
+  data().name = "Room";
+  data().name += '\0';
+  expectCritical("The system could not be saved.\r\n\r\n" +
+                 trellisar::fileNameProblem(data().name));
+  EXPECT_FALSE(save("Room"));
+  EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
 TEST_F(MainWindowTest, OpenReplacesTheSystemOnlyWhenItSucceeded) {
@@ -98,6 +120,74 @@ TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
   desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
   EXPECT_TRUE(save("Room"));
   EXPECT_NE(trellisar::readFile(folder.path() / "Room.tsy"), first);
+}
+
+TEST_F(MainWindowTest, ReplacedSystemLeavesNoProgramAndNoPanels) {
+  bool cancelled = false;
+  const auto panel = [&] { return fs::exists(folder.path() / "Room/Fenlet.tpj"); };
+  auto fenlet = window().AddInterface(host::modelFenlet, data().controlSystem, "");
+  saveAsRoom();
+  ASSERT_TRUE(window().CreateTouchpanels(fenlet));
+  ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
+  saveAsRoom();
+  EXPECT_TRUE(panel() && fs::exists(folder.path() / "Room/Room.tsp")) << "they are its own";
+
+  openTemplate();
+  trellisar::Host other({.dataFolder = dataFolder(),
+                         .library = shippedLibrary(),
+                         .replacing = trellisar::Replacing::always});
+  const auto templateFile = dataFolder() / "TemplateSystems/Orlena TEMPLATE/Orlena TEMPLATE.tsy";
+  ASSERT_TRUE(other.mainWindow()->FileOpen(forms::fromMachinePath(templateFile), false));
+  EXPECT_TRUE(other.mainWindow()->FileSaveAs(folder.inside("Room\\Room"), "Orlena"));
+  EXPECT_FALSE(panel() || fs::exists(folder.path() / "Room/Room.tsp"));
+}
+
+TEST_F(MainWindowTest, FileThatAnotherProgramChangedIsNotReplacedUnasked) {
+  saveAsRoom();
+  const fs::path file = folder.path() / "Room/Room.tsy";
+  const std::string theirs = trellisar::readFile(file) + "\n";
+  writeFile(file, theirs);
+  const std::string question =
+      "Another program has changed the file \"" + file.string() +
+      "\" since the system was opened.\r\n\r\nDo you want to keep that file? Yes keeps it and does "
+      "not save; No replaces it.";
+  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question);
+  EXPECT_FALSE(save("Room\\Room"));
+  bool saved = true;
+  host.document()->Save(folder.inside("Room\\Room"), saved);
+  EXPECT_FALSE(saved);
+  EXPECT_NE(host.document()->GetLastError().find("was changed by another program"),
+            std::string::npos);
+  EXPECT_THROW(trellisar::storeCompiledProgram(data(), trellisar::compileProgram(data())),
+               host::Error);
+  EXPECT_EQ(trellisar::readFile(file), theirs);
+  EXPECT_FALSE(fs::exists(folder.path() / "Room/Room.tsp"));
+
+  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
+  EXPECT_TRUE(save("Room\\Room"));
+  EXPECT_NE(trellisar::readFile(file), theirs);
+  EXPECT_TRUE(save("Room\\Room")) << "and it is the system's own again";
+
+  fs::permissions(file, fs::perms::owner_read);
+  expectCritical("The system could not be saved.\r\n\r\nCan't write \"" + file.string() +
+                 "\": it is protected against writing. Take the protection away or choose another "
+                 "name.");
+  EXPECT_FALSE(save("Room\\Room"));
+}
+
+TEST_F(MainWindowTest, ProgramStaysWithTheSystemItWasCompiledFor) {
+  bool cancelled = false;
+  saveAsRoom();
+  ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
+  fs::create_directory(folder.path() / "Hall");
+  writeFile(folder.path() / "Hall/Room.tsp", "another system's");
+  data().name = "Hall";
+  data().folder = folder.inside("Hall\\");
+  bool saved = false;
+  host.document()->Save(folder.inside("Hall\\Hall"), saved);
+  EXPECT_TRUE(saved);
+  EXPECT_EQ(host.document()->get_SystemInfo()->get_CompiledProgramFile(), "");
+  EXPECT_FALSE(host.document()->get_SystemInfo()->get_ProgramIsCurrent());
 }
 
 TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {

@@ -1,10 +1,11 @@
 #include <map>
 
+#include "forms/Text.h"
 #include "host/Error.h"
 #include "host/ErrorLog.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/FileIO.h"
-#include "trellisar/PanelBuild.h"
+#include "trellisar/PanelState.h"
 
 namespace tests {
 namespace {
@@ -30,6 +31,14 @@ class PanelTest : public HostTest {
   }
 
   fs::path file() const { return folder.path() / "Fenlet.tpj"; }
+  trellisar::DeviceData& panelData() { return *data().panels.front(); }
+  /// Saves the system and asks another host with this data.
+  bool isBuiltInHostOf(const fs::path& dataFolder) {
+    EXPECT_TRUE(window().FileSaveAs(folder.inside("Room\\Room"), "Orlena"));
+    trellisar::Host other({.dataFolder = dataFolder, .library = shippedLibrary()});
+    const auto opened = other.mainWindow()->FileOpen(folder.inside("Room\\Room.tsy"), true);
+    return opened->get_Touchpanels()->Items().front()->get_ProjectBuilt();
+  }
 
   std::shared_ptr<host::UIManager> manager = window().GetUIMgr();
   std::shared_ptr<host::Touchpanel> panel;
@@ -101,14 +110,65 @@ TEST_F(PanelTest, TextsOfThePageInUseAreWrittenIntoTheProject) {
   EXPECT_THROW(tessra()->SetUsePage("[Room]"), host::Error);
 }
 
+TEST_F(PanelTest, ProjectCountsAsBuiltWhileItWouldBeMadeTheSame) {
+  const std::int16_t display = addDisplay();
+  ASSERT_TRUE(window().CreateTouchpanels(panel));
+  data().find(display)->shown = false;
+  add("Power Relay", host::entryPowerRelay);
+  EXPECT_TRUE(panel->get_ProjectBuilt()) << "no page shows these";
+  const auto tessra = manager->get_TessraApp();
+  const auto device = host.document()->get_Devices()->Item(display);
+  bool wasChanged = false;
+  std::string problem;
+  constexpr std::int16_t drapewickTrigger = 2201;
+  const std::vector<std::pair<const char*, std::function<void()>>> changes = {
+      {"the system's name", [&] { data().name = "Hall"; }},
+      {"the folder", [&] { saveAsRoom(); }},
+      {"a device", [&] { add("Screen", drapewickTrigger); }},
+      {"a command", [&] { device->SetCommandName("166", "Power_Off", wasChanged); }},
+      {"a label", [&] { device->put_Label("WALL"); }},
+      {"the receiver",
+       [&] {
+         host.document()->ChangeControlSystem(host::modelReceiverThreeInputs, "", 0, problem);
+       }},
+      {"the pages", [&] { manager->SetIncludeSharedPages(true); }},
+      {"its file is gone", [&] { fs::remove(trellisar::panelProjectFile(data(), panelData())); }},
+      {"its file is damaged",
+       [&] { writeFile(trellisar::panelProjectFile(data(), panelData()), "{}"); }},
+      {"its labels were never written",
+       [&] { tessra->SetCurrentProject(tessra->GetAssignedProject()); }},
+      {"the add-in says so", [&] { panel->put_ProjectBuilt(false); }},
+  };
+  for (const auto& [what, change] : changes) {
+    change();
+    EXPECT_FALSE(panel->get_ProjectBuilt()) << what;
+    EXPECT_THROW(trellisar::requireBuiltProjects(data()), host::Error) << what;
+    ASSERT_TRUE(window().CreateTouchpanels(panel));
+    EXPECT_TRUE(panel->get_ProjectBuilt()) << what;
+  }
+  tessra->SetCurrentProject(tessra->GetAssignedProject());
+  tessra->SaveProject();
+  EXPECT_TRUE(panel->get_ProjectBuilt());
+  EXPECT_TRUE(isBuiltInHostOf(dataFolder())) << "where no add-in has asked for pages yet";
+  const fs::path other = folder.path() / "data";
+  fs::create_directory(other);
+  fs::copy(dataFolder() / "PanelTemplates", other / "PanelTemplates");
+  const std::string text = trellisar::readFile(other / "PanelTemplates/Fenlet.json");
+  writeFile(other / "PanelTemplates/Fenlet.json",
+            forms::replacedAll(text, "ROOM CONTROL", "THIS ROOM"));
+  EXPECT_FALSE(isBuiltInHostOf(other)) << "the template is another one";
+}
+
 TEST_F(PanelTest, ProjectThatCantBeMadeIsToldInTheList) {
   const auto refusal = [this] {
     heard.clear();
     EXPECT_FALSE(window().CreateTouchpanels(panel));
     EXPECT_FALSE(panel->get_ProjectBuilt());
     EXPECT_EQ(manager->get_TessraApp()->GetAssignedProject(), nullptr);
+    EXPECT_THROW(trellisar::requireProjectFiles(data()), host::Error);
     return heard.back();
   };
+  ASSERT_TRUE(window().CreateTouchpanels(panel));
   manager->SetTemplatePrefix("[Other]");
   EXPECT_NE(refusal().find("has no page whose name begins with \"[Other]\""), std::string::npos);
   manager->SetTemplatePrefix("[Orlena]");

@@ -3,6 +3,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
+
+#include "forms/Paths.h"
+#include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/Json.h"
@@ -30,6 +34,10 @@ class SystemFileTest : public HostTest {
     append(*powered->GetEvent(host::eventLow)->get_Preset(), host::stepDelay, host::targetDevice,
            display, "", "100");
     powered->get_Options()->EnableEvents(host::eventsAll, true);
+    const auto fed = signal(receiver, "", "Lock");
+    fed->put_SourceType(host::sourceSignal);
+    fed->put_SourceDeviceID(receiver);
+    fed->put_SourceSignalName("Powered_On");
     window().AddInterface(host::modelFenlet, receiver, "");
     const auto entry =
         host.document()->get_Reports()->get_BillOfMaterials()->Item(data().bill.front()->key);
@@ -167,6 +175,42 @@ TEST_F(SystemFileTest, KilledDuringASaveLeavesOneOfTheTwoWhole) {
   }
   trellisar::replaceFile(file, one);
   EXPECT_EQ(readFile(file), one) << "what a killed save leaves beside does not hinder the next";
+}
+
+TEST_F(SystemFileTest, OfTwoProgramsThatMakeOneSystemOneIsRefused) {
+  for (int pair = 0; pair < 20; ++pair) {
+    const fs::path place = folder.path() / ("pair" + std::to_string(pair));
+    fs::create_directory(place);
+    int start[2];
+    ASSERT_EQ(pipe(start), 0);
+    std::array<pid_t, 2> programs{};
+    for (pid_t& program : programs) {
+      program = fork();
+      if (program != 0) continue;
+      data().name = "Made by " + std::to_string(getpid());
+      char byte = 0;
+      static_cast<void>(!read(start[0], &byte, 1));
+      const bool isRefused =
+          raisedBy([&] {
+            trellisar::saveSystemFile(data(), forms::fromMachinePath(place / "New"));
+          }).number() == host::errFile;
+      _exit(isRefused ? 1 : 0);
+    }
+    EXPECT_EQ(write(start[1], "go", 2), 2);
+    std::array<int, 2> refused{};
+    for (std::size_t i = 0; i < programs.size(); ++i) {
+      int status = 0;
+      ASSERT_EQ(waitpid(programs[i], &status, 0), programs[i]);
+      refused[i] = WEXITSTATUS(status);
+    }
+    close(start[0]);
+    close(start[1]);
+    EXPECT_NE(refused[0], refused[1]) << "pair " << pair;
+    const pid_t winner = programs[refused[0]];
+    EXPECT_NE(readFile(place / "New.tsy").find("Made by " + std::to_string(winner)),
+              std::string::npos);
+    EXPECT_EQ(std::distance(fs::directory_iterator(place), fs::directory_iterator()), 1);
+  }
 }
 
 TEST_F(SystemFileTest, SavedThroughALinkKeepsTheLink) {

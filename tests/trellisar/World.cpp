@@ -18,6 +18,10 @@ std::shared_ptr<const trellisar::DeviceLibrary> shippedLibrary() {
 
 HostTest::HostTest() : host({.dataFolder = dataFolder(), .library = shippedLibrary()}) {
   application.setTitle("Trellisar");
+  desktop.wheneverShown("DoneDialog", [this](forms::Form& form) {
+    lastWords = form.control("lblState").shownText();
+    user.press(forms::keys::escape);
+  });
 }
 
 trellisar::Document& HostTest::openTemplate() {

@@ -64,6 +64,7 @@ class HostTest : public testing::Test {
   forms::User user{application};
   trellisar::Host host;
   TemporaryFolder folder;
+  std::string lastWords;  // of what was done last
 };
 
 }  // namespace tests

@@ -28,6 +28,7 @@
 #include "trellisar/CompileDialog.h"
 #include "trellisar/Document.h"
 #include "trellisar/MainForm.h"
+#include "trellisar/PasswordDialog.h"
 #include "trellisar/SystemFile.h"
 #include "trellisar/TransferDialog.h"
 
@@ -103,7 +104,7 @@ class Walk {
           std::pair{"frmVideoTestPattern", "test-pattern"},
           std::pair{"AddressBookDialog", "address-book"},
           std::pair{"IPSettingsDialog", "ip-settings"},
-          std::pair{"CompileDialog", "compile-errors"}}) {
+          std::pair{"CompileDialog", "compile-errors"}, std::pair{"DoneDialog", "export-done"}}) {
       desktop_.act(form, [this, name](forms::Form& shown) { desktop_.draw(shown, name); });
     }
   }
@@ -342,7 +343,13 @@ void drawTransfer(DrawnDesktop& desktop, const fs::path& folder) {
     desktop.draw(form, "transfer");
   });
   desktop.runLater([&] { desktop.play(dialog); });  // while the transfer is at its work
-  static_cast<void>(dialog.run());
+  dialog.run();
+
+  receiver::Request request = receiver::passwordRequest(silent.address(), "");
+  trellisar::PasswordDialog password(silent.address(), request);
+  desktop.act("PasswordDialog", [&](forms::Form& form) { desktop.draw(form, "password"); });
+  desktop.runLater([&] { desktop.play(password); });
+  password.run();
 }
 
 }  // namespace

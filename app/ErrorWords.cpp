@@ -6,7 +6,6 @@
 
 #include "host/Error.h"
 #include "receiver/Error.h"
-#include "trellisar/FileIO.h"
 
 namespace app {
 namespace {
@@ -23,8 +22,7 @@ std::string wordsOf(const std::exception& error) {
     return "There is not enough memory. Close other programs, or build fewer rooms at a time.";
   }
   if (const auto* file = as<std::filesystem::filesystem_error>(error)) {
-    const std::string path = file->path1().string();
-    return "\"" + path + "\": " + trellisar::systemReason(file->code().value());
+    return "\"" + file->path1().string() + "\": " + file->code().message() + ".";
   }
   if (const auto* system = as<std::system_error>(error)) {
     return "The system does not allow it: " + system->code().message() + ".";

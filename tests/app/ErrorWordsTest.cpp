@@ -25,7 +25,7 @@ TEST(ErrorWords, areThoseOfAUser) {
     std::filesystem::create_directory(missing + "/room");
     FAIL();
   } catch (const std::exception& error) {
-    EXPECT_EQ(wordsOf(error), "\"" + missing + "/room\": it does not exist.");
+    EXPECT_EQ(wordsOf(error), "\"" + missing + "/room\": No such file or directory.");
   }
 }
 

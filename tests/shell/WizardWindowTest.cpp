@@ -221,8 +221,7 @@ TEST(WizardsSystem, ClosingAsksForWhateverWouldBeLostAndYesSavesIt) {
       wizard.goTo("Room Options");
       wizard.click("chkInclude(1)");
       wizard.goTo(change.page);
-      wizard.clickInWindow("cmdSave");
-      wizard.document().get_SystemInfo()->put_ProgramIsCurrent(true);
+      wizard.saveAndCompile();
       change.make(wizard);
       expectSaveQuestion(wizard, Answer::cancel);
       EXPECT_FALSE(wizard.user.close(wizard.window()));

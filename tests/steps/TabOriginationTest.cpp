@@ -105,9 +105,8 @@ TEST_F(TabOriginationTest, DefaultLabelsStayWithTheirPortsAndOwnOnesGoWithTheirR
     for (const Case& it : cases) {
       given(it.types);
       if (it.renamed >= 0) rename(it.renamed, "Own");
+      saveAndCompile();
       user.select(list(), it.selected);
-      document().MarkUnchanged();
-      document().get_SystemInfo()->put_ProgramIsCurrent(true);
       const std::string before = rows();
       click(it.button);
       const auto what = std::string(it.button) + " " + std::to_string(it.selected);

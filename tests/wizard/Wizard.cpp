@@ -9,6 +9,7 @@
 #include "forms/TabStrip.h"
 #include "forms/TextBox.h"
 #include "host/iTab.h"
+#include "trellisar/CompiledProgram.h"
 #include "vmAOR/EntryPoints.h"
 
 namespace tests {
@@ -93,6 +94,12 @@ void Wizard::goTo(const std::string& name) {
     if (entry.shownText() == name) return user.click(entry);
   }
   throw std::runtime_error("The list has no step " + name);
+}
+
+void Wizard::saveAndCompile() {
+  clickInWindow("cmdSave");
+  trellisar::DocumentData& data = host->document()->data();
+  trellisar::storeCompiledProgram(data, trellisar::compileProgram(data));
 }
 
 void Wizard::enter(const std::string& textBox, const std::string& text) {

@@ -53,6 +53,8 @@ class Wizard {
 
   void click(const std::string& name) { user.click(control(name)); }
   void clickInWindow(const std::string& name) { user.click(inWindow(name)); }
+  /// Saves by the window's button, and compiles: the program is current then.
+  void saveAndCompile();
   void enter(const std::string& textBox, const std::string& text);
   std::string text(const std::string& name) const { return control(name).shownText(); }
   /// Chooses a device in the host's device dialog, which a button of the current step opens.

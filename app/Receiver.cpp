@@ -1,5 +1,6 @@
 #include "app/Receiver.h"
 
+#include <csignal>
 #include <iostream>
 
 #include "app/ExitStatus.h"
@@ -11,12 +12,15 @@ namespace app {
 
 int runReceiver(const ReceiverOptions& options) {
   try {
+    // Whoever started it may have read the first line and gone.
+    std::signal(SIGPIPE, SIG_IGN);
     receiver::Server::Options serving;
     if (!options.listen.empty()) {
       serving.listen = receiver::Address::parse(options.listen, receiver::Address::Zero::allowed);
     }
     serving.folder = options.folder;
     serving.stopOnSignals = true;
+    serving.arrived = [](const std::string& line) { std::cout << line << std::endl; };
     receiver::Server server(serving);
     if (!server.warning().empty()) reportLine(server.warning());
     std::cout << "listening on " << server.address().text() << std::endl;

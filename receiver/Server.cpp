@@ -79,8 +79,8 @@ void Server::Impl::accept() {
 
 void Server::Impl::accepted(asio::ip::tcp::socket socket) {
   std::erase_if(sessions, [](const auto& session) { return session.expired(); });
-  const auto session =
-      std::make_shared<Session>(std::move(socket), store, workers, options.frameTime);
+  const auto session = std::make_shared<Session>(
+      std::move(socket), store, workers, Session::Manner{options.frameTime, options.arrived});
   const bool room = sessions.size() < options.connections;
   sessions.push_back(session);
   if (room) {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,8 @@ class Server {
     std::chrono::milliseconds frameTime{30000};  // in which a frame must come, and an answer leave
     std::size_t connections = 64;                // at the same time; one more is refused
     bool stopOnSignals = false;                  // SIGTERM and SIGINT end `run`
+    /// Told from within `run`, in a line, what has arrived and is stored; must not raise.
+    std::function<void(const std::string& line)> arrived = {};
   };
 
   /// Listens when it returns. Raises Error when the address is taken or is none of this machine, or

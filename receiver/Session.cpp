@@ -19,15 +19,15 @@ void checkUser(const std::string& user) {
 }  // namespace
 
 Session::Session(asio::ip::tcp::socket socket, Store& store, asio::thread_pool& workers,
-                 std::chrono::milliseconds frameTime)
+                 Manner manner)
     : socket_(std::move(socket)),
       timer_(socket_.get_executor()),
       store_(store),
       workers_(workers),
-      frameTime_(frameTime) {}
+      manner_(std::move(manner)) {}
 
 void Session::readHeader() {
-  limit(frameTime_);
+  limit(manner_.frameTime);
   asio::async_read(socket_, asio::buffer(header_),
                    [self = shared_from_this()](const asio::error_code& error, std::size_t bytes) {
                      if (self->arrived(error, bytes)) self->readPayload();
@@ -70,7 +70,7 @@ void Session::handle() {
 void Session::answer(const Message& message) {
   if (ending_) return;
   out_ = writeMessage(message).encode();
-  limit(frameTime_);
+  limit(manner_.frameTime);
   asio::async_write(socket_, asio::buffer(out_),
                     [self = shared_from_this()](const asio::error_code& error, std::size_t) {
                       if (self->ending_) return;
@@ -127,10 +127,10 @@ void Session::timeIsUp() {
   refuse("Nothing came for too long; the connection is closed.");
 }
 
-void Session::doApart(std::function<void()> work) {
+void Session::doApart(std::function<void()> work, const std::string& arrival) {
   timer_.expires_at(asio::steady_timer::time_point::max());
   const auto executor = socket_.get_executor();
-  asio::post(workers_, [self = shared_from_this(), work = std::move(work), executor,
+  asio::post(workers_, [self = shared_from_this(), work = std::move(work), arrival, executor,
                         guard = asio::make_work_guard(executor)]() mutable {
     std::string failure;
     try {
@@ -139,8 +139,10 @@ void Session::doApart(std::function<void()> work) {
       failure = error.what();
     }
     work = nullptr;
-    asio::post(executor, [self = std::move(self), failure] {
-      failure.empty() ? self->answer(Accepted()) : self->refuse(failure);
+    asio::post(executor, [self = std::move(self), arrival, failure] {
+      if (!failure.empty()) return self->refuse(failure);
+      if (!arrival.empty() && self->manner_.arrived) self->manner_.arrived(arrival);
+      self->answer(Accepted());
     });
   });
 }
@@ -148,6 +150,7 @@ void Session::doApart(std::function<void()> work) {
 void Session::take(const AnnounceProgram& message) {
   if (upload_) throw Error("Another program is still being sent on this connection.");
   upload_ = store_.begin(message);
+  announced_ = message.program.name;
   answer(Accepted());
 }
 
@@ -159,12 +162,14 @@ void Session::take(const Chunk& message) {
 
 void Session::take(const Commit&) {
   if (!upload_) throw Error("There is no program to be stored.");
-  doApart([upload = std::shared_ptr<Store::Upload>(std::move(upload_))] { upload->commit(); });
+  doApart([upload = std::shared_ptr<Store::Upload>(std::move(upload_))] { upload->commit(); },
+          "program \"" + announced_ + "\" arrived");
 }
 
 void Session::take(const SetPassword& message) {
   checkUser(message.user);
-  doApart([this, password = message.password] { store_.setPassword(password); });
+  doApart([this, password = message.password] { store_.setPassword(password); },
+          message.password.empty() ? "password cleared" : "password set");
 }
 
 void Session::take(const CheckPassword& message) {
@@ -177,7 +182,8 @@ void Session::take(const CheckPassword& message) {
 void Session::take(const Query&) { answer(store_.holdings()); }
 
 void Session::take(const SetProperties& message) {
-  doApart([this, properties = message.properties] { store_.setProperties(properties); });
+  doApart([this, properties = message.properties] { store_.setProperties(properties); },
+          "properties changed");
 }
 
 template <typename Answer>

@@ -17,10 +17,14 @@ namespace receiver {
 /// lives by its own pending work and ends with the connection.
 class Session : public std::enable_shared_from_this<Session> {
  public:
+  struct Manner {
+    std::chrono::milliseconds frameTime;              // in which a frame must come
+    std::function<void(const std::string&)> arrived;  // hears of what is stored; nothing: nobody
+  };
+
   /// `workers` does what takes time (flushing to the disk, hashing a password). It and the store
   /// must live until the socket's context has run out of work.
-  Session(asio::ip::tcp::socket socket, Store& store, asio::thread_pool& workers,
-          std::chrono::milliseconds frameTime);
+  Session(asio::ip::tcp::socket socket, Store& store, asio::thread_pool& workers, Manner manner);
 
   void start() { readHeader(); }
   /// Says why and ends.
@@ -39,8 +43,9 @@ class Session : public std::enable_shared_from_this<Session> {
   bool arrived(const asio::error_code& error, std::size_t bytes);
   void limit(std::chrono::milliseconds time);
   void timeIsUp();
-  /// Runs `work` on a worker, and answers with Accepted or with the Error that it raised.
-  void doApart(std::function<void()> work);
+  /// Runs `work` on a worker, and answers with Accepted or with the Error that it raised. When it
+  /// raised none, `arrival` is told first; empty: nothing is.
+  void doApart(std::function<void()> work, const std::string& arrival = {});
 
   void take(const AnnounceProgram& message);
   void take(const Chunk& message);
@@ -56,11 +61,12 @@ class Session : public std::enable_shared_from_this<Session> {
   asio::steady_timer timer_;
   Store& store_;
   asio::thread_pool& workers_;
-  std::chrono::milliseconds frameTime_;
+  Manner manner_;
   std::array<char, Frame::headerSize> header_{};
   Frame frame_;
   std::string out_;
   std::unique_ptr<Store::Upload> upload_;
+  std::string announced_;  // the name of the program that is being sent
   bool ending_ = false;
 };
 

@@ -44,6 +44,21 @@ TEST_F(ServerTest, BadFrameIsRefusedWithItsReason) {
   EXPECT_TRUE(holds(running.address(), program));
 }
 
+TEST_F(ServerTest, TellsWhatHasArrivedAndNothingThatWasRefused) {
+  const TemporaryFolder place;
+  receiver::Server::Options options = optionsFor(place);
+  std::vector<std::string> lines;
+  options.arrived = [&](const std::string& line) { lines.push_back(line); };
+  Running telling(options);
+  EXPECT_FALSE(receiver::setProperties(telling.address(), {{"Unknown", "1"}}));
+  EXPECT_TRUE(sent(telling.address(), program));
+  EXPECT_TRUE(receiver::setPassword(telling.address(), "secret"));
+  EXPECT_TRUE(receiver::setPassword(telling.address(), ""));
+  telling.stop();
+  EXPECT_EQ(lines, (std::vector<std::string>{"program \"" + program.name + "\" arrived",
+                                             "password set", "password cleared"}));
+}
+
 TEST_F(ServerTest, FrameThatIsCutShortIsRefused) {
   const std::string bytes =
       receiver::writeMessage(receiver::SetPassword{"user", "secret"}).encode();

@@ -121,7 +121,8 @@ class Bill : public host::BillOfMaterials {
              " can't be added to the bill of materials: there is no device " + std::to_string(id) +
              ".";
     }
-    const std::string what = "\"" + document_->shownName(id) + "\"";
+    const std::string name = document_->shownName(id);
+    const std::string what = "\"" + name + "\"";
     if (part < 1) return what + " can't be added to the bill of materials: it has no part number.";
     return document_->findBillEntry(key) ? what + " is in the bill of materials already." : "";
   }

@@ -20,7 +20,8 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void fail(const char* what, const fs::path& file, const std::string& reason) {
-  throw host::Error(host::errFile, std::string(what) + " \"" + file.string() + "\": " + reason);
+  const std::string path = file.string();
+  throw host::Error(host::errFile, std::string(what) + " \"" + path + "\": " + reason);
 }
 
 std::string readingReason(int errorNumber) {
@@ -173,7 +174,8 @@ int moveIfFree(const fs::path& from, const fs::path& to) {
 /// nothing is left of it.
 int put(const fs::path& file, std::string_view content,
         int (*move)(const fs::path& from, const fs::path& to)) {
-  const fs::path beside = file.parent_path() / ("." + file.filename().string() + ".saving");
+  const std::string name = file.filename().string();
+  const fs::path beside = file.parent_path() / ("." + name + ".saving");
   const NoSizeSignal noSizeSignal;
   const Descriptor opened = openBeside(beside, file);
   int error = writeAll(opened.number(), content);

@@ -72,7 +72,8 @@ std::optional<Overwriting> MainWindowOperations::mayOverwrite(const fs::path& fi
   if (session_->replacing == Replacing::always) return Overwriting::allowed;
   const Standing standing = standingAt(*session_->data(), file);
   if (standing == Standing::nothing || standing == Standing::own) return Overwriting::refused;
-  const std::string name = "\"" + file.string() + "\"";
+  const std::string path = file.string();
+  const std::string name = "\"" + path + "\"";
   const bool isChanged = standing == Standing::changed;
   const std::string what =
       isChanged ? "Another program has changed the file " + name + " since the system was opened."

@@ -13,6 +13,7 @@
 #include "trellisar/HelpTopics.h"
 #include "trellisar/Listing.h"
 #include "trellisar/SystemFile.h"
+#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {
@@ -31,8 +32,6 @@ bool isThere(const std::string& system) {
   std::error_code failure;
   return std::filesystem::exists(forms::toMachinePath(system), failure);
 }
-
-std::string shownPath(const std::string& system) { return forms::toMachinePath(system).string(); }
 
 }  // namespace
 

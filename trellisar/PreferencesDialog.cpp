@@ -1,6 +1,7 @@
 #include "trellisar/PreferencesDialog.h"
 
 #include "forms/Application.h"
+#include "forms/Paths.h"
 #include "forms/Text.h"
 #include "trellisar/HelpTopics.h"
 #include "trellisar/MainWindowOperations.h"
@@ -15,9 +16,9 @@ constexpr forms::Twips dialogWidth = 6600;
 
 PreferencesDialog::PreferencesDialog(Preferences& preferences)
     : Dialog("Preferences", "Preferences", help::preferences), preferences_(preferences) {
-  txtFolder.setText(preferences.defaultFolder());
+  txtFolder.setText(shownPath(preferences.defaultFolder()));
   lblUsual.setCaption("Without a folder of your own, new systems go to " +
-                      defaultSystemsFolder(Preferences()));
+                      shownPath(defaultSystemsFolder(Preferences())));
   cmdBrowse.click.connect([this] { browse(); });
   layOutAbove(dialogWidth, {forms::names(lblFolder, txtFolder),
                             forms::row({forms::rest(txtFolder), forms::item(cmdBrowse)}),
@@ -26,20 +27,20 @@ PreferencesDialog::PreferencesDialog(Preferences& preferences)
 
 void PreferencesDialog::browse() {
   const std::string folder = forms::Application::current().desktop().chooseFolder(
-      {windowHandle(), "Save new systems in this folder:", txtFolder.text()});
-  if (!folder.empty()) txtFolder.setText(folder);
+      {windowHandle(), "Save new systems in this folder:", preferences_.defaultFolder()});
+  if (!folder.empty()) txtFolder.setText(shownPath(folder));
 }
 
 bool PreferencesDialog::accept() {
   const std::string folder = forms::trimmed(txtFolder.text());
-  if (!folder.empty() && !folder.starts_with('\\')) {
+  if (!folder.empty() && !folder.starts_with('/')) {
     showFailure("\"" + folder +
                 "\" is no whole path of a folder. Choose the folder with Browse, or leave the box "
                 "empty for the usual one.");
     txtFolder.setFocus();
     return false;
   }
-  preferences_.setDefaultFolder(folder);
+  preferences_.setDefaultFolder(folder.empty() ? folder : forms::fromMachinePath(folder));
   return true;
 }
 

@@ -50,6 +50,10 @@ bool isControl(unsigned char c) { return c < ' ' || c == 0x7F; }
 
 }  // namespace
 
+std::string shownPath(const std::string& path) {
+  return path.empty() ? path : forms::toMachinePath(path).string();
+}
+
 std::string defaultSystemsFolder(const Preferences& preferences) {
   if (const std::string folder = environment("TRELLISAR_SYSTEMS"); !folder.empty()) {
     const fs::path machine = forms::toMachinePath(forms::fromMachinePath(folder));

@@ -20,6 +20,9 @@ std::string fileNameProblem(const std::string& name);
 /// As above for a name that a user gives a system, which is no longer than systems' names are.
 std::string systemNameProblem(const std::string& name);
 
+/// A path with backslashes as people read and type it; an empty one stays empty.
+std::string shownPath(const std::string& path);
+
 /// Whether the two machine paths lead to one file.
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
 

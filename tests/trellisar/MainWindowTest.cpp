@@ -377,6 +377,7 @@ TEST_F(MainWindowTest, PreferencesGiveTheDefaultFolderBelowTheEnvironment) {
     user.click(form.control("cmdOK"));
     desktop.expectFolderDialog("Save new systems in this folder:", place);
     user.click(form.control("cmdBrowse"));
+    EXPECT_EQ(form.control("txtFolder").shownText(), forms::toMachinePath(place).string());
     user.click(form.control("cmdOK"));
   });
   window().ShowPreferencesDialog();

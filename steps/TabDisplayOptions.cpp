@@ -315,7 +315,7 @@ void TabDisplayOptions::LayOut() {
 
 forms::Piece TabDisplayOptions::PlacePage(std::int16_t Index) {
   using namespace forms;
-  constexpr Twips lDescription = 585;
+  constexpr Twips lDescription = 780;
   constexpr Twips lLine = 195;
   return box(
       frameDevice(Index),
@@ -327,9 +327,7 @@ forms::Piece TabDisplayOptions::PlacePage(std::int16_t Index) {
                   item(lblDescriptionTag(Index)),
                   rest(lblDescription(Index), lDescription),
                   row({item(lblIOAssignmentTag(Index)), rest(lblIOAssignment(Index), lLine)}),
-                  gap(30),
                   PlaceRow(rowOn, Index),
-                  gap(30),
                   PlaceRow(rowOff, Index),
               }),
               frameInfo.at(static_cast<std::size_t>(Index)).Place(),

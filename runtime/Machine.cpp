@@ -27,7 +27,6 @@ struct IsSame {
 Machine::Machine(const Wiring& wiring, Ports& ports, Trace* trace)
     : wiring_(wiring), ports_(ports), trace_(trace) {
   state_.levels.assign(wiring.signals().size(), false);
-  state_.told.assign(wiring.toldInputs().size(), {});
   for (const program::Unit& unit : wiring.program().units) {
     state_.switches.push_back(unit.kind == program::Unit::Kind::panel);
   }
@@ -323,10 +322,6 @@ void Machine::moveBetween(SignalPlace from, SignalPlace to, LineNumber because) 
 }
 
 void Machine::react(const Delivery& to, const Arrival& command) {
-  if (to.reaction == Reaction::isTold) {
-    state_.told[static_cast<std::size_t>(to.told)] = command.value;
-    return;
-  }
   if (to.reaction == Reaction::enable) return setSwitch(to.unit, command.isPressed());
   if (!command.isPressed()) return;
   const Wiring::ReceiverSignals& own = wiring_.receiver();
@@ -361,7 +356,6 @@ void Machine::react(const Delivery& to, const Arrival& command) {
       return toggle(to.unit, to.reaction == Reaction::sensedOn, command.line);
     case Reaction::none:
     case Reaction::enable:
-    case Reaction::isTold:
       return;
   }
 }

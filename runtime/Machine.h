@@ -94,7 +94,6 @@ struct State {
   Time now = 0;
   std::vector<char> levels;            // by signal
   std::vector<char> switches;          // by unit: a panel is enabled, a relay is closed
-  std::vector<std::string_view> told;  // by input of the monitoring interface: its last value
   bool isLocked = false;
   bool isMuted = false;
   std::int32_t volume = 50;         // 0 to 100

@@ -40,7 +40,6 @@ std::size_t State::hash() const {
   Hash hash;
   hash.add(levels);
   hash.add(switches);
-  for (const std::string_view value : told) hash.add(value);
   hash.add(static_cast<std::size_t>(volume) * 4 + (isLocked ? 2U : 0U) + (isMuted ? 1U : 0U));
   for (const Deadline& deadline : deadlines) {
     hash.add(static_cast<std::size_t>(deadline.at - now));

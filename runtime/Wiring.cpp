@@ -37,7 +37,6 @@ constexpr std::array knownCommands{
     Known{Role::sensing, "Power_Off", Reaction::sensedOff}};
 
 Reaction reactionOf(Role role, std::string_view command) {
-  if (role == Role::monitoring) return Reaction::isTold;
   for (const Known& known : knownCommands) {
     if (known.role == role && known.command == command) return known.reaction;
   }
@@ -113,10 +112,6 @@ Delivery& Wiring::deliveryTo(Place unit, std::string_view command) {
   delivery->reaction = reactionOf(role(unit), command);
   const Unit& receiving = program_.units[static_cast<std::size_t>(unit)];
   delivery->isForPort = receiving.kind == Unit::Kind::device;
-  if (delivery->reaction == Reaction::isTold) {
-    delivery->told = static_cast<std::int32_t>(told_.size());
-    told_.push_back(command);
-  }
   return *delivery;
 }
 

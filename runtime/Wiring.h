@@ -40,7 +40,6 @@ enum class Reaction : std::uint8_t {
   openRelay,
   sensedOn,
   sensedOff,
-  isTold,
 };
 
 /// A lockout that begins when a command goes to a unit.
@@ -55,7 +54,6 @@ struct Delivery {
   std::string_view command;
   Reaction reaction = Reaction::none;
   bool isForPort = false;  // a device hangs there
-  std::int32_t told = program::none;
   std::vector<Lockout> lockouts;  // in the document's order
 };
 
@@ -146,8 +144,6 @@ class Wiring {
   const PanelButton* button(Place panel, std::int32_t id) const;
   const Sensor* sensorBy(Place module) const;
   const std::vector<Sensor>& sensors() const { return sensors_; }
-  /// The inputs of the monitoring interface, in the order of Delivery::told.
-  const std::vector<std::string_view>& toldInputs() const { return told_; }
 
   // The outputs that the machine itself moves; none without the unit.
   struct ReceiverSignals {
@@ -194,7 +190,6 @@ class Wiring {
   std::deque<std::string> buttonNames_;
   std::vector<Sensor> sensors_;
   std::map<Place, std::size_t> sensorPlaces_;
-  std::vector<std::string_view> told_;
   ReceiverSignals receiver_;
   MotionDetector motionDetector_;
 };

@@ -92,8 +92,8 @@ struct State {
   enum class Turn { free, taken, ended };
 
   Time now = 0;
-  std::vector<char> levels;            // by signal
-  std::vector<char> switches;          // by unit: a panel is enabled, a relay is closed
+  std::vector<char> levels;    // by signal
+  std::vector<char> switches;  // by unit: a panel is enabled, a relay is closed
   bool isLocked = false;
   bool isMuted = false;
   std::int32_t volume = 50;         // 0 to 100

@@ -53,7 +53,7 @@ struct Delivery {
   Place unit = program::none;
   std::string_view command;
   Reaction reaction = Reaction::none;
-  bool isForPort = false;  // a device hangs there
+  bool isForPort = false;         // a device hangs there
   std::vector<Lockout> lockouts;  // in the document's order
 };
 

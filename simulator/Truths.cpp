@@ -57,6 +57,8 @@ std::string inWords(Truth truth) {
   return {};
 }
 
+Fault::Fault(Truth itsTruth, std::string itsWords) : truth(itsTruth), what(std::move(itsWords)) {}
+
 Truths::Truths(const runtime::Machine& machine, const Room& room)
     : machine_(machine),
       room_(room),
@@ -123,18 +125,18 @@ void Truths::checkLocks(const HelpDeskView& view, std::vector<Fault>& faults) co
   if (view.hasLocked || (isContactUsed_ && !isContactClosed())) return;
   const auto& units = wiring_.program().units;
   if (machine_.isLocked()) {
-    faults.push_back({Truth::contactFrees, "the receiver stays locked"});
+    faults.emplace_back(Truth::contactFrees, "the receiver stays locked");
   }
   for (std::size_t i = 0; i < units.size(); ++i) {
     if (units[i].kind != program::Unit::Kind::panel) continue;
     if (machine_.isEnabled(static_cast<Place>(i))) continue;
-    faults.push_back({Truth::contactFrees, units[i].name + " stays disabled"});
+    faults.emplace_back(Truth::contactFrees, units[i].name + " stays disabled");
   }
 }
 
 void Truths::checkOff(std::vector<Fault>& faults) const {
   const Devices& devices = room_.devices();
-  const auto add = [&](std::string what) { faults.push_back({Truth::offIsOff, std::move(what)}); };
+  const auto add = [&](std::string what) { faults.emplace_back(Truth::offIsOff, std::move(what)); };
   if (room_.display() != program::none && devices.power != Power::off) {
     add("the display stays " + std::string(nameOf(devices.power)));
   }
@@ -147,7 +149,7 @@ void Truths::checkOff(std::vector<Fault>& faults) const {
 
 void Truths::checkOn(std::vector<Fault>& faults) const {
   const Devices& devices = room_.devices();
-  const auto add = [&](std::string what) { faults.push_back({Truth::onIsOn, std::move(what)}); };
+  const auto add = [&](std::string what) { faults.emplace_back(Truth::onIsOn, std::move(what)); };
   if (room_.display() != program::none) {
     if (devices.power != Power::on) {
       add("the display stays " + std::string(nameOf(devices.power)));
@@ -166,8 +168,8 @@ void Truths::checkSource(std::vector<Fault>& faults) const {
   const auto check = [&](runtime::SignalPlace selected, std::string_view input,
                          std::string_view source) {
     if (!machine_.level(selected) || room_.devices().input == input) return;
-    faults.push_back({Truth::onIsOn, "the display does not show the " + std::string(source) +
-                                         " source that is selected"});
+    faults.emplace_back(Truth::onIsOn, "the display does not show the " + std::string(source) +
+                                           " source that is selected");
   };
   check(receiver.rgb, room_.rgbCommand(), "RGB");
   check(receiver.composite, room_.compositeCommand(), "composite video");
@@ -175,7 +177,7 @@ void Truths::checkSource(std::vector<Fault>& faults) const {
 
 void Truths::checkHelpDesk(const HelpDeskView& view, std::vector<Fault>& faults) const {
   const auto add = [&](std::string what) {
-    faults.push_back({Truth::helpDeskIsToldRight, "the help desk was told that " + what});
+    faults.emplace_back(Truth::helpDeskIsToldRight, "the help desk was told that " + what);
   };
   if (view.isOn != Told::nothing && view.isOn != toldOf(isSwitchedOn())) {
     add(view.isOn == Told::yes ? "the room is on, and it is off" : "the room is off, and it is on");

@@ -38,7 +38,9 @@ struct HelpDeskView {
 
 /// A fault: which truth does not hold, and how it shows.
 struct Fault {
-  Truth truth = Truth::nothingIsLost;
+  Fault(Truth itsTruth, std::string itsWords);
+
+  Truth truth;
   std::string what;  // `Display Device does not take On: it warms up`
 
   auto operator<=>(const Fault&) const = default;

@@ -22,6 +22,15 @@ struct IsSame {
   bool operator()(const auto&, const auto&) const { return false; }
 };
 
+Line lineOf(const Send& send, Line::Kind kind, LineNumber because) {
+  return {.kind = kind,
+          .because = because,
+          .unit = send.to->unit,
+          .name = send.to->command,
+          .text = send.value,
+          .type = send.type};
+}
+
 }  // namespace
 
 Machine::Machine(const Wiring& wiring, Ports& ports, Trace* trace)
@@ -285,24 +294,14 @@ void Machine::send(const Send& send, LineNumber because) {
 
 LineNumber Machine::deliver(const Send& send, LineNumber because) {
   const Delivery& to = *send.to;
-  const LineNumber line = note({.kind = Line::Kind::sent,
-                                .because = because,
-                                .unit = to.unit,
-                                .name = to.command,
-                                .text = send.value,
-                                .type = send.type});
+  const LineNumber line = note(lineOf(send, Line::Kind::sent, because));
   arrive(to, {to.unit, to.command, send.type, send.value, line});
   return line;
 }
 
 void Machine::release(const Send& send, LineNumber because) {
   const Delivery& to = *send.to;
-  const LineNumber line = note({.kind = Line::Kind::released,
-                                .because = because,
-                                .unit = to.unit,
-                                .name = to.command,
-                                .text = send.value,
-                                .type = send.type});
+  const LineNumber line = note(lineOf(send, Line::Kind::released, because));
   if (to.isForPort) ports_.released(*this, {to.unit, to.command, send.type, send.value, line});
 }
 

@@ -1,4 +1,5 @@
 #include "trellisar/AddIns.h"
+#include "trellisar/Messages.h"
 
 #include <map>
 #include <mutex>

@@ -14,8 +14,10 @@
 #include "trellisar/ArchiveHandle.h"
 #include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/MadeFolders.h"
+#include "trellisar/ProgramFile.h"
 #include "trellisar/SystemFile.h"
-#include "trellisar/SystemFolders.h"
+#include "trellisar/SystemNames.h"
 
 namespace trellisar {
 namespace {

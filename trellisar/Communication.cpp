@@ -1,4 +1,5 @@
 #include "trellisar/Communication.h"
+#include "trellisar/Messages.h"
 
 #include <chrono>
 #include <utility>
@@ -14,7 +15,6 @@
 #include "trellisar/CompiledProgram.h"
 #include "trellisar/DoneDialog.h"
 #include "trellisar/IPSettingsDialog.h"
-#include "trellisar/MainWindowOperations.h"
 #include "trellisar/PanelState.h"
 #include "trellisar/PasswordDialog.h"
 #include "trellisar/TransferDialog.h"

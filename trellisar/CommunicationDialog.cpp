@@ -1,9 +1,9 @@
 #include "trellisar/CommunicationDialog.h"
+#include "trellisar/Messages.h"
 
 #include <utility>
 
 #include "host/Numbers.h"
-#include "trellisar/MainWindowOperations.h"
 
 namespace trellisar {
 

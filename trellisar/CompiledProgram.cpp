@@ -9,8 +9,8 @@
 #include "receiver/Digest.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/ProgramCheck.h"
+#include "trellisar/ProgramFile.h"
 #include "trellisar/SystemFile.h"
-#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {
@@ -84,11 +84,6 @@ void storeCompiledProgram(DocumentData& document, const std::string& program) {
   document.isModified = false;
 }
 
-fs::path storedProgramFile(const DocumentData& document) {
-  if (document.compiledProgram.empty()) return {};
-  return forms::toMachinePath(document.folder) / document.compiledProgram;
-}
-
 std::string storedProgram(const DocumentData& document) {
   const fs::path file = storedProgramFile(document);
   if (file.empty()) {
@@ -109,21 +104,6 @@ bool isProgramCurrent(const DocumentData& document) {
   } catch (const host::Error&) {
     return false;  // building it again tells what is wrong
   }
-}
-
-void forgetMissingProgram(DocumentData& document, const fs::path& folder) {
-  std::error_code error;
-  if (document.compiledProgram.empty() || fs::exists(folder / document.compiledProgram, error)) {
-    return;
-  }
-  document.compiledProgram.clear();
-  document.programIsCurrent = false;
-}
-
-void leaveProgramBehind(DocumentData& document, const fs::path& folder) {
-  if (!isSameFile(folder, document.ownFile.parent_path())) document.compiledProgram.clear();
-  forgetMissingProgram(document, folder);
-  document.programIsCurrent = document.programIsCurrent && !document.compiledProgram.empty();
 }
 
 }  // namespace trellisar

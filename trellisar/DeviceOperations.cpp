@@ -4,6 +4,7 @@
 #include "host/Numbers.h"
 #include "trellisar/DeviceLists.h"
 #include "trellisar/MainWindowOperations.h"
+#include "trellisar/Messages.h"
 #include "trellisar/Provisioning.h"
 
 namespace trellisar {

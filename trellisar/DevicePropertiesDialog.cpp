@@ -1,11 +1,11 @@
 #include "trellisar/DevicePropertiesDialog.h"
+#include "trellisar/Messages.h"
 
 #include <algorithm>
 
 #include "forms/Application.h"
 #include "host/Numbers.h"
 #include "trellisar/HelpTopics.h"
-#include "trellisar/MainWindowOperations.h"
 #include "trellisar/Provisioning.h"
 
 namespace trellisar {

@@ -4,6 +4,7 @@
 #include "trellisar/DeviceDialog.h"
 #include "trellisar/DevicePropertiesDialog.h"
 #include "trellisar/MainWindowOperations.h"
+#include "trellisar/Messages.h"
 #include "trellisar/PreferencesDialog.h"
 #include "trellisar/RealTimeDialog.h"
 #include "trellisar/ReportsDialog.h"

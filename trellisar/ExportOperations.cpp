@@ -6,6 +6,7 @@
 #include "trellisar/DoneDialog.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/MainWindowOperations.h"
+#include "trellisar/Messages.h"
 
 namespace trellisar {
 namespace {

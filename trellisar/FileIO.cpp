@@ -193,6 +193,12 @@ int put(const fs::path& file, std::string_view content,
 
 }  // namespace
 
+bool isSameFile(const fs::path& one, const fs::path& other) {
+  std::error_code error;
+  if (fs::equivalent(one, other, error)) return true;
+  return one.lexically_normal() == other.lexically_normal();
+}
+
 std::string systemReason(int errorNumber) {
   switch (errorNumber) {
     case ENOSPC:

@@ -20,6 +20,9 @@ void replaceFile(const std::filesystem::path& file, std::string_view content);
 /// programs that make the same file at once, one gets false.
 [[nodiscard]] bool createFile(const std::filesystem::path& file, std::string_view content);
 
+/// Whether the two paths lead to one file, which need not be there.
+bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
+
 /// While it lives, no other program has a lock on the folder; who wants one waits. Without the
 /// folder there is none to wait for.
 class FolderLock {

@@ -5,10 +5,14 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/Archive.h"
-#include "trellisar/CompiledProgram.h"
+#include "trellisar/MadeFolders.h"
 #include "trellisar/MainWindowOperations.h"
+#include "trellisar/Messages.h"
+#include "trellisar/OtherSystems.h"
+#include "trellisar/ProgramFile.h"
 #include "trellisar/SystemFile.h"
 #include "trellisar/SystemFolders.h"
+#include "trellisar/SystemNames.h"
 #include "trellisar/TimeText.h"
 
 namespace trellisar {
@@ -22,10 +26,6 @@ bool isThere(const fs::path& file) {
 }
 
 }  // namespace
-
-void showFailure(const std::string& text) {
-  forms::Application::current().messageBox(text, forms::Buttons::ok, forms::Icon::exclamation);
-}
 
 std::string MainWindowOperations::chooseFile() const {
   forms::FileDialog dialog;

@@ -1,4 +1,6 @@
 #include "trellisar/MainForm.h"
+#include "trellisar/Messages.h"
+#include "trellisar/SystemNames.h"
 
 #include <algorithm>
 #include <system_error>
@@ -13,7 +15,6 @@
 #include "trellisar/HelpTopics.h"
 #include "trellisar/Listing.h"
 #include "trellisar/SystemFile.h"
-#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {

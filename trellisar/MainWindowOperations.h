@@ -84,7 +84,4 @@ class MainWindowOperations : public host::OwnerForm {
   std::shared_ptr<UIManagerObject> uiManager_;  // made when it is first asked for
 };
 
-/// Shows a message that something could not be done.
-void showFailure(const std::string& text);
-
 }  // namespace trellisar

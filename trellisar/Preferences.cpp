@@ -1,4 +1,5 @@
 #include "trellisar/Preferences.h"
+#include "trellisar/MadeFolders.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -8,7 +9,6 @@
 #include "host/Error.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/Json.h"
-#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {

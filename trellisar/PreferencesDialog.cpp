@@ -1,10 +1,11 @@
 #include "trellisar/PreferencesDialog.h"
+#include "trellisar/Messages.h"
+#include "trellisar/SystemNames.h"
 
 #include "forms/Application.h"
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "trellisar/HelpTopics.h"
-#include "trellisar/MainWindowOperations.h"
 #include "trellisar/SystemFolders.h"
 
 namespace trellisar {

@@ -1,7 +1,7 @@
 #include "trellisar/ProgramCheck.h"
 
 #include "host/Numbers.h"
-#include "trellisar/ProgramObjects.h"
+#include "trellisar/StepRules.h"
 
 namespace trellisar {
 namespace {

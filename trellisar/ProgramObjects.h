@@ -9,9 +9,6 @@
 
 namespace trellisar {
 
-/// How many conditional steps may stand one inside the other.
-inline constexpr int maximumBranchDepth = 20;
-
 /// A step of a document; without a document one that is being filled.
 class StepObject : public host::Step {
  public:
@@ -49,11 +46,5 @@ std::shared_ptr<host::Preset> makePresetObject(const DocumentPtr& document,
                                                const std::shared_ptr<PresetData>& preset);
 std::shared_ptr<host::PresetList> makePresetList(const DocumentPtr& document);
 std::shared_ptr<host::SignalList> makeSignalList(const DocumentPtr& document);
-
-/// Whether a step can have the target: the device, panel or named preset is in the document.
-bool isTargetThere(const DocumentData& document, std::int16_t targetType, std::int32_t target);
-
-/// Whether the kind goes with the target type: a call with a preset, a conditional step with none.
-bool isStepForm(std::int16_t kind, std::int16_t targetType);
 
 }  // namespace trellisar

@@ -1,4 +1,5 @@
 #include "trellisar/Report.h"
+#include "trellisar/MadeFolders.h"
 
 #include <algorithm>
 #include <ctime>
@@ -10,7 +11,6 @@
 #include "receiver/Digest.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/Markup.h"
-#include "trellisar/SystemFolders.h"
 
 namespace trellisar {
 namespace {

@@ -1,4 +1,5 @@
 #include "trellisar/ReportsDialog.h"
+#include "trellisar/Messages.h"
 
 #include <utility>
 
@@ -8,7 +9,6 @@
 #include "host/Error.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/HelpTopics.h"
-#include "trellisar/MainWindowOperations.h"
 
 namespace trellisar {
 namespace {

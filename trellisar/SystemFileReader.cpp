@@ -9,8 +9,8 @@
 #include "trellisar/DefinitionJson.h"
 #include "trellisar/FileIO.h"
 #include "trellisar/Json.h"
-#include "trellisar/ProgramObjects.h"
 #include "trellisar/Provisioning.h"
+#include "trellisar/StepRules.h"
 #include "trellisar/SystemFile.h"
 #include "trellisar/SystemFileFormat.h"
 

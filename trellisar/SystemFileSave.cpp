@@ -5,10 +5,10 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "receiver/Digest.h"
-#include "trellisar/CompiledProgram.h"
 #include "trellisar/FileIO.h"
+#include "trellisar/ProgramFile.h"
 #include "trellisar/SystemFile.h"
-#include "trellisar/SystemFolders.h"
+#include "trellisar/SystemNames.h"
 
 namespace trellisar {
 namespace {

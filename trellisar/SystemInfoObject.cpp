@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "trellisar/CompiledProgram.h"
+#include "trellisar/SystemNames.h"
 
 namespace trellisar {
 namespace {

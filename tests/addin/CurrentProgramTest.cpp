@@ -9,6 +9,7 @@
 #include "host/Numbers.h"
 #include "tests/wizard/Wizard.h"
 #include "trellisar/CompiledProgram.h"
+#include "trellisar/ProgramFile.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "trellisar/FileIO.h"
+#include "trellisar/MadeFolders.h"
 
 #include "tests/support/Errors.h"
 #include "tests/support/Files.h"
-#include "trellisar/SystemFolders.h"
 
 #include <gtest/gtest.h>
 

@@ -10,7 +10,7 @@
 #include "trellisar/DeviceDialog.h"
 #include "trellisar/DeviceLibrary.h"
 #include "trellisar/FileIO.h"
-#include "trellisar/SystemFolders.h"
+#include "trellisar/SystemNames.h"
 
 namespace tests {
 namespace {

@@ -1,7 +1,7 @@
 #include "app/AddIn.h"
 
 #include "app/Environment.h"
-#include "trellisar/AddIns.h"
+#include "trellisar/window/AddIns.h"
 
 namespace app {
 namespace {

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "host/IAddInContract.h"
-#include "trellisar/Host.h"
+#include "trellisar/window/Host.h"
 
 namespace app {
 

@@ -9,8 +9,8 @@
 #include "app/RunEnded.h"
 #include "app/Shape.h"
 #include "app/StandardStreams.h"
+#include "base/FileIO.h"
 #include "host/Error.h"
-#include "trellisar/FileIO.h"
 
 namespace app {
 namespace {

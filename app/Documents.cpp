@@ -4,8 +4,8 @@
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
+#include "base/FileIO.h"
 #include "host/Error.h"
-#include "trellisar/FileIO.h"
 
 namespace app {
 

@@ -1,7 +1,7 @@
 #include "app/Environment.h"
 
 #include "forms/Paths.h"
-#include "trellisar/SystemFolders.h"
+#include "trellisar/settings/SystemFolders.h"
 
 namespace app {
 

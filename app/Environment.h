@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "trellisar/Preferences.h"
+#include "trellisar/settings/Preferences.h"
 
 namespace app {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "app/Fault.h"
-#include "trellisar/Json.h"
+#include "base/Json.h"
 
 namespace app {
 

@@ -7,11 +7,11 @@
 #include "app/MadeFolders.h"
 #include "app/RunEnded.h"
 #include "app/UnattendedDesktop.h"
+#include "base/Json.h"
 #include "forms/Root.h"
 #include "forms/User.h"
 #include "host/Document.h"
-#include "trellisar/Host.h"
-#include "trellisar/Json.h"
+#include "trellisar/window/Host.h"
 
 namespace app {
 

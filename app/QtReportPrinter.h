@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "trellisar/ReportPrinter.h"
+#include "trellisar/reports/ReportPrinter.h"
 
 namespace app {
 

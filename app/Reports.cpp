@@ -6,8 +6,8 @@
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
 #include "host/Error.h"
-#include "trellisar/Report.h"
-#include "trellisar/SystemFile.h"
+#include "trellisar/document/SystemFile.h"
+#include "trellisar/reports/Report.h"
 
 namespace app {
 

@@ -9,7 +9,7 @@
 #include "app/WizardRun.h"
 #include "forms/Application.h"
 #include "forms/Paths.h"
-#include "trellisar/Host.h"
+#include "trellisar/window/Host.h"
 
 namespace app {
 namespace {

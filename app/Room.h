@@ -7,7 +7,7 @@
 #include "app/Delivery.h"
 #include "app/MadeFolders.h"
 #include "app/RunReport.h"
-#include "trellisar/DeviceLibrary.h"
+#include "trellisar/library/DeviceLibrary.h"
 
 namespace app {
 

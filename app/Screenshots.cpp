@@ -24,13 +24,13 @@
 #include "forms/UserControl.h"
 #include "qt/QtDesktop.h"
 #include "receiver/Server.h"
-#include "trellisar/AddIns.h"
-#include "trellisar/CompileDialog.h"
-#include "trellisar/Document.h"
-#include "trellisar/MainForm.h"
-#include "trellisar/PasswordDialog.h"
-#include "trellisar/SystemFile.h"
-#include "trellisar/TransferDialog.h"
+#include "trellisar/dialogs/CompileDialog.h"
+#include "trellisar/communication/PasswordDialog.h"
+#include "trellisar/communication/TransferDialog.h"
+#include "trellisar/document/SystemFile.h"
+#include "trellisar/objects/Document.h"
+#include "trellisar/window/AddIns.h"
+#include "trellisar/window/MainForm.h"
 
 namespace app {
 namespace {

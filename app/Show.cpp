@@ -4,8 +4,8 @@
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
 #include "host/Error.h"
-#include "trellisar/Listing.h"
-#include "trellisar/SystemFile.h"
+#include "trellisar/compile/Listing.h"
+#include "trellisar/document/SystemFile.h"
 
 namespace app {
 

@@ -13,8 +13,8 @@
 #include "forms/Form.h"
 #include "forms/Paths.h"
 #include "qt/QtDesktop.h"
-#include "trellisar/AddIns.h"
-#include "trellisar/MainForm.h"
+#include "trellisar/window/AddIns.h"
+#include "trellisar/window/MainForm.h"
 
 namespace app {
 namespace {

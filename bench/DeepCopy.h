@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "trellisar/DocumentData.h"
+#include "trellisar/document/DocumentData.h"
 
 namespace bench {
 

@@ -1,12 +1,12 @@
 #include <stdexcept>
 
+#include "base/FileIO.h"
+#include "base/Json.h"
 #include "bench/Figure.h"
 #include "bench/Process.h"
 #include "bench/Room.h"
 #include "forms/Paths.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/Json.h"
-#include "trellisar/SystemFile.h"
+#include "trellisar/document/SystemFile.h"
 
 namespace bench {
 namespace {

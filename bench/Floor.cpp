@@ -2,7 +2,7 @@
 #include <exception>
 #include <filesystem>
 
-#include "trellisar/FileIO.h"
+#include "base/FileIO.h"
 
 /// The least that building a room takes as a process: it reads the template, the index of the
 /// library and a finished system, and writes that system's bytes to another place.

@@ -1,9 +1,9 @@
 #include "app/Environment.h"
+#include "base/FileIO.h"
+#include "base/Json.h"
 #include "bench/Figure.h"
 #include "bench/Process.h"
 #include "bench/Room.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/Json.h"
 
 namespace bench {
 namespace {

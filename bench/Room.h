@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "addin/IAddIn.h"
-#include "trellisar/Host.h"
+#include "trellisar/window/Host.h"
 
 namespace bench {
 

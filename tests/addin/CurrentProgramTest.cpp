@@ -8,8 +8,8 @@
 #include "forms/TextBox.h"
 #include "host/Numbers.h"
 #include "tests/wizard/Wizard.h"
-#include "trellisar/CompiledProgram.h"
-#include "trellisar/ProgramFile.h"
+#include "trellisar/compile/CompiledProgram.h"
+#include "trellisar/document/ProgramFile.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 
 #include "host/Numbers.h"
-#include "trellisar/DeviceLibrary.h"
-#include "trellisar/HelpTopics.h"
+#include "trellisar/dialogs/HelpTopics.h"
+#include "trellisar/library/DeviceLibrary.h"
 
 namespace {
 

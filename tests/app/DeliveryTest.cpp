@@ -4,7 +4,7 @@
 
 #include "tests/app/Program.h"
 #include "tests/receiver/Running.h"
-#include "trellisar/PanelProject.h"
+#include "trellisar/panels/PanelProject.h"
 
 namespace app {
 namespace {

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <set>
 
+#include "base/Json.h"
 #include "tests/app/Program.h"
-#include "trellisar/Json.h"
 
 namespace app {
 namespace {

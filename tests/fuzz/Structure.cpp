@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "trellisar/ArchiveHandle.h"
+#include "trellisar/archive/ArchiveHandle.h"
 
 namespace tests {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "trellisar/Json.h"
+#include "base/Json.h"
 
 namespace tests {
 

@@ -1,7 +1,7 @@
 #include "tests/generator/Program.h"
 
 #include "host/Numbers.h"
-#include "trellisar/Listing.h"
+#include "trellisar/compile/Listing.h"
 
 namespace tests {
 namespace {

@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "trellisar/DocumentData.h"
+#include "trellisar/document/DocumentData.h"
 
 namespace tests {
 

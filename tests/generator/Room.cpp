@@ -7,7 +7,7 @@
 #include "addin/modGlobals.h"
 #include "forms/Paths.h"
 #include "tests/support/Files.h"
-#include "trellisar/DeviceLibrary.h"
+#include "trellisar/library/DeviceLibrary.h"
 
 namespace tests {
 namespace {

@@ -10,8 +10,8 @@
 #include "generator/Generate.h"
 #include "host/Numbers.h"
 #include "tests/generator/Program.h"
-#include "trellisar/Host.h"
-#include "trellisar/ProgramCheck.h"
+#include "trellisar/compile/ProgramCheck.h"
+#include "trellisar/window/Host.h"
 
 namespace tests {
 

@@ -5,12 +5,12 @@
 #include <ctime>
 #include <functional>
 
+#include "base/FileIO.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/Archive.h"
-#include "trellisar/CompiledProgram.h"
-#include "trellisar/FileIO.h"
+#include "trellisar/archive/Archive.h"
+#include "trellisar/compile/CompiledProgram.h"
 
 namespace tests {
 namespace {

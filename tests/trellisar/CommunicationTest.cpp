@@ -5,7 +5,7 @@
 #include "host/Error.h"
 #include "tests/receiver/Running.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/CompiledProgram.h"
+#include "trellisar/compile/CompiledProgram.h"
 
 namespace tests {
 namespace {

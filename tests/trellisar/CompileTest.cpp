@@ -2,15 +2,15 @@
 #include <map>
 #include <set>
 
+#include "base/FileIO.h"
+#include "base/Json.h"
 #include "forms/ListBox.h"
 #include "forms/ProgressBar.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/CompiledProgram.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/Json.h"
-#include "trellisar/ProgramCheck.h"
-#include "trellisar/Provisioning.h"
+#include "trellisar/compile/CompiledProgram.h"
+#include "trellisar/compile/ProgramCheck.h"
+#include "trellisar/document/Provisioning.h"
 
 namespace tests {
 namespace {

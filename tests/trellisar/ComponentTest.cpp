@@ -7,7 +7,7 @@
 #include "forms/Paths.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/AddIns.h"
+#include "trellisar/window/AddIns.h"
 
 namespace tests {
 namespace {

@@ -1,8 +1,8 @@
+#include "base/FileIO.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/DeviceLibrary.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/Pictures.h"
+#include "trellisar/library/DeviceLibrary.h"
+#include "trellisar/window/Pictures.h"
 
 namespace tests {
 namespace {

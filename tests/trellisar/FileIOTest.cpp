@@ -1,5 +1,5 @@
-#include "trellisar/FileIO.h"
-#include "trellisar/MadeFolders.h"
+#include "base/FileIO.h"
+#include "base/MadeFolders.h"
 
 #include "tests/support/Errors.h"
 #include "tests/support/Files.h"

@@ -1,4 +1,4 @@
-#include "trellisar/MainForm.h"
+#include "trellisar/window/MainForm.h"
 
 #include "forms/Paths.h"
 #include "tests/trellisar/World.h"

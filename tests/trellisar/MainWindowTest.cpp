@@ -1,16 +1,16 @@
 #include <cstdlib>
 
+#include "base/FileIO.h"
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"
 #include "forms/Paths.h"
 #include "forms/TextBox.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/CompiledProgram.h"
-#include "trellisar/DeviceDialog.h"
-#include "trellisar/DeviceLibrary.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/SystemNames.h"
+#include "trellisar/compile/CompiledProgram.h"
+#include "trellisar/dialogs/DeviceDialog.h"
+#include "trellisar/document/SystemNames.h"
+#include "trellisar/library/DeviceLibrary.h"
 
 namespace tests {
 namespace {

@@ -1,11 +1,11 @@
 #include <map>
 
+#include "base/FileIO.h"
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "host/ErrorLog.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/PanelState.h"
+#include "trellisar/panels/PanelState.h"
 
 namespace tests {
 namespace {

@@ -1,7 +1,7 @@
-#include "trellisar/Preferences.h"
+#include "trellisar/settings/Preferences.h"
 
+#include "base/FileIO.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/FileIO.h"
 
 namespace tests {
 namespace {

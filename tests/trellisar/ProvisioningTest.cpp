@@ -1,4 +1,4 @@
-#include "trellisar/Provisioning.h"
+#include "trellisar/document/Provisioning.h"
 
 #include "tests/trellisar/World.h"
 

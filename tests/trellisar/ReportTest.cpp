@@ -1,12 +1,12 @@
 #include <algorithm>
 
+#include "base/FileIO.h"
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/Report.h"
+#include "trellisar/reports/Report.h"
 
 namespace tests {
 namespace {

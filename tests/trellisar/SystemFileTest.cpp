@@ -5,11 +5,11 @@
 
 #include <array>
 
+#include "base/FileIO.h"
+#include "base/Json.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/Json.h"
 
 namespace tests {
 namespace {

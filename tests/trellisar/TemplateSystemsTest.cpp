@@ -1,8 +1,8 @@
 #include <cstdlib>
 
+#include "base/FileIO.h"
 #include "tests/trellisar/World.h"
-#include "trellisar/FileIO.h"
-#include "trellisar/Provisioning.h"
+#include "trellisar/document/Provisioning.h"
 
 /// The template and the example system are made here. After a change of the system file's form or
 /// of the library's receiver, run this test once with TRELLISAR_RENEW=1 in the environment and look

@@ -2,7 +2,7 @@
 
 #include "forms/Components.h"
 #include "forms/Paths.h"
-#include "trellisar/DeviceLibrary.h"
+#include "trellisar/library/DeviceLibrary.h"
 
 namespace tests {
 

@@ -11,9 +11,9 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Files.h"
 #include "tests/support/ScriptedDesktop.h"
-#include "trellisar/Host.h"
-#include "trellisar/Listing.h"
-#include "trellisar/SystemFile.h"
+#include "trellisar/compile/Listing.h"
+#include "trellisar/document/SystemFile.h"
+#include "trellisar/window/Host.h"
 
 namespace tests {
 

@@ -1,4 +1,4 @@
-#include "trellisar/MainForm.h"
+#include "trellisar/window/MainForm.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include "forms/Application.h"
 #include "forms/Paths.h"
 #include "qt/QtDesktop.h"
-#include "trellisar/AddIns.h"
+#include "trellisar/window/AddIns.h"
 
 namespace {
 

@@ -14,8 +14,8 @@
 #include "forms/Application.h"
 #include "forms/Paths.h"
 #include "qt/QtDesktop.h"
-#include "trellisar/Listing.h"
-#include "trellisar/SystemFile.h"
+#include "trellisar/compile/Listing.h"
+#include "trellisar/document/SystemFile.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "forms/TabStrip.h"
 #include "forms/TextBox.h"
 #include "host/iTab.h"
-#include "trellisar/CompiledProgram.h"
+#include "trellisar/compile/CompiledProgram.h"
 #include "vmAOR/EntryPoints.h"
 
 namespace tests {

@@ -11,7 +11,7 @@
 #include "forms/UserControl.h"
 #include "tests/support/Files.h"
 #include "tests/support/ScriptedDesktop.h"
-#include "trellisar/Host.h"
+#include "trellisar/window/Host.h"
 
 namespace tests {
 

@@ -1,0 +1,109 @@
+#include "trellisar/compile/CompiledProgram.h"
+
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "base/FileIO.h"
+#include "forms/Paths.h"
+#include "host/Error.h"
+#include "receiver/Digest.h"
+#include "trellisar/compile/ProgramCheck.h"
+#include "trellisar/document/ProgramFile.h"
+#include "trellisar/document/SystemFile.h"
+
+namespace trellisar {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* programExtension = ".tsp";
+constexpr std::string_view headStart = "trellisar-program 1 ";
+
+/// Puts a file back as it was unless it is told to leave it.
+class FileKeeper {
+ public:
+  explicit FileKeeper(fs::path file) : file_(std::move(file)) {
+    std::error_code error;
+    if (fs::exists(file_, error)) old_ = readFile(file_);
+  }
+  ~FileKeeper() {
+    if (!isKept_) return;
+    try {
+      if (old_) {
+        replaceFile(file_, *old_);
+      } else {
+        fs::remove(file_);
+      }
+    } catch (const std::exception&) {
+      // The error that led here is the one to be told.
+    }
+  }
+  FileKeeper(const FileKeeper&) = delete;
+  FileKeeper& operator=(const FileKeeper&) = delete;
+
+  void leave() { isKept_ = false; }
+
+ private:
+  fs::path file_;
+  std::optional<std::string> old_;
+  bool isKept_ = true;
+};
+
+}  // namespace
+
+std::string withProgramHead(const std::string& body) {
+  return std::string(headStart) + receiver::Digest::of(body) + " " + std::to_string(body.size()) +
+         "\n" + body;
+}
+
+bool isWholeProgram(const std::string& program) {
+  const auto end = program.find('\n');
+  return end != std::string::npos && program == withProgramHead(program.substr(end + 1));
+}
+
+void storeCompiledProgram(DocumentData& document, const std::string& program) {
+  if (document.ownFile.empty()) {
+    throw host::Error(host::errFile,
+                      "The system has no file yet. Save it, then build its program.");
+  }
+  const std::string name = document.ownFile.stem().string() + programExtension;
+  const fs::path file = document.ownFile.parent_path() / name;
+  FileKeeper keeper(file);
+  replaceFile(file, program);
+  const std::string oldName = std::exchange(document.compiledProgram, name);
+  const bool wasCurrent = std::exchange(document.programIsCurrent, true);
+  try {
+    saveSystemFile(document, forms::fromMachinePath(document.ownFile));
+  } catch (const host::Error&) {
+    document.compiledProgram = oldName;
+    document.programIsCurrent = wasCurrent;
+    throw;
+  }
+  keeper.leave();
+  document.isModified = false;
+}
+
+std::string storedProgram(const DocumentData& document) {
+  const fs::path file = storedProgramFile(document);
+  if (file.empty()) {
+    throw host::Error(host::errFile, "The system \"" + document.name +
+                                         "\" has no compiled program yet. Build the system first.");
+  }
+  std::string program = readFile(file);
+  if (isWholeProgram(program)) return program;
+  throw host::Error(host::errBadFile, "The compiled program \"" + file.string() +
+                                          "\" is damaged. Save and build the system again.");
+}
+
+bool isProgramCurrent(const DocumentData& document) {
+  if (!document.programIsCurrent || document.compiledProgram.empty()) return false;
+  if (!programErrors(document).empty()) return false;
+  try {
+    return readFile(storedProgramFile(document)) == compileProgram(document);
+  } catch (const host::Error&) {
+    return false;  // building it again tells what is wrong
+  }
+}
+
+}  // namespace trellisar

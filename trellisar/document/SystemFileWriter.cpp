@@ -1,0 +1,274 @@
+#include <algorithm>
+#include <utility>
+
+#include "base/Json.h"
+#include "forms/Numbers.h"
+#include "host/Numbers.h"
+#include "trellisar/document/SystemFile.h"
+#include "trellisar/document/SystemFileFormat.h"
+#include "trellisar/library/DefinitionJson.h"
+
+namespace trellisar {
+namespace {
+
+using Kind = DeviceData::Kind;
+
+/// The definitions of a document, each once, in the order of their first use.
+class Definitions {
+ public:
+  std::size_t place(const DefinitionPtr& definition) {
+    const auto same = [&](const DefinitionPtr& other) {
+      return other == definition || *other == *definition;
+    };
+    const auto found = std::find_if(list_.begin(), list_.end(), same);
+    const auto place = static_cast<std::size_t>(found - list_.begin());
+    if (found == list_.end()) list_.push_back(definition);
+    return place;
+  }
+
+  Json json() const {
+    Json list = Json::array();
+    for (const DefinitionPtr& definition : list_) {
+      Json item = emptyObject(3);
+      item["form"] = formName(definition->form);
+      if (definition->form != Definition::Form::module) item["maker"] = definition->maker;
+      item["definition"] = definitionJson(*definition);
+      list.push_back(std::move(item));
+    }
+    return list;
+  }
+
+ private:
+  std::vector<DefinitionPtr> list_;
+};
+
+class Writer {
+ public:
+  explicit Writer(const DocumentData& document) : document_(document) {}
+
+  Json write() {
+    Json devices = list(document_.devices);
+    Json panels = list(document_.panels);
+    Json json = emptyObject(16);
+    json["format"] = systemFileFormat;
+    json["version"] = systemFileVersion;
+    json["name"] = document_.name;
+    json["application"] = document_.application;
+    json["program_is_current"] = document_.programIsCurrent;
+    json["compiled_program"] = document_.compiledProgram;
+    json["settings"] = Json::object();
+    for (const auto& [title, text] : document_.settings) json["settings"][title] = text;
+    json["next_id"] = document_.nextId;
+    json["next_handle"] = document_.nextHandle;
+    json["control_system"] = document_.controlSystem;
+    json["definitions"] = definitions_.json();
+    json["devices"] = std::move(devices);
+    json["touch_panels"] = std::move(panels);
+    json["sensor_handles"] = sensorHandles();
+    json["bill_of_materials"] = bill();
+    json["presets"] = presets();
+    return json;
+  }
+
+ private:
+  Json list(const std::vector<DevicePtr>& devices) {
+    Json items = Json::array();
+    for (const DevicePtr& device : devices) {
+      items.push_back(device->kind == Kind::panel ? panel(*device) : this->device(*device));
+    }
+    return items;
+  }
+
+  /// An id that is not in the document is stored as none.
+  std::int16_t known(std::int16_t id) const { return document_.find(id) ? id : std::int16_t{0}; }
+
+  Json device(const DeviceData& device) {
+    Json json = emptyObject(21);
+    json["id"] = device.id;
+    json["name"] = device.name;
+    json["short_name"] = device.shortName;
+    json["parent"] = device.parent;
+    json["definition"] = definitions_.place(device.definition);
+    json["library_id"] = device.libraryId;
+    json["handle"] = device.handle;
+    json["port"] = device.port;
+    json["address"] = device.address;
+    json["label"] = device.label;
+    json["description"] = device.description;
+    json["maker"] = device.maker;
+    json["shown"] = device.shown;
+    json["power_control"] = device.powerControl;
+    json["real_time_page"] = device.realTimePage;
+    json["sensor_handle"] = device.sensorHandle;
+    json["sensor_format"] = device.sensorFormat;
+    json["standard_commands"] = standardCommands(device);
+    json["properties"] = Json::object();
+    for (const auto& [name, value] : device.properties) json["properties"][name] = value;
+    json["slots"] = slots(device);
+    json["signals"] = signals(device);
+    if (device.kind == Kind::device) json["modules"] = list(device.modules);
+    return json;
+  }
+
+  Json panel(const DeviceData& panel) {
+    Json json = emptyObject(9);
+    json["id"] = panel.id;
+    json["name"] = panel.name;
+    json["parent"] = panel.parent;
+    json["definition"] = definitions_.place(panel.definition);
+    json["handle"] = panel.handle;
+    json["label"] = panel.label;
+    json["connect_slot"] = panel.connectSlot;
+    json["project_built"] = panel.projectBuilt;
+    json["signals"] = signals(panel);
+    return json;
+  }
+
+  static Json standardCommands(const DeviceData& device) {
+    Json list = Json::array();
+    for (const auto& command : device.standardCommands) {
+      Json item = emptyObject(3);
+      item["id"] = command->get_StandardID();
+      item["command"] = command->get_CommandName();
+      item["library_id"] = command->get_LibraryID();
+      list.push_back(std::move(item));
+    }
+    return list;
+  }
+
+  Json slots(const DeviceData& device) const {
+    Json list = Json::array();
+    for (const auto& slot : device.slots) {
+      list.push_back(
+          {{"name", slot->name}, {"device", known(slot->device)}, {"command", slot->command}});
+    }
+    return list;
+  }
+
+  static bool isBlank(const SignalData& signal) {
+    const auto hasSteps = [](const auto& event) { return event && !event->steps.empty(); };
+    return std::none_of(signal.events.begin(), signal.events.end(), hasSteps) &&
+           signal.enabledEvents == 0 && signal.sourceType == 0 && signal.sourceDevice == 0 &&
+           signal.sourceSignal.empty();
+  }
+
+  Json signal(const SignalData& signal) const {
+    Json json = emptyObject(9);
+    json["output"] = signal.row.output;
+    json["input"] = signal.row.input;
+    json["type"] = signal.row.type;
+    json["options"] = signal.row.hasOptions;
+    json["enabled_events"] = signal.enabledEvents;
+    json["source_type"] = signal.sourceType;
+    json["source_device"] = known(signal.sourceDevice);
+    json["source_signal"] = signal.sourceSignal;
+    json["events"] = Json::array();
+    for (const auto& event : signal.events) {
+      json["events"].push_back(event ? steps(*event) : Json::array());
+    }
+    return json;
+  }
+
+  /// In the order of the signal table, those first that the driver no longer has: the order in
+  /// which they were asked for is chance.
+  Json signals(const DeviceData& device) const {
+    std::vector<SignalRow> table = device.definition->signalTable();
+    std::vector<std::pair<std::ptrdiff_t, const SignalData*>> stored;
+    for (const auto& signal : device.signals) {
+      if (isBlank(*signal)) continue;
+      const auto row = std::find(table.begin(), table.end(), signal->row);
+      stored.emplace_back(row == table.end() ? -1 : row - table.begin(), signal.get());
+    }
+    std::stable_sort(stored.begin(), stored.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    Json list = Json::array();
+    for (const auto& [row, data] : stored) list.push_back(signal(*data));
+    return list;
+  }
+
+  Json condition(const host::StepCondition& condition) const {
+    Json json = emptyObject(6);
+    json["device"] = known(condition.get_DeviceID());
+    json["type"] = condition.get_ConditionType();
+    json["signal"] = condition.get_SignalName();
+    json["state"] = condition.get_StateName();
+    json["compare"] = condition.get_Compare();
+    json["value"] = condition.get_Value();
+    return json;
+  }
+
+  Json step(const StepData& step) const {
+    Json json = emptyObject(6);
+    json["kind"] = step.kind;
+    if (step.kind == host::stepCallPreset) {
+      json["preset"] = document_.findPreset(step.target)->name;
+    } else if (step.kind == host::stepConditional) {
+      if (step.condition) json["when"] = condition(*step.condition);
+      json["steps"] = steps(*step.branch);
+    } else {
+      json["target_type"] = step.targetType;
+      json["target"] = step.target;
+      json["signal"] = step.signal;
+      if (!step.value.empty()) json["value"] = step.value;
+      if (step.valueFormat != 0) json["value_format"] = step.valueFormat;
+    }
+    return json;
+  }
+
+  /// A step that was never initialised says nothing and is left out.
+  Json steps(const PresetData& preset) const {
+    Json list = Json::array();
+    for (const auto& data : preset.steps) {
+      if (data->kind != 0) list.push_back(step(*data));
+    }
+    return list;
+  }
+
+  Json sensorHandles() const {
+    Json list = Json::array();
+    for (const auto& [model, number, handle] : document_.sensorHandles) {
+      list.push_back({{"model", model}, {"number", number}, {"handle", handle}});
+    }
+    return list;
+  }
+
+  static Json billLine(const BillLine& line) {
+    return {{"part", line.part}, {"quantity", line.quantity}};
+  }
+
+  Json bill() const {
+    Json list = Json::array();
+    for (const auto& entry : document_.bill) {
+      Json item = emptyObject(3);
+      item["key"] = entry->key;
+      item["main"] = billLine(entry->main);
+      item["parts"] = Json::array();
+      for (const BillLine& line : entry->parts) item["parts"].push_back(billLine(line));
+      list.push_back(std::move(item));
+    }
+    return list;
+  }
+
+  Json presets() const {
+    Json list = Json::array();
+    for (const auto& preset : document_.presets) {
+      Json item = emptyObject(3);
+      item["name"] = preset->name;
+      item["comment"] = preset->comment;
+      item["steps"] = steps(*preset);
+      list.push_back(std::move(item));
+    }
+    return list;
+  }
+
+  const DocumentData& document_;
+  Definitions definitions_;
+};
+
+}  // namespace
+
+std::string systemFileText(const DocumentData& document) {
+  return jsonText(Writer(document).write());
+}
+
+}  // namespace trellisar

@@ -9,19 +9,19 @@
 #include "app/RunEnded.h"
 #include "app/Shape.h"
 #include "app/StandardStreams.h"
+#include "base/Error.h"
 #include "base/FileIO.h"
-#include "host/Error.h"
 
 namespace app {
 namespace {
 
-using trellisar::Json;
+using base::Json;
 
-constexpr trellisar::JsonLimits limits{.bytes = 1U << 20U, .depth = 10, .keysOfObject = 100};
+constexpr base::JsonLimits limits{.bytes = 1U << 20U, .depth = 10, .keysOfObject = 100};
 
 /// One byte more than is allowed is enough to see that there is too much.
 std::string contentOf(const std::filesystem::path& file) {
-  return file == standardInput ? readInput(limits.bytes + 1) : trellisar::readFile(file);
+  return file == standardInput ? readInput(limits.bytes + 1) : base::readFile(file);
 }
 
 }  // namespace
@@ -39,8 +39,8 @@ Answers::Answers(std::string text) : file_(std::move(text), limits) {
 Answers Answers::fromFile(const std::filesystem::path& file) {
   try {
     return Answers(contentOf(file));
-  } catch (const host::Error& error) {
-    throw RunEnded(exitStatus::wrongInput, error.description());
+  } catch (const base::Error& error) {
+    throw RunEnded(exitStatus::wrongInput, error.what());
   }
 }
 

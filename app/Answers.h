@@ -25,7 +25,7 @@ class Answers {
 
   /// The value at a path such as "display.relay.on_delay"; null when it was left out, or holds
   /// null, which on a new system is the same.
-  const trellisar::Json* find(std::string_view path) const;
+  const base::Json* find(std::string_view path) const;
 
   /// The parent folder of the system in the place of the file's own.
   void setFolder(const std::filesystem::path& folder);

@@ -45,7 +45,7 @@ std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
 }
 
 std::string textAt(const Answers& answers, const char* path) {
-  const trellisar::Json* value = answers.find(path);
+  const base::Json* value = answers.find(path);
   return value ? value->get<std::string>() : std::string();
 }
 

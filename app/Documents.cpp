@@ -4,8 +4,8 @@
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
+#include "base/Error.h"
 #include "base/FileIO.h"
-#include "host/Error.h"
 
 namespace app {
 
@@ -22,12 +22,12 @@ int writeDocuments(const DocumentsOptions& options) {
     for (const auto& [name, text] : documents) {
       const fs::path file = options.out / name;
       fs::create_directories(file.parent_path());
-      trellisar::replaceFile(file, text);
+      base::replaceFile(file, text);
       print(file.string() + "\n");
     }
     return exitStatus::ok;
-  } catch (const host::Error& error) {
-    reportLine(error.description());
+  } catch (const base::Error& error) {
+    reportLine(error.what());
     return exitStatus::refused;
   }
 }

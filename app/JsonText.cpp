@@ -9,8 +9,8 @@
 namespace app {
 namespace {
 
-using trellisar::Json;
-using trellisar::JsonLimits;
+using base::Json;
+using base::JsonLimits;
 
 /// Goes through a text and leaves word of how far it has come: the parser does not tell where it
 /// is.

@@ -15,9 +15,9 @@ namespace app {
 /// comment and a comma too many are told and passed over, so that what stands behind them is read
 /// too; a key that stands twice is told and counts with its last value.
 struct JsonText {
-  JsonText(std::string text, const trellisar::JsonLimits& limits);
+  JsonText(std::string text, const base::JsonLimits& limits);
 
-  trellisar::Json value;  // discarded where the text can't be read
+  base::Json value;  // discarded where the text can't be read
   std::vector<Fault> faults;
 
   /// The line of the value at a path such as "transmitters[1].label", or of the nearest one around

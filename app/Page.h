@@ -18,7 +18,7 @@ namespace app {
 /// One answer on its way into the wizard: its place in the answers file, and its value.
 struct Answer {
   std::string path;
-  const trellisar::Json& value;
+  const base::Json& value;
 
   std::string text() const { return value.get<std::string>(); }
 };

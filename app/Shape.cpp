@@ -9,7 +9,7 @@
 namespace app {
 namespace {
 
-using trellisar::Json;
+using base::Json;
 
 Shape shapeOf(Shape::Kind kind, std::int64_t minimum = 0, std::int64_t maximum = 0) {
   Shape shape;

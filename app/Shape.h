@@ -61,7 +61,7 @@ Shape anything();
 /// fault, which names the place and what is allowed there:
 ///
 ///     lockout.contact: "opened" is none of "unused", "power off", "continue"
-void check(const trellisar::Json& value, const Shape& shape, std::vector<Fault>& faults,
+void check(const base::Json& value, const Shape& shape, std::vector<Fault>& faults,
            const std::string& path = {});
 
 /// "a whole number from 0 to 999", as it ends the sentence "must be".

@@ -12,7 +12,7 @@ namespace app {
 int show(const ShowOptions& options) {
   try {
     const auto document = trellisar::readSystemFile(options.systemFile, nullptr);
-    print(options.asJson ? trellisar::jsonText(trellisar::listing(*document))
+    print(options.asJson ? base::jsonText(trellisar::listing(*document))
                          : trellisar::readableText(*document));
     return exitStatus::ok;
   } catch (const host::Error& error) {

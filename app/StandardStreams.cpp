@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "host/Error.h"
+#include "base/Error.h"
 
 namespace app {
 namespace {
@@ -48,7 +48,7 @@ std::string readInput(std::size_t most) {
   while (length < most) {
     const ssize_t got = read(STDIN_FILENO, all.data() + length, most - length);
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) throw host::Error(host::errFile, "it can't be read: " + reason(errno));
+    if (got < 0) throw base::FileError("it can't be read: " + reason(errno));
     if (got == 0) break;
     length += static_cast<std::size_t>(got);
   }

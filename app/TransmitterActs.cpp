@@ -21,7 +21,7 @@ forms::ListView& rowsOf(const Page& page) {
 /// A key of the transmitter in the row; nothing when it was left out.
 std::optional<Answer> answerAt(const Answer& transmitters, std::size_t row,
                                const std::string& key) {
-  const trellisar::Json& transmitter = transmitters.value[row];
+  const base::Json& transmitter = transmitters.value[row];
   const auto member = transmitter.find(key);
   if (member == transmitter.end()) return std::nullopt;
   return Answer{transmitters.path + "[" + std::to_string(row) + "]." + key, *member};

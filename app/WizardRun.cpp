@@ -63,7 +63,7 @@ Page WizardRun::currentPage(forms::Form& wizard) const {
 
 void WizardRun::answer(const Page& page, const StepActs& step) const {
   for (const Act& act : step.acts) {
-    const trellisar::Json* value = answers_.find(act.answer);
+    const base::Json* value = answers_.find(act.answer);
     if (!value) continue;
     const Answer given{act.answer, *value};
     act.perform(page, given);
@@ -86,7 +86,7 @@ void WizardRun::next(forms::Form& wizard) const {
 /// left.
 void WizardRun::checkHeld(const Page& page, const StepActs& step) const {
   for (const Act& act : step.acts) {
-    const trellisar::Json* value = answers_.find(act.answer);
+    const base::Json* value = answers_.find(act.answer);
     if (!value) continue;
     const Answer given{act.answer, *value};
     const bool isInSystem = !act.isInSystem || act.isInSystem(page, given);

@@ -1,43 +1,62 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
-namespace trellisar {
+namespace base {
 
-/// The whole content of a file. Raises host::Error errFile with the file and the reason.
-std::string readFile(const std::filesystem::path& file);
+/// The whole content of a file. Raises FileError with the file and the reason, also for one of more
+/// than `most` bytes.
+std::string readFile(const std::filesystem::path& file, std::uintmax_t most = UINTMAX_MAX);
 
 /// Replaces a file's content: writes a file beside it, flushes it to the disk and renames it, so
 /// that at every moment the file holds the old or the new content, whole. A link stays a link.
-/// Raises host::Error errFile with the file and the reason, and then the old content is untouched;
-/// a file that nobody may write is refused.
+/// Raises FileError with the file and the reason, and then the old content is untouched; a file
+/// that nobody may write is refused.
 void replaceFile(const std::filesystem::path& file, std::string_view content);
 
 /// As above for a file that is not there yet. False, and nothing is changed, when one is: of two
 /// programs that make the same file at once, one gets false.
 [[nodiscard]] bool createFile(const std::filesystem::path& file, std::string_view content);
 
+/// Removes a file, if it is there. Raises FileError with the file and the reason.
+void removeFile(const std::filesystem::path& file);
+
 /// Whether the two paths lead to one file, which need not be there.
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
 
-/// While it lives, no other program has a lock on the folder; who wants one waits. Without the
-/// folder there is none to wait for.
+/// While it lives, no other program has a lock on the folder, also past a crash of its process.
+/// Without the folder there is none to wait for.
 class FolderLock {
  public:
-  explicit FolderLock(const std::filesystem::path& folder);
+  enum class IfTaken { wait, giveUp };
+
+  explicit FolderLock(const std::filesystem::path& folder, IfTaken ifTaken = IfTaken::wait);
   ~FolderLock();
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
+  /// False when another program has the lock and was not waited for.
+  bool isHeld() const { return isHeld_; }
+
  private:
   int descriptor_;
+  bool isHeld_ = true;
 };
 
 /// Why a file or folder can't be made or written, for the number of a failed system call: "the disk
 /// is full. Make room or choose another folder."
 std::string systemReason(int errorNumber);
 
-}  // namespace trellisar
+/// Raises FileError that says so of a file. The system says the same of a folder that is missing
+/// and of one that takes no files.
+[[noreturn]] void failToWrite(const std::filesystem::path& file, int errorNumber);
+
+/// So that the disk has the names of the folder's files too. A file system that can't do it is no
+/// failure: each file is whole under either name.
+void flushFolder(const std::filesystem::path& folder);
+
+}  // namespace base

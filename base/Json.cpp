@@ -4,11 +4,11 @@
 #include <cstring>
 #include <utility>
 
-namespace trellisar {
+namespace base {
 namespace {
 
 [[noreturn]] void refuse(const std::string& file, const std::string& what) {
-  throw host::Error(host::errBadFile, file + ": " + what);
+  throw ContentError(file + ": " + what);
 }
 
 constexpr std::size_t usualKeys = 8;
@@ -199,4 +199,4 @@ void JsonReader::fail(const std::string& what) const {
   refuse(*file_, where.empty() ? what : where + ": " + what);
 }
 
-}  // namespace trellisar
+}  // namespace base

@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "host/Error.h"
+#include "base/Error.h"
 
-namespace trellisar {
+namespace base {
 
 /// JSON with its keys in the order in which they stand.
 using Json = nlohmann::ordered_json;
@@ -24,7 +24,7 @@ struct JsonLimits {
 };
 
 /// Parses a whole text. Duplicate keys and what the limits do not allow are refused.
-/// Raises host::Error errBadFile, whose text begins with `file` and says what is wrong and where.
+/// Raises ContentError, whose text begins with `file` and says what is wrong and where.
 Json parseJson(std::string_view text, const std::string& file, const JsonLimits& limits = {});
 
 /// An object without keys and with room for some: keys that move to a larger place are copied.
@@ -33,7 +33,7 @@ Json emptyObject(std::size_t keys);
 /// The text of a file: two blanks for each level, a line feed at the end.
 std::string jsonText(const Json& json);
 
-/// A value being read, which knows its place in the file. Errors are host::Error errBadFile:
+/// A value being read, which knows its place in the file. Errors are ContentError:
 /// `library/bravonne.json: devices[3].name: is missing`.
 ///
 /// An object is read key by key and then closed with `finish`, which refuses the keys that nobody
@@ -68,6 +68,7 @@ class JsonReader {
     }
   }
 
+  bool isNull() const { return value_.is_null(); }
   std::string text() const;
   bool boolean() const;
   std::int64_t integer(std::int64_t minimum, std::int64_t maximum) const;
@@ -106,4 +107,4 @@ class JsonReader {
   std::size_t expected_ = 0;  // where the next key probably stands
 };
 
-}  // namespace trellisar
+}  // namespace base

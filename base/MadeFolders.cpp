@@ -3,10 +3,10 @@
 #include <cerrno>
 #include <system_error>
 
+#include "base/Error.h"
 #include "base/FileIO.h"
-#include "host/Error.h"
 
-namespace trellisar {
+namespace base {
 
 namespace fs = std::filesystem;
 
@@ -21,8 +21,7 @@ MadeFolders::MadeFolders(const fs::path& folder) {
     const bool isFile = !error || error == std::errc::file_exists;
     const std::string reason = systemReason(isFile ? ENOTDIR : error.value());
     removeMade();
-    throw host::Error(host::errFile,
-                      "Can't make the folder \"" + folder.string() + "\": " + reason);
+    throw FileError("Can't make the folder \"" + folder.string() + "\": " + reason);
   }
 }
 
@@ -36,4 +35,4 @@ void MadeFolders::removeMade() {
   }
 }
 
-}  // namespace trellisar
+}  // namespace base

@@ -3,13 +3,13 @@
 #include <filesystem>
 #include <vector>
 
-namespace trellisar {
+namespace base {
 
 /// Makes a folder and those above it. Without `keep` they are removed again at the end, as far as
 /// they are empty.
 class MadeFolders {
  public:
-  /// Raises host::Error errFile with the folder and the reason.
+  /// Raises FileError with the folder and the reason.
   explicit MadeFolders(const std::filesystem::path& folder);
   ~MadeFolders();
   MadeFolders(const MadeFolders&) = delete;
@@ -23,4 +23,4 @@ class MadeFolders {
   std::vector<std::filesystem::path> made_;  // the innermost last
 };
 
-}  // namespace trellisar
+}  // namespace base

@@ -12,13 +12,13 @@ namespace bench {
 namespace {
 
 namespace fs = std::filesystem;
-using trellisar::Json;
+using base::Json;
 
 /// A full room's file in a folder that lives as long as the sides that use it.
 struct Saved {
   TemporaryFolder folder;
   fs::path file = buildFullRoom(folder.path());
-  std::string text = trellisar::readFile(file);
+  std::string text = base::readFile(file);
 };
 
 std::vector<Side> opening() {
@@ -30,7 +30,7 @@ std::vector<Side> opening() {
     return costOf([&] { opened = trellisar::readSystemFile(saved->file, library); });
   };
   const auto parse = [saved] {
-    return costOf([&] { Json json = Json::parse(trellisar::readFile(saved->file)); });
+    return costOf([&] { Json json = Json::parse(base::readFile(saved->file)); });
   };
   return {{"opening a system", open}, {"parsing its file with the library alone", parse}};
 }
@@ -47,7 +47,7 @@ std::vector<Side> saving() {
         [&] { trellisar::saveSystemFile(*document, forms::fromMachinePath(saved->file)); });
   };
   const auto write = [saved, json] {
-    return costOf([&] { trellisar::replaceFile(saved->file, json->dump(2) + "\n"); });
+    return costOf([&] { base::replaceFile(saved->file, json->dump(2) + "\n"); });
   };
   return {{"saving a system", save}, {"writing its JSON with the library alone", write}};
 }

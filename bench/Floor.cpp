@@ -12,10 +12,10 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    const auto read = trellisar::readFile(argv[1]).size() + trellisar::readFile(argv[2]).size();
+    const auto read = base::readFile(argv[1]).size() + base::readFile(argv[2]).size();
     const std::filesystem::path written = argv[4];
     std::filesystem::create_directories(written.parent_path());
-    trellisar::replaceFile(written, trellisar::readFile(argv[3]));
+    base::replaceFile(written, base::readFile(argv[3]));
     return read > 0 ? 0 : 1;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

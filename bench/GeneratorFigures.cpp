@@ -13,7 +13,7 @@ namespace bench {
 namespace {
 
 namespace fs = std::filesystem;
-using trellisar::Json;
+using base::Json;
 
 /// A room that has been generated once already.
 std::shared_ptr<Room> generatedRoom(const fs::path& system) {
@@ -53,7 +53,7 @@ constexpr int ownPresets = 10'000;
 
 /// The user's own presets behind the room's, each with a few steps for the receiver.
 fs::path withOwnPresets(const fs::path& system, const fs::path& folder) {
-  Json json = Json::parse(trellisar::readFile(system));
+  Json json = Json::parse(base::readFile(system));
   Json step;
   step["kind"] = host::stepDigital;
   step["target_type"] = host::targetDevice;
@@ -65,7 +65,7 @@ fs::path withOwnPresets(const fs::path& system, const fs::path& folder) {
                                {"steps", Json::array({step, step, step})}});
   }
   const fs::path file = folder / "With Own Presets.tsy";
-  trellisar::replaceFile(file, json.dump());
+  base::replaceFile(file, json.dump());
   return file;
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using Command = std::vector<std::string>;
-using trellisar::Json;
+using base::Json;
 
 /// What the process figures read and write, as long as one of their sides lives.
 using Place = std::shared_ptr<const TemporaryFolder>;
@@ -39,13 +39,13 @@ std::vector<Side> againstFloor() {
 
 /// Answers files for the full room under names of their own.
 std::vector<std::string> writeAnswers(const fs::path& folder, int count) {
-  Json answers = Json::parse(trellisar::readFile(fullAnswers()));
+  Json answers = Json::parse(base::readFile(fullAnswers()));
   fs::create_directories(folder);
   std::vector<std::string> files;
   for (int i = 1; i <= count; ++i) {
     answers["name"] = "Room " + std::to_string(i);
     const fs::path file = folder / (std::to_string(i) + ".json");
-    trellisar::replaceFile(file, answers.dump());
+    base::replaceFile(file, answers.dump());
     files.push_back(file.string());
   }
   return files;

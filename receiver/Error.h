@@ -1,14 +1,10 @@
 #pragma once
 
-#include <stdexcept>
+#include "base/Error.h"
 
 namespace receiver {
 
-/// What this directory raises. The text is a sentence for a user: what happened, to what, and where
-/// it helps what to do.
-class Error : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+/// What this directory raises.
+using base::Error;
 
 }  // namespace receiver

@@ -1,93 +1,35 @@
 #include "receiver/Messages.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
-#include <set>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "base/Json.h"
 #include "receiver/Error.h"
 
 namespace receiver {
 namespace {
 
-using Json = nlohmann::ordered_json;
+using base::Json;
+using base::JsonReader;
 
-constexpr int maxDepth = 3;
+constexpr base::JsonLimits messageLimits{Frame::maxPayload, 3, limits::properties};
 constexpr std::size_t sha256Digits = 64;
+/// What the reader of a message puts in front of what is wrong.
+const std::string malformedMessage = "The message is malformed";
 
 [[noreturn]] void malformed(const std::string& why) {
-  throw Error("The message is malformed: " + why + ".");
+  throw Error(malformedMessage + ": " + why + ".");
 }
-
-/// The library's parser lets a key stand twice and nests without end.
-class ParseGuard {
- public:
-  bool operator()(int depth, Json::parse_event_t event, Json& parsed) {
-    using Event = Json::parse_event_t;
-    if (event == Event::object_start || event == Event::array_start) {
-      if (depth >= maxDepth) malformed("it is nested too deep");
-      keys_.emplace_back();
-    } else if (event == Event::object_end || event == Event::array_end) {
-      keys_.pop_back();
-    } else if (event == Event::key && !keys_.back().insert(parsed.get<std::string>()).second) {
-      malformed("a key stands twice");
-    }
-    return true;
-  }
-
- private:
-  std::vector<std::set<std::string>> keys_;
-};
 
 Json parse(const std::string& text) {
   try {
-    return Json::parse(
-        text, [guard = ParseGuard()](int depth, Json::parse_event_t event, Json& parsed) mutable {
-          return guard(depth, event, parsed);
-        });
-  } catch (const Json::exception&) {
-    malformed("it is not JSON");
+    return base::parseJson(text, malformedMessage, messageLimits);
+  } catch (const base::ContentError&) {
+    malformed("it is not JSON as messages are written");
   }
 }
-
-/// An object whose keys are all asked for; one that is left over is refused by `finish`.
-class Fields {
- public:
-  explicit Fields(const Json& object) : object_(object) {
-    if (!object.is_object()) malformed("an object is missing");
-  }
-
-  const Json& at(const char* key) {
-    const auto found = object_.find(key);
-    if (found == object_.end()) malformed("\"" + std::string(key) + "\" is missing");
-    ++asked_;
-    return *found;
-  }
-  std::string text(const char* key) {
-    const Json& value = at(key);
-    if (!value.is_string()) malformed("\"" + std::string(key) + "\" must be a text");
-    return value.get<std::string>();
-  }
-  std::uint64_t number(const char* key) {
-    const Json& value = at(key);
-    if (!value.is_number_unsigned()) malformed("\"" + std::string(key) + "\" must be a number");
-    return value.get<std::uint64_t>();
-  }
-  bool flag(const char* key) {
-    const Json& value = at(key);
-    if (!value.is_boolean()) malformed("\"" + std::string(key) + "\" must be true or false");
-    return value.get<bool>();
-  }
-  void finish() const {
-    if (asked_ != object_.size()) malformed("it has a key that is not known");
-  }
-
- private:
-  const Json& object_;
-  std::size_t asked_ = 0;
-};
 
 bool hasControls(std::string_view text) {
   return std::ranges::any_of(text, [](char c) {
@@ -133,10 +75,11 @@ void check(const Properties& properties) {
   }
 }
 
-ProgramInfo readProgram(const Json& json) {
-  Fields fields(json);
-  ProgramInfo program{fields.text("name"), fields.number("size"), fields.text("sha256")};
-  fields.finish();
+ProgramInfo readProgram(JsonReader reader) {
+  ProgramInfo program{reader.at("name").text(),
+                      static_cast<std::uint64_t>(reader.at("size").integer(0, INT64_MAX)),
+                      reader.at("sha256").text()};
+  reader.finish();
   check(program);
   return program;
 }
@@ -146,13 +89,11 @@ Json programJson(const ProgramInfo& program) {
   return {{"name", program.name}, {"size", program.size}, {"sha256", program.sha256}};
 }
 
-Properties readProperties(const Json& json) {
-  if (!json.is_object()) malformed("\"properties\" must be an object");
+Properties readProperties(const JsonReader& reader) {
   Properties properties;
-  for (const auto& [name, value] : json.items()) {
-    if (!value.is_string()) malformed("the value of a property must be a text");
-    properties[name] = value.get<std::string>();
-  }
+  reader.eachKey([&properties](const std::string& name, const JsonReader& value) {
+    properties[name] = value.text();
+  });
   check(properties);
   return properties;
 }
@@ -164,19 +105,17 @@ Json propertiesJson(const Properties& properties) {
   return json;
 }
 
-AnnounceProgram readAnnouncement(const Json& json) {
-  Fields fields(json);
-  AnnounceProgram message{readProgram(fields.at("program")),
-                          readProperties(fields.at("properties"))};
-  fields.finish();
+AnnounceProgram readAnnouncement(JsonReader reader) {
+  AnnounceProgram message{readProgram(reader.at("program")),
+                          readProperties(reader.at("properties"))};
+  reader.finish();
   return message;
 }
 
 template <typename Credentials>
-Credentials readCredentials(const Json& json) {
-  Fields fields(json);
-  Credentials message{fields.text("user"), fields.text("password")};
-  fields.finish();
+Credentials readCredentials(JsonReader reader) {
+  Credentials message{reader.at("user").text(), reader.at("password").text()};
+  reader.finish();
   checkText(message.password, "The password", 0, limits::password);
   return message;
 }
@@ -187,30 +126,32 @@ Json credentialsJson(const Credentials& message) {
   return {{"user", message.user}, {"password", message.password}};
 }
 
-SetProperties readSetProperties(const Json& json) {
-  Fields fields(json);
-  SetProperties message{readProperties(fields.at("properties"))};
-  fields.finish();
+SetProperties readSetProperties(JsonReader reader) {
+  SetProperties message{readProperties(reader.at("properties"))};
+  reader.finish();
   return message;
 }
 
-Holdings readHoldings(const Json& json) {
-  Fields fields(json);
+Holdings readHoldings(JsonReader reader) {
   Holdings holdings;
-  if (const Json& program = fields.at("program"); !program.is_null()) {
-    holdings.program = readProgram(program);
-  }
-  holdings.passwordSet = fields.flag("password_set");
-  holdings.properties = readProperties(fields.at("properties"));
-  fields.finish();
+  const JsonReader program = reader.at("program");
+  if (!program.isNull()) holdings.program = readProgram(program);
+  holdings.passwordSet = reader.at("password_set").boolean();
+  holdings.properties = readProperties(reader.at("properties"));
+  reader.finish();
   return holdings;
 }
 
-Refusal readRefusal(const Json& json) {
-  Fields fields(json);
-  Refusal refusal{fields.text("reason")};
-  fields.finish();
+Refusal readRefusal(JsonReader reader) {
+  Refusal refusal{reader.at("reason").text()};
+  reader.finish();
   return refusal;
+}
+
+template <typename Read>
+auto fromJson(const Frame& frame, Read read) {
+  const Json json = parse(frame.payload);
+  return read(JsonReader(json, malformedMessage));
 }
 
 template <typename Empty>
@@ -271,25 +212,25 @@ struct Writer {
 Message readMessage(const Frame& frame) {
   switch (frame.type) {
     case FrameType::announceProgram:
-      return readAnnouncement(parse(frame.payload));
+      return fromJson(frame, readAnnouncement);
     case FrameType::chunk:
       return readChunk(frame);
     case FrameType::commit:
       return readEmpty<Commit>(frame);
     case FrameType::setPassword:
-      return readCredentials<SetPassword>(parse(frame.payload));
+      return fromJson(frame, readCredentials<SetPassword>);
     case FrameType::checkPassword:
-      return readCredentials<CheckPassword>(parse(frame.payload));
+      return fromJson(frame, readCredentials<CheckPassword>);
     case FrameType::query:
       return readEmpty<Query>(frame);
     case FrameType::setProperties:
-      return readSetProperties(parse(frame.payload));
+      return fromJson(frame, readSetProperties);
     case FrameType::accepted:
       return readEmpty<Accepted>(frame);
     case FrameType::holdings:
-      return readHoldings(parse(frame.payload));
+      return fromJson(frame, readHoldings);
     case FrameType::refusal:
-      return readRefusal(parse(frame.payload));
+      return fromJson(frame, readRefusal);
   }
   malformed("its type is not known");
 }

@@ -7,12 +7,13 @@
 #include <system_error>
 #include <utility>
 
-#include "receiver/Digest.h"
+#include "base/Digest.h"
 #include "receiver/Error.h"
 
 namespace receiver {
 namespace {
 
+constexpr mode_t ownerOnly = 0600;
 constexpr std::string_view leftover = ".saving";
 constexpr std::size_t maxFile = Frame::headerSize + Frame::maxPayload + limits::programSize;
 
@@ -23,7 +24,7 @@ struct StoredProgram {
 
 /// The file is the frame that announced the program, and the program's bytes behind it.
 StoredProgram readProgramFile(const std::filesystem::path& path) {
-  std::string bytes = readFile(path, maxFile);
+  std::string bytes = base::readFile(path, maxFile);
   const auto header = Frame::decodeHeader(std::string_view(bytes).substr(0, Frame::headerSize));
   const std::size_t end = Frame::headerSize + header.length;
   const Message message =
@@ -31,7 +32,8 @@ StoredProgram readProgramFile(const std::filesystem::path& path) {
   const auto* announced = std::get_if<AnnounceProgram>(&message);
   if (announced == nullptr) throw Error("It does not begin with a program's description.");
   bytes.erase(0, end);
-  if (bytes.size() != announced->program.size || Digest::of(bytes) != announced->program.sha256) {
+  if (bytes.size() != announced->program.size ||
+      base::Digest::of(bytes) != announced->program.sha256) {
     throw Error("Its bytes are not those that were sent.");
   }
   return {*announced, std::move(bytes)};
@@ -57,13 +59,14 @@ bool isPasswordHash(const std::string& text) {
 
 struct Store::Upload::State {
   AnnounceProgram announced;
-  OutputFile file;
-  Digest digest;
+  base::OutputFile file;
+  base::Digest digest;
   std::uint64_t received = 0;
 };
 
 Store::Upload::Upload(Store& store, AnnounceProgram announced, const std::filesystem::path& file)
-    : store_(store), state_(new State{std::move(announced), OutputFile(file), Digest()}) {
+    : store_(store),
+      state_(new State{std::move(announced), {file, store.programFile(), ownerOnly}, {}}) {
   state_->file.write(writeMessage(state_->announced).encode());
 }
 
@@ -92,13 +95,18 @@ void Store::Upload::commit() {
 }
 
 Store::Store(std::filesystem::path folder) : folder_(std::move(folder)) {
-  prepareSodium();
+  base::prepareSodium();
   std::error_code error;
   std::filesystem::create_directories(folder_, error);
   if (!std::filesystem::is_directory(folder_)) {
     throw Error("The folder " + folder_.string() + " cannot be made: " + error.message() + ".");
   }
-  lock_.emplace(folder_);
+  lock_.emplace(folder_, base::FolderLock::IfTaken::giveUp);
+  if (!lock_->isHeld()) {
+    const std::string path = folder_.string();
+    throw Error("The folder " + path +
+                " belongs to another receiver that runs. Give each receiver a folder of its own.");
+  }
   removeLeftovers();
   loadProgram();
   loadPassword();
@@ -111,7 +119,7 @@ std::filesystem::path Store::passwordFile() const { return folder_ / "password";
 void Store::removeLeftovers() {
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(folder_, error)) {
-    if (entry.path().extension() == leftover) removeFile(entry.path());
+    if (entry.path().extension() == leftover) base::removeFile(entry.path());
   }
 }
 
@@ -134,7 +142,7 @@ void Store::loadProgram() {
 
 void Store::loadPassword() {
   if (!std::filesystem::exists(passwordFile())) return;
-  passwordHash_ = readFile(passwordFile(), crypto_pwhash_STRBYTES);
+  passwordHash_ = base::readFile(passwordFile(), crypto_pwhash_STRBYTES);
   if (isPasswordHash(passwordHash_)) return;
   // It was set once, so what it protects must not lie open.
   passwordHash_ = "damaged";
@@ -168,9 +176,9 @@ std::unique_ptr<Store::Upload> Store::begin(AnnounceProgram announced) {
   return std::make_unique<Upload>(*this, std::move(announced), file);
 }
 
-void Store::take(OutputFile& file, AnnounceProgram announced) {
+void Store::take(base::OutputFile& file, AnnounceProgram announced) {
   const std::lock_guard change(change_);
-  file.replace(programFile());
+  file.replace();
   const std::lock_guard state(state_);
   program_ = std::move(announced);
 }
@@ -186,10 +194,11 @@ void Store::setProperties(const Properties& properties) {
     }
     found->second = value;
   }
-  OutputFile file(folder_ / (".properties" + std::string(leftover)));
+  base::OutputFile file(folder_ / (".properties" + std::string(leftover)), programFile(),
+                        ownerOnly);
   file.write(writeMessage(changed).encode());
   file.write(readProgramFile(programFile()).bytes);
-  file.replace(programFile());
+  file.replace();
   const std::lock_guard state(state_);
   program_ = std::move(changed);
 }
@@ -198,12 +207,13 @@ void Store::setPassword(const std::string& password) {
   const std::lock_guard change(change_);
   std::string hash;
   if (password.empty()) {
-    removeFile(passwordFile());
+    base::removeFile(passwordFile());
   } else {
     hash = hashOf(password);
-    OutputFile file(folder_ / (".password" + std::string(leftover)));
+    base::OutputFile file(folder_ / (".password" + std::string(leftover)), passwordFile(),
+                          ownerOnly);
     file.write(hash);
-    file.replace(passwordFile());
+    file.replace();
   }
   const std::lock_guard state(state_);
   passwordHash_ = std::move(hash);

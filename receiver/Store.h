@@ -8,7 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "receiver/Files.h"
+#include "base/FileIO.h"
+#include "base/OutputFile.h"
 #include "receiver/Messages.h"
 
 namespace receiver {
@@ -66,10 +67,10 @@ class Store {
   void removeLeftovers();
   void loadProgram();
   void loadPassword();
-  void take(OutputFile& file, AnnounceProgram announced);
+  void take(base::OutputFile& file, AnnounceProgram announced);
 
   std::filesystem::path folder_;
-  std::optional<FolderLock> lock_;
+  std::optional<base::FolderLock> lock_;
   std::string warning_;
   mutable std::mutex change_;  // held while files are read or replaced
   mutable std::mutex state_;   // held for a moment, inside the other one at most

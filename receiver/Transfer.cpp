@@ -4,8 +4,8 @@
 #include <optional>
 #include <utility>
 
+#include "base/Digest.h"
 #include "receiver/Conversation.h"
-#include "receiver/Digest.h"
 #include "receiver/Network.h"
 
 namespace receiver {
@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t chunkSize = 16U << 10U;
 
 AnnounceProgram announcementOf(const Program& program) {
-  AnnounceProgram message{{program.name, program.bytes.size(), Digest::of(program.bytes)},
+  AnnounceProgram message{{program.name, program.bytes.size(), base::Digest::of(program.bytes)},
                           program.properties};
   static_cast<void>(writeMessage(message));  // raises for what no receiver takes
   return message;

@@ -35,9 +35,9 @@ std::string builtListing(const fs::path& answers) {
       program.run({"show", built.output.substr(0, built.output.find('\n')), "--json"});
   EXPECT_EQ(shown.status, 0) << shown.errors;
   if (shown.status != 0) return {};
-  trellisar::Json listing = trellisar::Json::parse(shown.output);
+  base::Json listing = base::Json::parse(shown.output);
   listing["folder"] = "FOLDER";
-  return trellisar::jsonText(listing);
+  return base::jsonText(listing);
 }
 
 std::string difference(const fs::path& expected, const std::string& built) {

@@ -10,7 +10,7 @@
 namespace tests {
 namespace {
 
-using trellisar::Json;
+using base::Json;
 
 /// Where a value stands: in an array or an object, and at which place of it.
 struct Place {

@@ -26,12 +26,12 @@ class Decisions {
 
 /// Changes one value of a file, wherever it stands, in a way that leaves its text JSON: takes it
 /// away, gives it another type, doubles it, makes it huge, or empties it.
-void changeStructure(trellisar::Json& json, Decisions& decisions);
+void changeStructure(base::Json& json, Decisions& decisions);
 
 /// An archive as an array of `{"name", "content"}`; the content of a system is JSON, that of
 /// another file a text.
-trellisar::Json archiveStructure(const std::filesystem::path& archive);
+base::Json archiveStructure(const std::filesystem::path& archive);
 /// The zip file of such an array. An entry that is none becomes a folder.
-std::string archiveBytes(const trellisar::Json& entries);
+std::string archiveBytes(const base::Json& entries);
 
 }  // namespace tests

@@ -170,7 +170,7 @@ void preferences(std::string_view bytes) {
           "the address book changed with the folder");
   const fs::path aside = parent / "preferences.json.unreadable";
   require(fs::exists(aside) == isAside, "it was told otherwise than it was done");
-  require(!isAside || trellisar::readFile(aside) == bytes, "what was kept aside is not the file");
+  require(!isAside || base::readFile(aside) == bytes, "what was kept aside is not the file");
   fs::remove_all(parent);
 }
 
@@ -179,22 +179,22 @@ constexpr std::pair<const char*, FuzzTarget> structured[] = {
     {"system", system},           {"library", library}, {"project", project},
     {"preferences", preferences}, {"archive", archive}, {"answers", answers}};
 
-trellisar::Json wholeFile(const std::string& kind) {
+base::Json wholeFile(const std::string& kind) {
   const fs::path file = fs::path(ORLENA_SOURCE_FOLDER) / "tests/fuzz/cases" / kind / "whole";
   if (kind == "archive") return archiveStructure(file);
-  return trellisar::parseJson(trellisar::readFile(file), kind);
+  return base::parseJson(base::readFile(file), kind);
 }
 
 /// The first byte chooses the kind of file, each of the next ones a change.
 void structure(std::string_view bytes) {
   Decisions decisions(bytes);
   const auto& [kind, target] = structured[decisions.below(std::size(structured))];
-  static std::map<std::string, trellisar::Json> files;
+  static std::map<std::string, base::Json> files;
   if (!files.contains(kind)) files[kind] = wholeFile(kind);
-  trellisar::Json json = files[kind];
+  base::Json json = files[kind];
   constexpr int mostChanges = 4;
   for (int i = 0; i < mostChanges && !decisions.isEmpty(); ++i) changeStructure(json, decisions);
-  target(kind == std::string("archive") ? archiveBytes(json) : trellisar::jsonText(json));
+  target(kind == std::string("archive") ? archiveBytes(json) : base::jsonText(json));
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "receiver/Client.h"
-#include "receiver/Digest.h"
+#include "base/Digest.h"
 #include "receiver/Messages.h"
 #include "receiver/Network.h"
 #include "receiver/Server.h"
@@ -104,7 +104,7 @@ inline receiver::Program givenProgram(int number, std::size_t size = 50000) {
 }
 
 inline receiver::AnnounceProgram announcementOf(const receiver::Program& program) {
-  return {{program.name, program.bytes.size(), receiver::Digest::of(program.bytes)},
+  return {{program.name, program.bytes.size(), base::Digest::of(program.bytes)},
           program.properties};
 }
 

@@ -16,7 +16,7 @@ namespace tests {
 namespace {
 
 namespace fs = std::filesystem;
-using trellisar::readFile;
+using base::readFile;
 
 struct Entry {
   std::string name;

@@ -16,7 +16,7 @@ namespace tests {
 namespace {
 
 namespace fs = std::filesystem;
-using trellisar::readFile;
+using base::readFile;
 
 class CompileTest : public HostTest {
  protected:
@@ -55,7 +55,7 @@ TEST_F(CompileTest, StoresTheProgramAndSaysSoInTheSavedFile) {
       << "the same system gives the same bytes";
 
   std::string text = readFile(inRoom("Room.tsp"));
-  const auto program = trellisar::Json::parse(text.substr(text.find('\n')));
+  const auto program = base::Json::parse(text.substr(text.find('\n')));
   const auto& inner = program["presets"][0]["steps"][0];
   EXPECT_EQ(inner["when"]["unit"], program["receiver"]);
   EXPECT_EQ(inner["steps"][0].dump(), R"({"do":"wait","hundredths":500})");
@@ -89,7 +89,7 @@ TEST_F(CompileTest, ProgramKnowsWhereEveryDeviceIsAndWhatFeedsASignal) {
   fed->put_SourceSignalName("Powered_On");
 
   const std::string text = trellisar::compileProgram(data());
-  const auto program = trellisar::Json::parse(text.substr(text.find('\n')));
+  const auto program = base::Json::parse(text.substr(text.find('\n')));
   std::map<std::string, std::string> places;
   std::set<std::string> ports;
   for (const auto& unit : program["units"]) {

@@ -107,7 +107,7 @@ TEST_F(MainWindowTest, OpenReplacesTheSystemOnlyWhenItSucceeded) {
 
 TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
   ASSERT_TRUE(save("Room"));
-  const std::string first = trellisar::readFile(folder.path() / "Room.tsy");
+  const std::string first = base::readFile(folder.path() / "Room.tsy");
   openTemplate();
   data().name = "Other";
   const std::string question =
@@ -115,11 +115,11 @@ TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
       "\".\r\n\r\nDo you want to keep that system? Yes keeps it and does not save; No replaces it.";
   desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question);
   EXPECT_FALSE(save("Room")) << "the default answer does no harm";
-  EXPECT_EQ(trellisar::readFile(folder.path() / "Room.tsy"), first);
+  EXPECT_EQ(base::readFile(folder.path() / "Room.tsy"), first);
 
   desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
   EXPECT_TRUE(save("Room"));
-  EXPECT_NE(trellisar::readFile(folder.path() / "Room.tsy"), first);
+  EXPECT_NE(base::readFile(folder.path() / "Room.tsy"), first);
 }
 
 TEST_F(MainWindowTest, ReplacedSystemLeavesNoProgramAndNoPanels) {
@@ -145,7 +145,7 @@ TEST_F(MainWindowTest, ReplacedSystemLeavesNoProgramAndNoPanels) {
 TEST_F(MainWindowTest, FileThatAnotherProgramChangedIsNotReplacedUnasked) {
   saveAsRoom();
   const fs::path file = folder.path() / "Room/Room.tsy";
-  const std::string theirs = trellisar::readFile(file) + "\n";
+  const std::string theirs = base::readFile(file) + "\n";
   writeFile(file, theirs);
   const std::string question =
       "Another program has changed the file \"" + file.string() +
@@ -160,12 +160,12 @@ TEST_F(MainWindowTest, FileThatAnotherProgramChangedIsNotReplacedUnasked) {
             std::string::npos);
   EXPECT_THROW(trellisar::storeCompiledProgram(data(), trellisar::compileProgram(data())),
                host::Error);
-  EXPECT_EQ(trellisar::readFile(file), theirs);
+  EXPECT_EQ(base::readFile(file), theirs);
   EXPECT_FALSE(fs::exists(folder.path() / "Room/Room.tsp"));
 
   desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
   EXPECT_TRUE(save("Room\\Room"));
-  EXPECT_NE(trellisar::readFile(file), theirs);
+  EXPECT_NE(base::readFile(file), theirs);
   EXPECT_TRUE(save("Room\\Room")) << "and it is the system's own again";
 
   fs::permissions(file, fs::perms::owner_read);

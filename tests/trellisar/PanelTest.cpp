@@ -63,7 +63,7 @@ TEST_F(PanelTest, ProjectIsMadeFromTheTemplateAndTheRoom) {
   EXPECT_FALSE(commands.contains("INPUT 2\r\nSELECTED")) << "the receiver has one input";
   EXPECT_FALSE(commands.contains("SCREEN\r\nUP")) << "there is no screen";
   EXPECT_EQ(commands["DISPLAY\r\nON"], "Power_On");
-  EXPECT_EQ(trellisar::readFile(file()), trellisar::panelProjectText(project));
+  EXPECT_EQ(base::readFile(file()), trellisar::panelProjectText(project));
 
   manager->SetIncludeDefaultPages(true);
   manager->SetIncludeSharedPages(true);
@@ -153,7 +153,7 @@ TEST_F(PanelTest, ProjectCountsAsBuiltWhileItWouldBeMadeTheSame) {
   const fs::path other = folder.path() / "data";
   fs::create_directory(other);
   fs::copy(dataFolder() / "PanelTemplates", other / "PanelTemplates");
-  const std::string text = trellisar::readFile(other / "PanelTemplates/Fenlet.json");
+  const std::string text = base::readFile(other / "PanelTemplates/Fenlet.json");
   writeFile(other / "PanelTemplates/Fenlet.json",
             forms::replacedAll(text, "ROOM CONTROL", "THIS ROOM"));
   EXPECT_FALSE(isBuiltInHostOf(other)) << "the template is another one";

@@ -50,7 +50,7 @@ TEST_F(PreferencesTest, OnesThatCantBeReadAreKeptAsideAndToldOnce) {
   for (const auto& [content, why] : cases) {
     writeFile(file, content);
     EXPECT_EQ(Preferences::lookedAt(file).defaultFolder(), "");
-    EXPECT_EQ(trellisar::readFile(file), content) << "who looks changes nothing";
+    EXPECT_EQ(base::readFile(file), content) << "who looks changes nothing";
 
     told.clear();
     Preferences preferences = open();
@@ -60,7 +60,7 @@ TEST_F(PreferencesTest, OnesThatCantBeReadAreKeptAsideAndToldOnce) {
     ASSERT_EQ(told.size(), 1u) << why;
     EXPECT_NE(told[0].find(why), std::string::npos) << told[0];
     EXPECT_NE(told[0].find("is kept in \"" + aside + "\""), std::string::npos) << told[0];
-    EXPECT_EQ(trellisar::readFile(aside), content);
+    EXPECT_EQ(base::readFile(aside), content);
     EXPECT_EQ(open().recentSystems(), std::vector<std::string>{"\\Room.tsy"});
     aside = file.string() + ".unreadable-" + (aside.ends_with("2") ? "3" : "2");
   }

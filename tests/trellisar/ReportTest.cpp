@@ -130,30 +130,30 @@ TEST_F(ReportTest, HtmlIsEscapedAndTheSameEachTime) {
   const auto files = trellisar::writeReports(data(), out, options);
   ASSERT_EQ(files.size(), 2u);
   EXPECT_EQ(files[1], out / "R&D <1> - Connection Sheet.html");
-  const std::string sheet = trellisar::readFile(files[1]);
+  const std::string sheet = base::readFile(files[1]);
   EXPECT_NE(sheet.find("<title>Connection Sheet - R&amp;D &lt;1&gt;</title>"), std::string::npos);
   EXPECT_NE(sheet.find("<td>&quot;Big&quot; screen&#39;s</td>"), std::string::npos);
   EXPECT_NE(
       sheet.find("Date: 2026-03-31<br>Revision of the answers: " + trellisar::revisionOf(data())),
       std::string::npos);
   trellisar::writeReports(data(), out, options);
-  EXPECT_EQ(trellisar::readFile(files[1]), sheet);
+  EXPECT_EQ(base::readFile(files[1]), sheet);
 }
 
 TEST_F(ReportTest, ReportsReplaceThoseOfTheirOwnSystemAlone) {
   data().ownFile = "/one/Room.tsy";
   const auto files = trellisar::writeReports(data(), folder.path());
   data().ownFile = "/other/Room.tsy";
-  const std::string first = trellisar::readFile(files[0]);
+  const std::string first = base::readFile(files[0]);
   const std::string refusal =
       raisedBy([&] { trellisar::writeReports(data(), folder.path()); }).description();
   EXPECT_TRUE(refusal.starts_with("The file \"" + files[0].string() + "\" is there already"));
-  EXPECT_EQ(trellisar::readFile(files[0]), first);
+  EXPECT_EQ(base::readFile(files[0]), first);
   fs::remove(files[0]);
   EXPECT_NE(raisedBy([&] { trellisar::writeReports(data(), folder.path()); }).number(), 0);
   EXPECT_FALSE(fs::exists(files[0])) << "all are written, or none";
   trellisar::writeReports(data(), folder.path(), {}, nullptr, /*replace=*/true);
-  EXPECT_NE(trellisar::readFile(files[0]), first);
+  EXPECT_NE(base::readFile(files[0]), first);
 }
 
 TEST_F(ReportTest, DialogShowsSavesAndTellsAFailure) {
@@ -171,7 +171,7 @@ TEST_F(ReportTest, DialogShowsSavesAndTellsAFailure) {
     user.press(forms::keys::escape);
   });
   window().ShowReportsDialog(host::reportsAll);
-  const std::string saved = trellisar::readFile(folder.path() / "Sheet.html");
+  const std::string saved = base::readFile(folder.path() / "Sheet.html");
   EXPECT_NE(saved.find("<td>Serial Port 1</td>"), std::string::npos);
   EXPECT_NE(saved.find("<br>Date: 2"), std::string::npos);
   window().ShowReportsDialog("Anything Else");

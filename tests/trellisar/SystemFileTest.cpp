@@ -15,7 +15,7 @@ namespace tests {
 namespace {
 
 namespace fs = std::filesystem;
-using trellisar::readFile;
+using base::readFile;
 using trellisar::readSystemFile;
 using trellisar::systemFileText;
 
@@ -115,10 +115,10 @@ TEST_F(SystemFileTest, DamageIsToldWithItsPlace) {
       {"presets[1].name: the name stands twice", "/presets/1/name", "\"System Power On\""},
   };
   for (const Case& one : cases) {
-    auto json = trellisar::Json::parse(readFile(file));
-    const trellisar::Json::json_pointer place(one.place);
+    auto json = base::Json::parse(readFile(file));
+    const base::Json::json_pointer place(one.place);
     if (one.value) {
-      json[place] = trellisar::Json::parse(one.value);
+      json[place] = base::Json::parse(one.value);
     } else {
       json[place.parent_pointer()].erase(place.back());
     }
@@ -158,13 +158,13 @@ TEST_F(SystemFileTest, KilledDuringASaveLeavesOneOfTheTwoWhole) {
   const std::string one = systemFileText(data());
   data().application = "Two";
   const std::string two = systemFileText(data());
-  trellisar::replaceFile(file, one);
+  base::replaceFile(file, one);
   for (int round = 0; round < 40; ++round) {
     const pid_t child = fork();
     if (child == 0) {
       while (true) {
-        trellisar::replaceFile(file, one);
-        trellisar::replaceFile(file, two);
+        base::replaceFile(file, one);
+        base::replaceFile(file, two);
       }
     }
     usleep(static_cast<useconds_t>(1000 + round * 350));
@@ -173,7 +173,7 @@ TEST_F(SystemFileTest, KilledDuringASaveLeavesOneOfTheTwoWhole) {
     const std::string left = readFile(file);
     EXPECT_TRUE(left == one || left == two) << "in round " << round;
   }
-  trellisar::replaceFile(file, one);
+  base::replaceFile(file, one);
   EXPECT_EQ(readFile(file), one) << "what a killed save leaves beside does not hinder the next";
 }
 

@@ -69,9 +69,9 @@ void expectShipped(const DocumentData& system) {
   const std::string text = trellisar::systemFileText(system);
   if (std::getenv("TRELLISAR_RENEW")) {
     std::filesystem::create_directories(file.parent_path());
-    trellisar::replaceFile(file, text);
+    base::replaceFile(file, text);
   }
-  EXPECT_EQ(trellisar::readFile(file), text) << file;
+  EXPECT_EQ(base::readFile(file), text) << file;
 }
 
 TEST(TemplateSystems, AreWhatTheyAreMadeOf) {

@@ -132,12 +132,12 @@ TEST(Keyboard, AnswersTheWholeWizardAlone) {
     app::AddIn(host).runOnNewSystem();
   }
   const fs::path file = folder / "Lecture Hall" / "Lecture Hall.tsy";
-  const trellisar::Json listing = trellisar::listing(*trellisar::readSystemFile(file, nullptr));
+  const base::Json listing = trellisar::listing(*trellisar::readSystemFile(file, nullptr));
   const auto device = [&](const std::string& deviceName) {
     for (const auto& one : listing.at("devices")) {
       if (one.at("name") == deviceName) return one;
     }
-    return trellisar::Json();
+    return base::Json();
   };
   EXPECT_EQ(device("Display Device").value("type", ""), "Quenlowe K40") << listing.dump(2);
   EXPECT_EQ(device("Receiver").at("properties").at("Volume Knob Control"), "1d");

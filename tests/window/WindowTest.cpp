@@ -193,8 +193,8 @@ constexpr const char* sameAnswers = R"({
            "occupancy": true, "power_off_after": 15}
 })";
 
-trellisar::Json listingOf(const fs::path& parent) {
-  trellisar::Json listing =
+base::Json listingOf(const fs::path& parent) {
+  base::Json listing =
       trellisar::listing(*trellisar::readSystemFile(parent / "Room 4" / "Room 4.tsy", nullptr));
   listing.erase("folder");
   return listing;

@@ -18,6 +18,7 @@
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemNames.h"
+#include "trellisar/library/HostErrors.h"
 
 namespace trellisar {
 namespace {
@@ -60,7 +61,7 @@ class ZipReader {
     std::error_code error;
     const auto size = fs::file_size(file, error);
     if (!error && size > largestArchive) refuse("it is larger than 64 MB");
-    bytes_ = readFile(file);
+    bytes_ = base::readFile(file);
   }
 
   std::vector<Unpacked> read() {
@@ -160,7 +161,7 @@ class FolderAside {
     std::error_code error;
     fs::create_directories(path.parent_path(), error);
     if (error) fail(path.parent_path(), error);
-    replaceFile(path, file.content);
+    base::replaceFile(path, file.content);
   }
 
   void moveTo(const fs::path& folder) {
@@ -187,7 +188,7 @@ class FolderAside {
 
   [[noreturn]] static void fail(const fs::path& folder, const std::error_code& error) {
     throw host::Error(host::errFile, "Can't make the folder \"" + folder.string() +
-                                         "\": " + systemReason(error.value()));
+                                         "\": " + base::systemReason(error.value()));
   }
 
   fs::path folder_;
@@ -229,7 +230,7 @@ void checkSystem(const fs::path& file, const ZipReader& reader) {
   if (!fs::is_regular_file(storedProgramFile(*document), error)) renameProgram(*document);
   const fs::path program = storedProgramFile(*document);
   if (!fs::is_regular_file(program, error)) reader.refuse("it lacks the compiled program " + name);
-  if (!isWholeProgram(readFile(program))) {
+  if (!isWholeProgram(base::readFile(program))) {
     reader.refuse("the compiled program " + name + " is damaged");
   }
 }
@@ -237,23 +238,25 @@ void checkSystem(const fs::path& file, const ZipReader& reader) {
 }  // namespace
 
 fs::path unpackArchive(const fs::path& archive, const fs::path& parent) {
-  ZipReader reader(archive);
-  const std::vector<Unpacked> files = reader.read();
-  const std::string system = systemFileIn(files, reader);
-  const fs::path folder = parent / fs::path(system).stem();
-  std::error_code error;
-  if (fs::exists(folder, error) && !fs::is_empty(folder, error)) {
-    throw host::Error(host::errFile, "The folder \"" + folder.string() +
-                                         "\" is there already. Choose another place for the "
-                                         "system of the archive.");
-  }
-  MadeFolders folders(parent);
-  FolderAside aside(parent);
-  for (const Unpacked& file : files) aside.write(file);
-  checkSystem(aside.path() / system, reader);
-  aside.moveTo(folder);
-  folders.keep();
-  return folder / system;
+  return raisingHostErrors([&] {
+    ZipReader reader(archive);
+    const std::vector<Unpacked> files = reader.read();
+    const std::string system = systemFileIn(files, reader);
+    const fs::path folder = parent / fs::path(system).stem();
+    std::error_code error;
+    if (fs::exists(folder, error) && !fs::is_empty(folder, error)) {
+      throw host::Error(host::errFile, "The folder \"" + folder.string() +
+                                           "\" is there already. Choose another place for the "
+                                           "system of the archive.");
+    }
+    base::MadeFolders folders(parent);
+    FolderAside aside(parent);
+    for (const Unpacked& file : files) aside.write(file);
+    checkSystem(aside.path() / system, reader);
+    aside.moveTo(folder);
+    folders.keep();
+    return folder / system;
+  });
 }
 
 }  // namespace trellisar

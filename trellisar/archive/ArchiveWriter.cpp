@@ -7,6 +7,7 @@
 #include "trellisar/archive/ArchiveHandle.h"
 #include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/document/SystemFile.h"
+#include "trellisar/library/HostErrors.h"
 #include "trellisar/panels/PanelState.h"
 #include "trellisar/reports/Report.h"
 
@@ -71,7 +72,8 @@ std::string archiveOf(const DocumentData& document) {
   for (const DevicePtr& panel : document.panels) {
     if (!panel->definition->projectPanel) continue;
     const auto project = panelProjectFile(document, *panel);
-    zip.add(project.filename().string(), readFile(project));
+    zip.add(project.filename().string(),
+            raisingHostErrors([&] { return base::readFile(project); }));
   }
   for (const Report& report : reportsNamed(document, host::reportsAll)) {
     zip.add("reports/" + reportFileName(report), reportHtml(report));

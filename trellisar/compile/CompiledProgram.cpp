@@ -4,13 +4,14 @@
 #include <system_error>
 #include <utility>
 
+#include "base/Digest.h"
 #include "base/FileIO.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
-#include "receiver/Digest.h"
 #include "trellisar/compile/ProgramCheck.h"
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
+#include "trellisar/library/HostErrors.h"
 
 namespace trellisar {
 namespace {
@@ -25,13 +26,13 @@ class FileKeeper {
  public:
   explicit FileKeeper(fs::path file) : file_(std::move(file)) {
     std::error_code error;
-    if (fs::exists(file_, error)) old_ = readFile(file_);
+    if (fs::exists(file_, error)) old_ = base::readFile(file_);
   }
   ~FileKeeper() {
     if (!isKept_) return;
     try {
       if (old_) {
-        replaceFile(file_, *old_);
+        base::replaceFile(file_, *old_);
       } else {
         fs::remove(file_);
       }
@@ -53,7 +54,7 @@ class FileKeeper {
 }  // namespace
 
 std::string withProgramHead(const std::string& body) {
-  return std::string(headStart) + receiver::Digest::of(body) + " " + std::to_string(body.size()) +
+  return std::string(headStart) + base::Digest::of(body) + " " + std::to_string(body.size()) +
          "\n" + body;
 }
 
@@ -63,45 +64,50 @@ bool isWholeProgram(const std::string& program) {
 }
 
 void storeCompiledProgram(DocumentData& document, const std::string& program) {
-  if (document.ownFile.empty()) {
-    throw host::Error(host::errFile,
-                      "The system has no file yet. Save it, then build its program.");
-  }
-  const std::string name = document.ownFile.stem().string() + programExtension;
-  const fs::path file = document.ownFile.parent_path() / name;
-  FileKeeper keeper(file);
-  replaceFile(file, program);
-  const std::string oldName = std::exchange(document.compiledProgram, name);
-  const bool wasCurrent = std::exchange(document.programIsCurrent, true);
-  try {
-    saveSystemFile(document, forms::fromMachinePath(document.ownFile));
-  } catch (const host::Error&) {
-    document.compiledProgram = oldName;
-    document.programIsCurrent = wasCurrent;
-    throw;
-  }
-  keeper.leave();
-  document.isModified = false;
+  return raisingHostErrors([&] {
+    if (document.ownFile.empty()) {
+      throw host::Error(host::errFile,
+                        "The system has no file yet. Save it, then build its program.");
+    }
+    const std::string name = document.ownFile.stem().string() + programExtension;
+    const fs::path file = document.ownFile.parent_path() / name;
+    FileKeeper keeper(file);
+    base::replaceFile(file, program);
+    const std::string oldName = std::exchange(document.compiledProgram, name);
+    const bool wasCurrent = std::exchange(document.programIsCurrent, true);
+    try {
+      saveSystemFile(document, forms::fromMachinePath(document.ownFile));
+    } catch (const host::Error&) {
+      document.compiledProgram = oldName;
+      document.programIsCurrent = wasCurrent;
+      throw;
+    }
+    keeper.leave();
+    document.isModified = false;
+  });
 }
 
 std::string storedProgram(const DocumentData& document) {
-  const fs::path file = storedProgramFile(document);
-  if (file.empty()) {
-    throw host::Error(host::errFile, "The system \"" + document.name +
-                                         "\" has no compiled program yet. Build the system first.");
-  }
-  std::string program = readFile(file);
-  if (isWholeProgram(program)) return program;
-  throw host::Error(host::errBadFile, "The compiled program \"" + file.string() +
-                                          "\" is damaged. Save and build the system again.");
+  return raisingHostErrors([&] {
+    const fs::path file = storedProgramFile(document);
+    if (file.empty()) {
+      throw host::Error(host::errFile,
+                        "The system \"" + document.name +
+                            "\" has no compiled program yet. Build the system first.");
+    }
+    std::string program = base::readFile(file);
+    if (isWholeProgram(program)) return program;
+    throw host::Error(host::errBadFile, "The compiled program \"" + file.string() +
+                                            "\" is damaged. Save and build the system again.");
+  });
 }
 
 bool isProgramCurrent(const DocumentData& document) {
   if (!document.programIsCurrent || document.compiledProgram.empty()) return false;
   if (!programErrors(document).empty()) return false;
   try {
-    return readFile(storedProgramFile(document)) == compileProgram(document);
-  } catch (const host::Error&) {
+    return base::readFile(storedProgramFile(document)) == compileProgram(document);
+  } catch (const base::FileError&) {
     return false;  // building it again tells what is wrong
   }
 }

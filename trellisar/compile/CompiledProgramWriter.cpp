@@ -28,13 +28,13 @@ class Compiler {
     }
   }
 
-  Json compile() const {
-    Json json;
+  base::Json compile() const {
+    base::Json json;
     json["name"] = document_.name;
     json["receiver"] = unit(document_.controlSystem);
-    json["units"] = Json::array();
+    json["units"] = base::Json::array();
     for (const DevicePtr& device : list_) json["units"].push_back(unitJson(*device));
-    json["presets"] = Json::array();
+    json["presets"] = base::Json::array();
     for (const auto& preset : document_.presets) {
       json["presets"].push_back({{"name", preset->name}, {"steps", steps(*preset)}});
     }
@@ -55,8 +55,8 @@ class Compiler {
     return device.definition->form == Definition::Form::receiver ? "receiver" : "device";
   }
 
-  Json unitJson(const DeviceData& device) const {
-    Json json;
+  base::Json unitJson(const DeviceData& device) const {
+    base::Json json;
     json["name"] = document_.shownName(device.id);
     json["kind"] = kindName(device);
     json["parent"] = unit(device.parent);
@@ -67,9 +67,9 @@ class Compiler {
     if (device.sensorHandle != 0) {
       json["sensor"] = {{"handle", device.sensorHandle}, {"format", device.sensorFormat}};
     }
-    json["properties"] = Json::object();
+    json["properties"] = base::Json::object();
     for (const auto& [name, value] : device.properties) json["properties"][name] = value;
-    json["slots"] = Json::array();
+    json["slots"] = base::Json::array();
     for (const auto& slot : device.slots) {
       if (slot->command.empty()) continue;
       const std::int16_t target = slot->device != 0 ? slot->device : device.parent;
@@ -79,15 +79,15 @@ class Compiler {
     return json;
   }
 
-  Json steps(const PresetData& preset) const {
-    Json list = Json::array();
+  base::Json steps(const PresetData& preset) const {
+    base::Json list = base::Json::array();
     for (const auto& data : preset.steps) {
       if (data->kind != 0) list.push_back(step(*data));
     }
     return list;
   }
 
-  Json step(const StepData& step) const {
+  base::Json step(const StepData& step) const {
     switch (step.kind) {
       case host::stepCallPreset:
         return {{"do", "call"}, {"preset", presets_.at(step.target)}};
@@ -104,19 +104,19 @@ class Compiler {
     }
   }
 
-  Json command(const char* what, const StepData& step) const {
+  base::Json command(const char* what, const StepData& step) const {
     return {
         {"do", what}, {"unit", unit(step.target)}, {"signal", step.signal}, {"value", step.value}};
   }
 
-  Json condition(const host::StepCondition& condition) const {
+  base::Json condition(const host::StepCondition& condition) const {
     return {{"unit", unit(condition.get_DeviceID())}, {"type", condition.get_ConditionType()},
             {"signal", condition.get_SignalName()},   {"state", condition.get_StateName()},
             {"compare", condition.get_Compare()},     {"value", condition.get_Value()}};
   }
 
-  Json events() const {
-    Json list = Json::array();
+  base::Json events() const {
+    base::Json list = base::Json::array();
     for (const ProgrammedEvent& event : programmedEvents(document_)) {
       list.push_back({{"unit", unit(event.data->deviceId)},
                       {"signal", event.signal},
@@ -127,8 +127,8 @@ class Compiler {
     return list;
   }
 
-  Json sources() const {
-    Json list = Json::array();
+  base::Json sources() const {
+    base::Json list = base::Json::array();
     for (const auto& [device, signal] : fedSignals(document_)) {
       list.push_back({{"unit", unit(signal->deviceId)},
                       {"input", signal->row.input},
@@ -149,7 +149,7 @@ class Compiler {
 }  // namespace
 
 std::string compileProgram(const DocumentData& document) {
-  return withProgramHead(jsonText(Compiler(document).compile()));
+  return withProgramHead(base::jsonText(Compiler(document).compile()));
 }
 
 }  // namespace trellisar

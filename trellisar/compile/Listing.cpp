@@ -14,15 +14,15 @@ class Lister {
  public:
   explicit Lister(const DocumentData& document) : document_(document) {}
 
-  Json list() const {
-    Json json;
+  base::Json list() const {
+    base::Json json;
     json["name"] = document_.name;
     json["folder"] = document_.folder;
     json["application"] = document_.application;
     json["program_is_current"] = isProgramCurrent(document_);
     json["settings"] = settings();
     json["receiver"] = receiver();
-    json["devices"] = Json::array();
+    json["devices"] = base::Json::array();
     for (const DevicePtr& device : listedDevices(document_))
       json["devices"].push_back(item(*device));
     json["touch_panels"] = panels();
@@ -42,19 +42,19 @@ class Lister {
     return document_.settings.empty() ? std::string() : document_.settings.front().second;
   }
 
-  Json receiver() const {
+  base::Json receiver() const {
     const DevicePtr device = document_.find(document_.controlSystem);
     return {{"name", device->name}, {"model", device->definition->modelId}};
   }
 
-  static Json properties(const DeviceData& device) {
-    Json json = Json::object();
+  static base::Json properties(const DeviceData& device) {
+    base::Json json = base::Json::object();
     for (const auto& [name, value] : device.properties) json[name] = value;
     return json;
   }
 
-  Json item(const DeviceData& device) const {
-    Json json;
+  base::Json item(const DeviceData& device) const {
+    base::Json json;
     json["name"] = device.name;
     json["parent"] = document_.shownName(device.parent);
     json["type"] = chosenType(device);
@@ -63,23 +63,23 @@ class Lister {
     json["control_entry"] = device.definition->controlEntry;
     json["shown"] = device.shown;
     json["power_control"] = device.powerControl;
-    json["standard_commands"] = Json::object();
+    json["standard_commands"] = base::Json::object();
     for (const auto& command : device.standardCommands) {
       json["standard_commands"][forms::decimal(command->get_StandardID())] =
           command->get_CommandName();
     }
     json["properties"] = properties(device);
-    json["modules"] = Json::array();
+    json["modules"] = base::Json::array();
     for (const DevicePtr& module : device.modules) json["modules"].push_back(this->module(*module));
     return json;
   }
 
-  Json module(const DeviceData& module) const {
-    Json json;
+  base::Json module(const DeviceData& module) const {
+    base::Json json;
     json["short_name"] = module.shortName;
     json["shown"] = module.shown;
     json["properties"] = properties(module);
-    json["slots"] = Json::array();
+    json["slots"] = base::Json::array();
     for (const auto& slot : module.slots) {
       json["slots"].push_back({{"name", slot->name},
                                {"device", document_.shownName(slot->device)},
@@ -88,8 +88,8 @@ class Lister {
     return json;
   }
 
-  Json panels() const {
-    Json list = Json::array();
+  base::Json panels() const {
+    base::Json list = base::Json::array();
     for (const DevicePtr& panel : document_.panels) {
       list.push_back({{"name", panel->name},
                       {"project_panel", panel->definition->projectPanel},
@@ -98,12 +98,12 @@ class Lister {
     return list;
   }
 
-  static Json billLine(const std::string& device, const BillLine& line, bool isMain) {
+  static base::Json billLine(const std::string& device, const BillLine& line, bool isMain) {
     return {{"device", device}, {"part", line.part}, {"quantity", line.quantity}, {"main", isMain}};
   }
 
-  Json bill() const {
-    Json list = Json::array();
+  base::Json bill() const {
+    base::Json list = base::Json::array();
     for (const auto& entry : document_.bill) {
       const std::string device = billDevice(document_, *entry);
       list.push_back(billLine(device, entry->main, true));
@@ -112,8 +112,8 @@ class Lister {
     return list;
   }
 
-  Json presets() const {
-    Json list = Json::array();
+  base::Json presets() const {
+    base::Json list = base::Json::array();
     for (const auto& preset : document_.presets) {
       list.push_back(
           {{"name", preset->name}, {"comment", preset->comment}, {"steps", steps(*preset)}});
@@ -121,8 +121,8 @@ class Lister {
     return list;
   }
 
-  Json events() const {
-    Json list = Json::array();
+  base::Json events() const {
+    base::Json list = base::Json::array();
     for (const ProgrammedEvent& event : programmedEvents(document_)) {
       list.push_back({{"device", event.device},
                       {"output", event.signal},
@@ -132,8 +132,8 @@ class Lister {
     return list;
   }
 
-  Json sources() const {
-    Json list = Json::array();
+  base::Json sources() const {
+    base::Json list = base::Json::array();
     for (const auto& [device, signal] : fedSignals(document_)) {
       list.push_back({{"device", device},
                       {"input", signal->row.input},
@@ -144,16 +144,16 @@ class Lister {
     return list;
   }
 
-  Json steps(const PresetData& preset) const {
-    Json list = Json::array();
+  base::Json steps(const PresetData& preset) const {
+    base::Json list = base::Json::array();
     for (const auto& step : preset.steps) {
       if (step->kind != 0) list.push_back(this->step(*step));
     }
     return list;
   }
 
-  Json step(const StepData& step) const {
-    Json json;
+  base::Json step(const StepData& step) const {
+    base::Json json;
     json["kind"] = step.kind;
     if (step.kind == host::stepCallPreset) {
       json["preset"] = document_.findPreset(step.target)->name;
@@ -169,7 +169,7 @@ class Lister {
     return json;
   }
 
-  Json condition(const host::StepCondition& condition) const {
+  base::Json condition(const host::StepCondition& condition) const {
     return {{"device", document_.shownName(condition.get_DeviceID())},
             {"type", condition.get_ConditionType()},
             {"signal", condition.get_SignalName()},
@@ -183,7 +183,7 @@ class Lister {
 
 }  // namespace
 
-Json listing(const DocumentData& document) { return Lister(document).list(); }
+base::Json listing(const DocumentData& document) { return Lister(document).list(); }
 
 std::vector<ProgrammedEvent> programmedEvents(const DocumentData& document) {
   std::vector<ProgrammedEvent> events;

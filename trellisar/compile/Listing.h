@@ -10,7 +10,7 @@ namespace trellisar {
 
 /// The document by name and in stable order: what tools, goldens and messages of failed tests look
 /// at.
-Json listing(const DocumentData& document);
+base::Json listing(const DocumentData& document);
 
 /// The same for reading: devices, bill of materials and the control program in words.
 std::string readableText(const DocumentData& document);

@@ -9,6 +9,7 @@
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/dialogs/HelpTopics.h"
+#include "trellisar/library/HostErrors.h"
 
 namespace trellisar {
 namespace {
@@ -70,7 +71,8 @@ void ReportsDialog::save() {
     if (isPdf) {
       printer_->writePdf(forms::toMachinePath(file), shown().title, reportHtml(shown()));
     } else {
-      replaceFile(forms::toMachinePath(file), reportHtml(shown()));
+      raisingHostErrors(
+          [&] { base::replaceFile(forms::toMachinePath(file), reportHtml(shown())); });
     }
   } catch (const host::Error& error) {
     showFailure("The report could not be saved.\r\n\r\n" + error.description());

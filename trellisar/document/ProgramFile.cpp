@@ -24,7 +24,7 @@ void forgetMissingProgram(DocumentData& document, const fs::path& folder) {
 }
 
 void leaveProgramBehind(DocumentData& document, const fs::path& folder) {
-  if (!isSameFile(folder, document.ownFile.parent_path())) document.compiledProgram.clear();
+  if (!base::isSameFile(folder, document.ownFile.parent_path())) document.compiledProgram.clear();
   forgetMissingProgram(document, folder);
   document.programIsCurrent = document.programIsCurrent && !document.compiledProgram.empty();
 }

@@ -2,17 +2,18 @@
 #include <limits>
 #include <utility>
 
+#include "base/Digest.h"
 #include "base/FileIO.h"
 #include "base/Json.h"
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
-#include "receiver/Digest.h"
 #include "trellisar/document/Provisioning.h"
 #include "trellisar/document/StepRules.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemFileFormat.h"
 #include "trellisar/library/DefinitionJson.h"
+#include "trellisar/library/HostErrors.h"
 
 namespace trellisar {
 namespace {
@@ -28,32 +29,32 @@ constexpr std::int32_t least32 = std::numeric_limits<std::int32_t>::min();
 /// it.
 class Loader {
  public:
-  Loader(DocumentData& document, const Json& json, const std::string& file)
+  Loader(DocumentData& document, const base::Json& json, const std::string& file)
       : document_(document), root_(json, file) {}
 
   void load() {
     readHead();
-    root_.at("definitions").each([&](const JsonReader& item) { readDefinitionOf(item); });
+    root_.at("definitions").each([&](const base::JsonReader& item) { readDefinitionOf(item); });
     root_.at("devices").each(
-        [&](const JsonReader& item) { readDevice(item, Kind::device, document_.devices); });
-    root_.at("touch_panels").each([&](const JsonReader& item) { readPanel(item); });
+        [&](const base::JsonReader& item) { readDevice(item, Kind::device, document_.devices); });
+    root_.at("touch_panels").each([&](const base::JsonReader& item) { readPanel(item); });
     readControlSystem();
-    root_.at("sensor_handles").each([&](const JsonReader& item) { readSensorHandle(item); });
-    root_.at("bill_of_materials").each([&](const JsonReader& item) { readBillEntry(item); });
-    root_.at("presets").each([&](const JsonReader& item) { readPresetHead(item); });
+    root_.at("sensor_handles").each([&](const base::JsonReader& item) { readSensorHandle(item); });
+    root_.at("bill_of_materials").each([&](const base::JsonReader& item) { readBillEntry(item); });
+    root_.at("presets").each([&](const base::JsonReader& item) { readPresetHead(item); });
     readReferences("devices", document_.devices);
     readReferences("touch_panels", document_.panels);
     std::size_t place = 0;
     root_.at("presets").each(
-        [&](JsonReader item) { readSteps(item.at("steps"), *document_.presets[place++]); });
+        [&](base::JsonReader item) { readSteps(item.at("steps"), *document_.presets[place++]); });
     root_.finish();
   }
 
  private:
   void readHead() {
-    const JsonReader format = root_.at("format");
+    const base::JsonReader format = root_.at("format");
     if (format.text() != systemFileFormat) format.fail("is no Trellisar system");
-    const JsonReader version = root_.at("version");
+    const base::JsonReader version = root_.at("version");
     if (const auto number = version.integer(1, INT32_MAX); number != systemFileVersion) {
       version.fail("the file is of version " + std::to_string(number) +
                    "; this program reads version " + std::to_string(systemFileVersion));
@@ -61,19 +62,19 @@ class Loader {
     document_.name = root_.at("name").text();
     document_.application = root_.at("application").text();
     document_.programIsCurrent = root_.at("program_is_current").boolean();
-    const JsonReader compiled = root_.at("compiled_program");
+    const base::JsonReader compiled = root_.at("compiled_program");
     document_.compiledProgram = compiled.text();
     if (document_.compiledProgram.find_first_of("/\\") != std::string::npos) {
       compiled.fail("must be the name of a file in the system's folder");
     }
-    root_.at("settings").eachKey([&](const std::string& title, const JsonReader& text) {
+    root_.at("settings").eachKey([&](const std::string& title, const base::JsonReader& text) {
       document_.settings.emplace_back(title, text.text());
     });
     document_.nextId = root_.at("next_id").int16(1);
     document_.nextHandle = root_.at("next_handle").int16(1);
   }
 
-  void readDefinitionOf(JsonReader reader) {
+  void readDefinitionOf(base::JsonReader reader) {
     const Form form = readForm(reader.at("form"));
     std::string maker;
     if (form != Form::module) maker = reader.at("maker").text();
@@ -82,7 +83,7 @@ class Loader {
     reader.finish();
   }
 
-  const DefinitionPtr& definition(const JsonReader& reader, Kind kind) const {
+  const DefinitionPtr& definition(const base::JsonReader& reader, Kind kind) const {
     const auto place = static_cast<std::size_t>(reader.integer(0, INT32_MAX));
     if (place >= definitions_.size()) reader.fail("there is no such definition");
     const Form form = definitions_[place]->form;
@@ -93,13 +94,13 @@ class Loader {
     return definitions_[place];
   }
 
-  void readIdentity(JsonReader& reader, DeviceData& device) {
-    const JsonReader id = reader.at("id");
+  void readIdentity(base::JsonReader& reader, DeviceData& device) {
+    const base::JsonReader id = reader.at("id");
     device.id = id.int16(1);
     if (device.id >= document_.nextId) id.fail("must be below \"next_id\"");
     if (document_.find(device.id)) id.fail("the id stands twice");
     device.name = reader.at("name").text();
-    const JsonReader handle = reader.at("handle");
+    const base::JsonReader handle = reader.at("handle");
     device.handle = handle.int16(0);
     if (device.handle >= document_.nextHandle) handle.fail("must be below \"next_handle\"");
     if (document_.findByHandle(device.handle)) handle.fail("the handle stands twice");
@@ -108,7 +109,7 @@ class Loader {
     static_cast<void>(reader.at("signals"));
   }
 
-  void readDevice(JsonReader reader, Kind kind, std::vector<DevicePtr>& list) {
+  void readDevice(base::JsonReader reader, Kind kind, std::vector<DevicePtr>& list) {
     auto device = std::make_shared<DeviceData>();
     device->kind = kind;
     readIdentity(reader, *device);
@@ -124,7 +125,7 @@ class Loader {
     device->realTimePage = reader.at("real_time_page").text();
     device->sensorHandle = reader.at("sensor_handle").int16(least16);
     device->sensorFormat = reader.at("sensor_format").text();
-    reader.at("standard_commands").each([&](const JsonReader& item) {
+    reader.at("standard_commands").each([&](const base::JsonReader& item) {
       readStandardCommand(item, *device);
     });
     readProperties(reader.at("properties"), *device);
@@ -133,12 +134,12 @@ class Loader {
     document_.enter(device);
     if (kind == Kind::device) {
       reader.at("modules").each(
-          [&](const JsonReader& item) { readDevice(item, Kind::module, device->modules); });
+          [&](const base::JsonReader& item) { readDevice(item, Kind::module, device->modules); });
     }
     reader.finish();
   }
 
-  void readPanel(JsonReader reader) {
+  void readPanel(base::JsonReader reader) {
     auto panel = std::make_shared<DeviceData>();
     panel->kind = Kind::panel;
     readIdentity(reader, *panel);
@@ -152,9 +153,9 @@ class Loader {
     document_.enter(panel);
   }
 
-  static void readStandardCommand(JsonReader reader, DeviceData& device) {
+  static void readStandardCommand(base::JsonReader reader, DeviceData& device) {
     auto command = std::make_shared<host::StandardCommand>();
-    const JsonReader id = reader.at("id");
+    const base::JsonReader id = reader.at("id");
     command->put_StandardID(id.int16(0));
     if (device.findStandardCommand(command->get_StandardID())) id.fail("the id stands twice");
     command->put_DeviceID(device.id);
@@ -165,9 +166,9 @@ class Loader {
     device.standardCommands.push_back(std::move(command));
   }
 
-  static void readProperties(JsonReader reader, DeviceData& device) {
+  static void readProperties(base::JsonReader reader, DeviceData& device) {
     for (auto& [name, value] : device.properties) {
-      const JsonReader stored = reader.at(name.c_str());
+      const base::JsonReader stored = reader.at(name.c_str());
       value = stored.text();
       if (!device.definition->findProperty(name)->takes(value)) {
         stored.fail("\"" + value + "\" is not what the property takes");
@@ -177,7 +178,7 @@ class Loader {
   }
 
   void readControlSystem() {
-    const JsonReader reader = root_.at("control_system");
+    const base::JsonReader reader = root_.at("control_system");
     document_.controlSystem = reader.int16(1);
     const DevicePtr receiver = document_.find(document_.controlSystem, Kind::device);
     if (!receiver || receiver->definition->form != Form::receiver) {
@@ -185,7 +186,7 @@ class Loader {
     }
   }
 
-  void readSensorHandle(JsonReader reader) {
+  void readSensorHandle(base::JsonReader reader) {
     SensorHandle sensor;
     sensor.model = reader.at("model").int16(1);
     sensor.number = reader.at("number").int16(least16);
@@ -194,7 +195,7 @@ class Loader {
     document_.sensorHandles.push_back(sensor);
   }
 
-  static BillLine readBillLine(JsonReader reader) {
+  static BillLine readBillLine(base::JsonReader reader) {
     BillLine line;
     line.part = reader.at("part").int32(0);
     line.quantity = reader.at("quantity").int32(0);
@@ -202,21 +203,21 @@ class Loader {
     return line;
   }
 
-  void readBillEntry(JsonReader reader) {
+  void readBillEntry(base::JsonReader reader) {
     auto entry = std::make_shared<BillEntryData>();
-    const JsonReader key = reader.at("key");
+    const base::JsonReader key = reader.at("key");
     entry->key = key.int32(least32);
     if (document_.findBillEntry(entry->key)) key.fail("the key stands twice");
     entry->main = readBillLine(reader.at("main"));
     reader.at("parts").each(
-        [&](const JsonReader& item) { entry->parts.push_back(readBillLine(item)); });
+        [&](const base::JsonReader& item) { entry->parts.push_back(readBillLine(item)); });
     reader.finish();
     document_.bill.push_back(std::move(entry));
   }
 
-  void readPresetHead(JsonReader reader) {
+  void readPresetHead(base::JsonReader reader) {
     const auto preset = document_.makePreset();
-    const JsonReader name = reader.at("name");
+    const base::JsonReader name = reader.at("name");
     preset->name = name.text();
     preset->comment = reader.at("comment").text();
     static_cast<void>(reader.at("steps"));
@@ -228,29 +229,29 @@ class Loader {
   /// What devices and panels say about others: parents, slots and signals.
   void readReferences(const char* key, const std::vector<DevicePtr>& devices) {
     std::size_t place = 0;
-    root_.at(key).each([&](JsonReader item) { readReferences(item, devices[place++]); });
+    root_.at(key).each([&](base::JsonReader item) { readReferences(item, devices[place++]); });
   }
 
-  void readReferences(JsonReader& reader, const DevicePtr& device) {
-    const JsonReader parent = reader.at("parent");
+  void readReferences(base::JsonReader& reader, const DevicePtr& device) {
+    const base::JsonReader parent = reader.at("parent");
     if (device->parent != 0 && !document_.find(device->parent, Kind::device)) {
       parent.fail("there is no device under this id");
     }
-    reader.at("signals").each([&](const JsonReader& item) { readSignal(item, *device); });
+    reader.at("signals").each([&](const base::JsonReader& item) { readSignal(item, *device); });
     if (device->kind == Kind::panel) return;
     readSlots(reader.at("slots"), *device);
     if (device->kind == Kind::module) return;
     std::size_t place = 0;
     reader.at("modules").each(
-        [&](JsonReader item) { readReferences(item, device->modules[place++]); });
+        [&](base::JsonReader item) { readReferences(item, device->modules[place++]); });
   }
 
-  void readSlots(const JsonReader& list, DeviceData& device) {
+  void readSlots(const base::JsonReader& list, DeviceData& device) {
     std::size_t place = 0;
-    list.each([&](JsonReader reader) {
+    list.each([&](base::JsonReader reader) {
       if (place >= device.slots.size()) reader.fail("the module has no further slot");
       SlotData& slot = *device.slots[place++];
-      if (const JsonReader name = reader.at("name"); name.text() != slot.name) {
+      if (const base::JsonReader name = reader.at("name"); name.text() != slot.name) {
         name.fail("must be \"" + slot.name + "\"");
       }
       slot.device = knownDevice(reader.at("device"));
@@ -261,13 +262,13 @@ class Loader {
   }
 
   /// An id of the document, or 0 for none.
-  std::int16_t knownDevice(const JsonReader& reader) const {
+  std::int16_t knownDevice(const base::JsonReader& reader) const {
     const std::int16_t id = reader.int16(0);
     if (id != 0 && !document_.find(id)) reader.fail("there is no device under this id");
     return id;
   }
 
-  void readSignal(JsonReader reader, DeviceData& device) {
+  void readSignal(base::JsonReader reader, DeviceData& device) {
     auto signal = std::make_shared<SignalData>();
     signal->deviceId = device.id;
     signal->row.output = reader.at("output").text();
@@ -286,7 +287,7 @@ class Loader {
       }
     }
     std::size_t event = 0;
-    reader.at("events").each([&](const JsonReader& steps) {
+    reader.at("events").each([&](const base::JsonReader& steps) {
       if (event >= signal->events.size()) steps.fail("a signal has two events");
       readSteps(steps, *document_.eventPreset(*signal, event++));
     });
@@ -294,8 +295,8 @@ class Loader {
     device.signals.push_back(std::move(signal));
   }
 
-  void readSteps(const JsonReader& list, PresetData& preset) {
-    list.each([&](const JsonReader& item) {
+  void readSteps(const base::JsonReader& list, PresetData& preset) {
+    list.each([&](const base::JsonReader& item) {
       auto step = std::make_shared<StepData>();
       step->preset = &preset;
       preset.steps.push_back(step);
@@ -303,8 +304,8 @@ class Loader {
     });
   }
 
-  void readStep(JsonReader reader, StepData& step) {
-    const JsonReader kind = reader.at("kind");
+  void readStep(base::JsonReader reader, StepData& step) {
+    const base::JsonReader kind = reader.at("kind");
     step.kind = kind.int16(1);
     if (step.kind == host::stepCallPreset) {
       readCall(reader.at("preset"), step);
@@ -317,14 +318,14 @@ class Loader {
     reader.finish();
   }
 
-  void readCall(const JsonReader& reader, StepData& step) {
+  void readCall(const base::JsonReader& reader, StepData& step) {
     const auto preset = document_.findPreset(reader.text());
     if (!preset) reader.fail("there is no preset \"" + reader.text() + "\"");
     step.targetType = host::targetPreset;
     step.target = preset->id;
   }
 
-  void readBranch(JsonReader& reader, StepData& step) {
+  void readBranch(base::JsonReader& reader, StepData& step) {
     if (step.preset->depth >= maximumBranchDepth) {
       reader.fail("more than " + std::to_string(maximumBranchDepth) +
                   " conditional steps stand one inside the other");
@@ -332,7 +333,7 @@ class Loader {
     step.targetType = host::targetNone;
     step.branch = document_.makePreset();
     step.branch->depth = step.preset->depth + 1;
-    reader.ifPresent("when", [&](JsonReader when) {
+    reader.ifPresent("when", [&](base::JsonReader when) {
       host::StepCondition condition;
       condition.put_DeviceID(knownDevice(when.at("device")));
       condition.put_ConditionType(when.at("type").int32(least32));
@@ -346,21 +347,22 @@ class Loader {
     readSteps(reader.at("steps"), *step.branch);
   }
 
-  void readCommand(JsonReader& reader, StepData& step) {
+  void readCommand(base::JsonReader& reader, StepData& step) {
     step.targetType = reader.at("target_type").int16(host::targetDevice, host::targetTouchpanel);
-    const JsonReader target = reader.at("target");
+    const base::JsonReader target = reader.at("target");
     step.target = target.int16(1);
     if (!isTargetThere(document_, step.targetType, step.target)) {
       target.fail("there is no device under this id");
     }
     step.signal = reader.at("signal").text();
-    reader.ifPresent("value", [&](const JsonReader& value) { step.value = value.text(); });
-    reader.ifPresent("value_format",
-                     [&](const JsonReader& value) { step.valueFormat = value.int16(least16); });
+    reader.ifPresent("value", [&](const base::JsonReader& value) { step.value = value.text(); });
+    reader.ifPresent("value_format", [&](const base::JsonReader& value) {
+      step.valueFormat = value.int16(least16);
+    });
   }
 
   DocumentData& document_;
-  JsonReader root_;
+  base::JsonReader root_;
   std::vector<DefinitionPtr> definitions_;
 };
 
@@ -375,17 +377,19 @@ std::string systemName(const fs::path& file, const std::string& stored) {
 
 DocumentPtr readSystemFile(const fs::path& file,
                            const std::shared_ptr<const DeviceLibrary>& library) {
-  const std::string shown = file.filename().string();
-  const std::string text = readFile(file);
-  const Json json = parseJson(text, shown);
-  auto document = std::make_shared<DocumentData>(library);
-  Loader(*document, json, shown).load();
-  document->name = systemName(file, document->name);
-  document->ownFile = fs::absolute(file).lexically_normal();
-  document->ownDigest = receiver::Digest::of(text);
-  document->folder = forms::fromMachinePath(document->ownFile.parent_path());
-  if (!document->folder.ends_with('\\')) document->folder += "\\";
-  return document;
+  return raisingHostErrors([&] {
+    const std::string shown = file.filename().string();
+    const std::string text = base::readFile(file);
+    const base::Json json = base::parseJson(text, shown);
+    auto document = std::make_shared<DocumentData>(library);
+    Loader(*document, json, shown).load();
+    document->name = systemName(file, document->name);
+    document->ownFile = fs::absolute(file).lexically_normal();
+    document->ownDigest = base::Digest::of(text);
+    document->folder = forms::fromMachinePath(document->ownFile.parent_path());
+    if (!document->folder.ends_with('\\')) document->folder += "\\";
+    return document;
+  });
 }
 
 }  // namespace trellisar

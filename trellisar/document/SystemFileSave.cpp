@@ -1,14 +1,15 @@
 #include <system_error>
 #include <utility>
 
+#include "base/Digest.h"
 #include "base/FileIO.h"
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
-#include "receiver/Digest.h"
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemNames.h"
+#include "trellisar/library/HostErrors.h"
 
 namespace trellisar {
 namespace {
@@ -30,13 +31,13 @@ void checkName(const std::string& name) {
 
 void write(const DocumentData& document, const fs::path& file, const std::string& text,
            Overwriting overwriting) {
-  if (overwriting == Overwriting::allowed) return replaceFile(file, text);
+  if (overwriting == Overwriting::allowed) return base::replaceFile(file, text);
   switch (standingAt(document, file)) {
     case Standing::nothing:
-      if (!createFile(file, text)) refuse(file, "was made by another program just now.");
+      if (!base::createFile(file, text)) refuse(file, "was made by another program just now.");
       return;
     case Standing::own:
-      return replaceFile(file, text);
+      return base::replaceFile(file, text);
     case Standing::changed:
       refuse(file, "was changed by another program since the system was opened.");
     case Standing::other:
@@ -53,9 +54,10 @@ std::string withSystemExtension(const std::string& path) {
 Standing standingAt(const DocumentData& document, const fs::path& file) {
   std::error_code error;
   if (!fs::exists(file, error)) return Standing::nothing;
-  if (!isSameFile(file, document.ownFile)) return Standing::other;
+  if (!base::isSameFile(file, document.ownFile)) return Standing::other;
   if (!fs::is_regular_file(file, error)) return Standing::own;  // the write tells what it is
-  const bool isAsItWas = receiver::Digest::of(readFile(file)) == document.ownDigest;
+  const std::string content = raisingHostErrors([&] { return base::readFile(file); });
+  const bool isAsItWas = base::Digest::of(content) == document.ownDigest;
   return isAsItWas ? Standing::own : Standing::changed;
 }
 
@@ -68,14 +70,14 @@ void saveSystemFile(DocumentData& document, const std::string& path, Overwriting
   leaveProgramBehind(document, file.parent_path());
   const std::string text = systemFileText(document);
   try {
-    write(document, file, text, overwriting);
+    raisingHostErrors([&] { write(document, file, text, overwriting); });
   } catch (const host::Error&) {
     document.compiledProgram = oldProgram;
     document.programIsCurrent = wasCurrent;
     throw;
   }
   document.ownFile = file;
-  document.ownDigest = receiver::Digest::of(text);
+  document.ownDigest = base::Digest::of(text);
 }
 
 }  // namespace trellisar

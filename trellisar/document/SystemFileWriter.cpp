@@ -26,10 +26,10 @@ class Definitions {
     return place;
   }
 
-  Json json() const {
-    Json list = Json::array();
+  base::Json json() const {
+    base::Json list = base::Json::array();
     for (const DefinitionPtr& definition : list_) {
-      Json item = emptyObject(3);
+      base::Json item = base::emptyObject(3);
       item["form"] = formName(definition->form);
       if (definition->form != Definition::Form::module) item["maker"] = definition->maker;
       item["definition"] = definitionJson(*definition);
@@ -46,17 +46,17 @@ class Writer {
  public:
   explicit Writer(const DocumentData& document) : document_(document) {}
 
-  Json write() {
-    Json devices = list(document_.devices);
-    Json panels = list(document_.panels);
-    Json json = emptyObject(16);
+  base::Json write() {
+    base::Json devices = list(document_.devices);
+    base::Json panels = list(document_.panels);
+    base::Json json = base::emptyObject(16);
     json["format"] = systemFileFormat;
     json["version"] = systemFileVersion;
     json["name"] = document_.name;
     json["application"] = document_.application;
     json["program_is_current"] = document_.programIsCurrent;
     json["compiled_program"] = document_.compiledProgram;
-    json["settings"] = Json::object();
+    json["settings"] = base::Json::object();
     for (const auto& [title, text] : document_.settings) json["settings"][title] = text;
     json["next_id"] = document_.nextId;
     json["next_handle"] = document_.nextHandle;
@@ -71,8 +71,8 @@ class Writer {
   }
 
  private:
-  Json list(const std::vector<DevicePtr>& devices) {
-    Json items = Json::array();
+  base::Json list(const std::vector<DevicePtr>& devices) {
+    base::Json items = base::Json::array();
     for (const DevicePtr& device : devices) {
       items.push_back(device->kind == Kind::panel ? panel(*device) : this->device(*device));
     }
@@ -82,8 +82,8 @@ class Writer {
   /// An id that is not in the document is stored as none.
   std::int16_t known(std::int16_t id) const { return document_.find(id) ? id : std::int16_t{0}; }
 
-  Json device(const DeviceData& device) {
-    Json json = emptyObject(21);
+  base::Json device(const DeviceData& device) {
+    base::Json json = base::emptyObject(21);
     json["id"] = device.id;
     json["name"] = device.name;
     json["short_name"] = device.shortName;
@@ -102,7 +102,7 @@ class Writer {
     json["sensor_handle"] = device.sensorHandle;
     json["sensor_format"] = device.sensorFormat;
     json["standard_commands"] = standardCommands(device);
-    json["properties"] = Json::object();
+    json["properties"] = base::Json::object();
     for (const auto& [name, value] : device.properties) json["properties"][name] = value;
     json["slots"] = slots(device);
     json["signals"] = signals(device);
@@ -110,8 +110,8 @@ class Writer {
     return json;
   }
 
-  Json panel(const DeviceData& panel) {
-    Json json = emptyObject(9);
+  base::Json panel(const DeviceData& panel) {
+    base::Json json = base::emptyObject(9);
     json["id"] = panel.id;
     json["name"] = panel.name;
     json["parent"] = panel.parent;
@@ -124,10 +124,10 @@ class Writer {
     return json;
   }
 
-  static Json standardCommands(const DeviceData& device) {
-    Json list = Json::array();
+  static base::Json standardCommands(const DeviceData& device) {
+    base::Json list = base::Json::array();
     for (const auto& command : device.standardCommands) {
-      Json item = emptyObject(3);
+      base::Json item = base::emptyObject(3);
       item["id"] = command->get_StandardID();
       item["command"] = command->get_CommandName();
       item["library_id"] = command->get_LibraryID();
@@ -136,8 +136,8 @@ class Writer {
     return list;
   }
 
-  Json slots(const DeviceData& device) const {
-    Json list = Json::array();
+  base::Json slots(const DeviceData& device) const {
+    base::Json list = base::Json::array();
     for (const auto& slot : device.slots) {
       list.push_back(
           {{"name", slot->name}, {"device", known(slot->device)}, {"command", slot->command}});
@@ -152,8 +152,8 @@ class Writer {
            signal.sourceSignal.empty();
   }
 
-  Json signal(const SignalData& signal) const {
-    Json json = emptyObject(9);
+  base::Json signal(const SignalData& signal) const {
+    base::Json json = base::emptyObject(9);
     json["output"] = signal.row.output;
     json["input"] = signal.row.input;
     json["type"] = signal.row.type;
@@ -162,16 +162,16 @@ class Writer {
     json["source_type"] = signal.sourceType;
     json["source_device"] = known(signal.sourceDevice);
     json["source_signal"] = signal.sourceSignal;
-    json["events"] = Json::array();
+    json["events"] = base::Json::array();
     for (const auto& event : signal.events) {
-      json["events"].push_back(event ? steps(*event) : Json::array());
+      json["events"].push_back(event ? steps(*event) : base::Json::array());
     }
     return json;
   }
 
   /// In the order of the signal table, those first that the driver no longer has: the order in
   /// which they were asked for is chance.
-  Json signals(const DeviceData& device) const {
+  base::Json signals(const DeviceData& device) const {
     std::vector<SignalRow> table = device.definition->signalTable();
     std::vector<std::pair<std::ptrdiff_t, const SignalData*>> stored;
     for (const auto& signal : device.signals) {
@@ -181,13 +181,13 @@ class Writer {
     }
     std::stable_sort(stored.begin(), stored.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
-    Json list = Json::array();
+    base::Json list = base::Json::array();
     for (const auto& [row, data] : stored) list.push_back(signal(*data));
     return list;
   }
 
-  Json condition(const host::StepCondition& condition) const {
-    Json json = emptyObject(6);
+  base::Json condition(const host::StepCondition& condition) const {
+    base::Json json = base::emptyObject(6);
     json["device"] = known(condition.get_DeviceID());
     json["type"] = condition.get_ConditionType();
     json["signal"] = condition.get_SignalName();
@@ -197,8 +197,8 @@ class Writer {
     return json;
   }
 
-  Json step(const StepData& step) const {
-    Json json = emptyObject(6);
+  base::Json step(const StepData& step) const {
+    base::Json json = base::emptyObject(6);
     json["kind"] = step.kind;
     if (step.kind == host::stepCallPreset) {
       json["preset"] = document_.findPreset(step.target)->name;
@@ -216,43 +216,43 @@ class Writer {
   }
 
   /// A step that was never initialised says nothing and is left out.
-  Json steps(const PresetData& preset) const {
-    Json list = Json::array();
+  base::Json steps(const PresetData& preset) const {
+    base::Json list = base::Json::array();
     for (const auto& data : preset.steps) {
       if (data->kind != 0) list.push_back(step(*data));
     }
     return list;
   }
 
-  Json sensorHandles() const {
-    Json list = Json::array();
+  base::Json sensorHandles() const {
+    base::Json list = base::Json::array();
     for (const auto& [model, number, handle] : document_.sensorHandles) {
       list.push_back({{"model", model}, {"number", number}, {"handle", handle}});
     }
     return list;
   }
 
-  static Json billLine(const BillLine& line) {
+  static base::Json billLine(const BillLine& line) {
     return {{"part", line.part}, {"quantity", line.quantity}};
   }
 
-  Json bill() const {
-    Json list = Json::array();
+  base::Json bill() const {
+    base::Json list = base::Json::array();
     for (const auto& entry : document_.bill) {
-      Json item = emptyObject(3);
+      base::Json item = base::emptyObject(3);
       item["key"] = entry->key;
       item["main"] = billLine(entry->main);
-      item["parts"] = Json::array();
+      item["parts"] = base::Json::array();
       for (const BillLine& line : entry->parts) item["parts"].push_back(billLine(line));
       list.push_back(std::move(item));
     }
     return list;
   }
 
-  Json presets() const {
-    Json list = Json::array();
+  base::Json presets() const {
+    base::Json list = base::Json::array();
     for (const auto& preset : document_.presets) {
-      Json item = emptyObject(3);
+      base::Json item = base::emptyObject(3);
       item["name"] = preset->name;
       item["comment"] = preset->comment;
       item["steps"] = steps(*preset);
@@ -268,7 +268,7 @@ class Writer {
 }  // namespace
 
 std::string systemFileText(const DocumentData& document) {
-  return jsonText(Writer(document).write());
+  return base::jsonText(Writer(document).write());
 }
 
 }  // namespace trellisar

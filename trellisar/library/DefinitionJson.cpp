@@ -54,7 +54,7 @@ const char* nameOf(T value, Choices<T> choices) {
   return "";
 }
 
-std::string nonEmptyText(const JsonReader& reader) {
+std::string nonEmptyText(const base::JsonReader& reader) {
   std::string text = reader.text();
   if (text.empty()) reader.fail("must not be empty");
   return text;
@@ -63,7 +63,7 @@ std::string nonEmptyText(const JsonReader& reader) {
 /// Refuses a second use of a name; names of inputs and of outputs are two worlds.
 class Names {
  public:
-  std::string take(const JsonReader& reader) {
+  std::string take(const base::JsonReader& reader) {
     std::string name = nonEmptyText(reader);
     if (!names_.insert(name).second) reader.fail("\"" + name + "\" stands twice");
     return name;
@@ -73,23 +73,23 @@ class Names {
   std::set<std::string> names_;
 };
 
-PropertyDefinition readProperty(JsonReader reader, Names& names) {
+PropertyDefinition readProperty(base::JsonReader reader, Names& names) {
   PropertyDefinition property;
   property.name = names.take(reader.at("name"));
   property.value = reader.at("value").text();
   property.type = reader.at("type").choice(propertyTypes);
   if (property.type == PropertyType::text) {
     property.hasMaxLength = reader.ifPresent(
-        "max_length", [&](const JsonReader& value) { property.maxLength = value.int32(0); });
+        "max_length", [&](const base::JsonReader& value) { property.maxLength = value.int32(0); });
   } else if (property.type == PropertyType::integer) {
     property.minimum = reader.at("minimum").int32(INT32_MIN);
     property.maximum = reader.at("maximum").int32(property.minimum);
   } else {
     reader.at("choices").each(
-        [&](const JsonReader& value) { property.choices.push_back(value.text()); });
+        [&](const base::JsonReader& value) { property.choices.push_back(value.text()); });
   }
   reader.ifPresent("advanced",
-                   [&](const JsonReader& value) { property.advanced = value.boolean(); });
+                   [&](const base::JsonReader& value) { property.advanced = value.boolean(); });
   reader.finish();
   if (!property.takes(property.value)) {
     reader.at("value").fail("\"" + property.value + "\" is not what the property takes");
@@ -102,8 +102,8 @@ struct SignalNames {
   Names outputs;
 };
 
-void readCommands(const JsonReader& list, Definition& definition, SignalNames& names) {
-  list.each([&](JsonReader reader) {
+void readCommands(const base::JsonReader& list, Definition& definition, SignalNames& names) {
+  list.each([&](base::JsonReader reader) {
     CommandDefinition command{names.inputs.take(reader.at("name")),
                               reader.at("kind").choice(commandKinds)};
     reader.finish();
@@ -111,28 +111,28 @@ void readCommands(const JsonReader& list, Definition& definition, SignalNames& n
   });
 }
 
-void readSignals(JsonReader& reader, Definition& definition, SignalNames& names) {
+void readSignals(base::JsonReader& reader, Definition& definition, SignalNames& names) {
   reader.ifPresent("commands",
-                   [&](const JsonReader& list) { readCommands(list, definition, names); });
-  reader.ifPresent("inputs", [&](const JsonReader& list) {
-    list.each([&](JsonReader row) {
+                   [&](const base::JsonReader& list) { readCommands(list, definition, names); });
+  reader.ifPresent("inputs", [&](const base::JsonReader& list) {
+    list.each([&](base::JsonReader row) {
       definition.furtherInputs.push_back(
           {"", names.inputs.take(row.at("name")), row.at("signal").choice(signalTypes), false});
       row.finish();
     });
   });
-  reader.ifPresent("outputs", [&](const JsonReader& list) {
-    list.each([&](JsonReader row) {
+  reader.ifPresent("outputs", [&](const base::JsonReader& list) {
+    list.each([&](base::JsonReader row) {
       SignalRow output{names.outputs.take(row.at("name")), "", row.at("signal").choice(signalTypes),
                        true};
       row.ifPresent("options",
-                    [&](const JsonReader& value) { output.hasOptions = value.boolean(); });
+                    [&](const base::JsonReader& value) { output.hasOptions = value.boolean(); });
       row.finish();
       definition.outputs.push_back(std::move(output));
     });
   });
-  reader.ifPresent("pairs", [&](const JsonReader& list) {
-    list.each([&](JsonReader row) {
+  reader.ifPresent("pairs", [&](const base::JsonReader& list) {
+    list.each([&](base::JsonReader row) {
       definition.pairs.push_back({names.outputs.take(row.at("output")),
                                   names.inputs.take(row.at("input")),
                                   row.at("signal").choice(signalTypes), true});
@@ -147,8 +147,8 @@ std::int16_t standardId(const std::string& key) {
   return id >= 1 && forms::decimal(id) == key ? id : std::int16_t{0};
 }
 
-void readStandardCommands(const JsonReader& list, Definition& definition) {
-  list.eachKey([&](const std::string& key, const JsonReader& value) {
+void readStandardCommands(const base::JsonReader& list, Definition& definition) {
+  list.eachKey([&](const std::string& key, const base::JsonReader& value) {
     const std::int16_t id = standardId(key);
     if (id == 0) value.fail("the key must be a standard command id");
     const std::string command = value.text();
@@ -157,20 +157,21 @@ void readStandardCommands(const JsonReader& list, Definition& definition) {
   });
 }
 
-void readProperties(JsonReader& reader, Definition& definition) {
-  reader.ifPresent("properties", [&](const JsonReader& list) {
+void readProperties(base::JsonReader& reader, Definition& definition) {
+  reader.ifPresent("properties", [&](const base::JsonReader& list) {
     Names names;
-    list.each([&](const JsonReader& property) {
+    list.each([&](const base::JsonReader& property) {
       definition.properties.push_back(readProperty(property, names));
     });
   });
 }
 
-void readPart(JsonReader& reader, Definition& definition) {
-  reader.ifPresent("part", [&](const JsonReader& value) { definition.part = value.int32(1); });
+void readPart(base::JsonReader& reader, Definition& definition) {
+  reader.ifPresent("part",
+                   [&](const base::JsonReader& value) { definition.part = value.int32(1); });
 }
 
-void readEntry(JsonReader& reader, Definition& definition) {
+void readEntry(base::JsonReader& reader, Definition& definition) {
   definition.controlEntry = reader.at("entry").int16(1);
   definition.modelId = reader.at("model_id").int16(0);
   definition.category = reader.at("category").text();
@@ -181,8 +182,8 @@ void readEntry(JsonReader& reader, Definition& definition) {
 
 /// The receiver's ports by connection. Sensors take the ports of contacts, and the network has as
 /// many places as devices ask for.
-void readPorts(const JsonReader& list, Definition& definition) {
-  list.eachKey([&](const std::string& key, const JsonReader& count) {
+void readPorts(const base::JsonReader& list, Definition& definition) {
+  list.eachKey([&](const std::string& key, const base::JsonReader& count) {
     for (const auto& [name, connection] : portConnections) {
       if (key != name) continue;
       definition.ports.emplace_back(connection, count.int16(0, mostPorts));
@@ -192,45 +193,46 @@ void readPorts(const JsonReader& list, Definition& definition) {
   });
 }
 
-void readReceiver(JsonReader& reader, Definition& definition) {
+void readReceiver(base::JsonReader& reader, Definition& definition) {
   definition.modelId = reader.at("model_id").int16(1);
   definition.part = reader.at("part").int32(1);
-  reader.ifPresent("ports", [&](const JsonReader& list) { readPorts(list, definition); });
+  reader.ifPresent("ports", [&](const base::JsonReader& list) { readPorts(list, definition); });
 }
 
-void readDriver(JsonReader& reader, Definition& definition) {
+void readDriver(base::JsonReader& reader, Definition& definition) {
   definition.model = reader.at("model").text();
   definition.type = reader.at("type").int16(0);
   definition.connection = reader.at("connection").choice(connections);
   reader.ifPresent("second_off",
-                   [&](const JsonReader& value) { definition.secondOff = value.boolean(); });
-  reader.ifPresent("terminals", [&](const JsonReader& list) {
+                   [&](const base::JsonReader& value) { definition.secondOff = value.boolean(); });
+  reader.ifPresent("terminals", [&](const base::JsonReader& list) {
     Names names;
-    list.each([&](const JsonReader& name) { definition.terminals.push_back(names.take(name)); });
+    list.each(
+        [&](const base::JsonReader& name) { definition.terminals.push_back(names.take(name)); });
     if (definition.terminals.size() > mostPorts) list.fail("are more than a receiver has");
   });
 }
 
-void readModule(JsonReader& reader, Definition& definition) {
+void readModule(base::JsonReader& reader, Definition& definition) {
   definition.id = reader.at("id").int16(1);
   definition.shortName = nonEmptyText(reader.at("short_name"));
   definition.maker = reader.at("maker").text();
   Names names;
   reader.at("slots").each(
-      [&](const JsonReader& slot) { definition.slots.push_back(names.take(slot)); });
+      [&](const base::JsonReader& slot) { definition.slots.push_back(names.take(slot)); });
 }
 
-void readInterface(JsonReader& reader, Definition& definition) {
+void readInterface(base::JsonReader& reader, Definition& definition) {
   definition.modelId = reader.at("model_id").int16(1);
   definition.model = reader.at("model").text();
   definition.projectPanel = reader.at("project_panel").boolean();
   readPart(reader, definition);
 }
 
-Json signalRows(const std::vector<SignalRow>& rows) {
-  Json list = Json::array();
+base::Json signalRows(const std::vector<SignalRow>& rows) {
+  base::Json list = base::Json::array();
   for (const SignalRow& row : rows) {
-    Json item = emptyObject(3);
+    base::Json item = base::emptyObject(3);
     if (!row.input.empty() && !row.output.empty()) {
       item["input"] = row.input;
       item["output"] = row.output;
@@ -244,10 +246,10 @@ Json signalRows(const std::vector<SignalRow>& rows) {
   return list;
 }
 
-Json commandList(const std::vector<CommandDefinition>& commands) {
-  Json list = Json::array();
+base::Json commandList(const std::vector<CommandDefinition>& commands) {
+  base::Json list = base::Json::array();
   for (const CommandDefinition& command : commands) {
-    Json item = emptyObject(2);
+    base::Json item = base::emptyObject(2);
     item["name"] = command.name;
     item["kind"] = nameOf(command.type, commandKinds);
     list.push_back(std::move(item));
@@ -255,8 +257,8 @@ Json commandList(const std::vector<CommandDefinition>& commands) {
   return list;
 }
 
-Json propertyJson(const PropertyDefinition& property) {
-  Json item = emptyObject(6);
+base::Json propertyJson(const PropertyDefinition& property) {
+  base::Json item = base::emptyObject(6);
   item["name"] = property.name;
   item["value"] = property.value;
   item["type"] = nameOf(property.type, propertyTypes);
@@ -270,7 +272,7 @@ Json propertyJson(const PropertyDefinition& property) {
   return item;
 }
 
-void addDriver(Json& json, const Definition& definition) {
+void addDriver(base::Json& json, const Definition& definition) {
   json["model"] = definition.model;
   json["type"] = definition.type;
   json["connection"] = nameOf(definition.connection, connections);
@@ -278,7 +280,7 @@ void addDriver(Json& json, const Definition& definition) {
   if (!definition.terminals.empty()) json["terminals"] = definition.terminals;
 }
 
-void addEntry(Json& json, const Definition& definition) {
+void addEntry(base::Json& json, const Definition& definition) {
   json["entry"] = definition.controlEntry;
   json["model_id"] = definition.modelId;
   json["category"] = definition.category;
@@ -288,7 +290,7 @@ void addEntry(Json& json, const Definition& definition) {
   addDriver(json, definition);
 }
 
-void addReceiver(Json& json, const Definition& definition) {
+void addReceiver(base::Json& json, const Definition& definition) {
   json["model_id"] = definition.modelId;
   json["part"] = definition.part;
   for (const auto& [connection, count] : definition.ports) {
@@ -297,21 +299,21 @@ void addReceiver(Json& json, const Definition& definition) {
   addDriver(json, definition);
 }
 
-void addModule(Json& json, const Definition& definition) {
+void addModule(base::Json& json, const Definition& definition) {
   json["id"] = definition.id;
   json["short_name"] = definition.shortName;
   json["maker"] = definition.maker;
   json["slots"] = definition.slots;
 }
 
-void addInterface(Json& json, const Definition& definition) {
+void addInterface(base::Json& json, const Definition& definition) {
   json["model_id"] = definition.modelId;
   json["model"] = definition.model;
   json["project_panel"] = definition.projectPanel;
   if (definition.part != 0) json["part"] = definition.part;
 }
 
-void addSignals(Json& json, const Definition& definition) {
+void addSignals(base::Json& json, const Definition& definition) {
   if (!definition.commands.empty()) json["commands"] = commandList(definition.commands);
   if (!definition.furtherInputs.empty()) json["inputs"] = signalRows(definition.furtherInputs);
   if (!definition.outputs.empty()) json["outputs"] = signalRows(definition.outputs);
@@ -320,7 +322,7 @@ void addSignals(Json& json, const Definition& definition) {
 
 }  // namespace
 
-Definition readDefinition(JsonReader reader, Form form, const std::string& maker) {
+Definition readDefinition(base::JsonReader reader, Form form, const std::string& maker) {
   Definition definition;
   definition.form = form;
   definition.maker = maker;
@@ -344,14 +346,14 @@ Definition readDefinition(JsonReader reader, Form form, const std::string& maker
   SignalNames names;
   readSignals(reader, definition, names);
   reader.ifPresent("standard_commands",
-                   [&](const JsonReader& value) { readStandardCommands(value, definition); });
+                   [&](const base::JsonReader& value) { readStandardCommands(value, definition); });
   readProperties(reader, definition);
   reader.finish();
   return definition;
 }
 
-Json definitionJson(const Definition& definition) {
-  Json json = emptyObject(18);
+base::Json definitionJson(const Definition& definition) {
+  base::Json json = base::emptyObject(18);
   json["name"] = definition.name;
   json["description"] = definition.description;
   switch (definition.form) {
@@ -380,6 +382,6 @@ Json definitionJson(const Definition& definition) {
 
 const char* formName(Form form) { return nameOf(form, definitionForms); }
 
-Form readForm(const JsonReader& reader) { return reader.choice(definitionForms); }
+Form readForm(const base::JsonReader& reader) { return reader.choice(definitionForms); }
 
 }  // namespace trellisar

@@ -8,13 +8,13 @@
 namespace trellisar {
 
 /// Reads a definition in the form of the device library. Raises what JsonReader raises.
-Definition readDefinition(JsonReader reader, Definition::Form form, const std::string& maker);
+Definition readDefinition(base::JsonReader reader, Definition::Form form, const std::string& maker);
 
 /// The same as JSON; `readDefinition` gives it back.
-Json definitionJson(const Definition& definition);
+base::Json definitionJson(const Definition& definition);
 
 /// "device", "module", "interface", "receiver".
 const char* formName(Definition::Form form);
-Definition::Form readForm(const JsonReader& reader);
+Definition::Form readForm(const base::JsonReader& reader);
 
 }  // namespace trellisar

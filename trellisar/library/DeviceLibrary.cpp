@@ -6,6 +6,7 @@
 
 #include "base/FileIO.h"
 #include "trellisar/library/DefinitionJson.h"
+#include "trellisar/library/HostErrors.h"
 
 namespace trellisar {
 namespace {
@@ -13,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using Form = Definition::Form;
 
-constexpr JsonLimits libraryLimits{8U << 20U, 20, 1000};
+constexpr base::JsonLimits libraryLimits{8U << 20U, 20, 1000};
 
 std::string shownName(const fs::path& folder, const std::string& file) {
   return (folder.filename() / file).string();
@@ -21,34 +22,55 @@ std::string shownName(const fs::path& folder, const std::string& file) {
 
 /// Parses a file of the folder and reads "format" and "version". `json` and `shown` are kept by the
 /// caller, since the reader refers to them.
-JsonReader openFile(const Json& json, const std::string& shown, const char* format) {
-  JsonReader reader(json, shown);
-  const JsonReader kind = reader.at("format");
+base::JsonReader openFile(const base::Json& json, const std::string& shown, const char* format) {
+  base::JsonReader reader(json, shown);
+  const base::JsonReader kind = reader.at("format");
   if (kind.text() != format) kind.fail("must be \"" + std::string(format) + "\"");
   reader.at("version").integer(1, 1);
   return reader;
 }
 
 std::vector<DefinitionPtr> readLibraryFile(const fs::path& folder, const std::string& name) {
-  const std::string shown = shownName(folder, name);
-  const Json json = parseJson(readFile(folder / name), shown, libraryLimits);
-  JsonReader reader = openFile(json, shown, "trellisar-devices");
-  const std::string maker = reader.at("maker").text();
-  std::vector<DefinitionPtr> definitions;
-  constexpr std::pair<const char*, Form> lists[] = {{"devices", Form::device},
-                                                    {"modules", Form::module},
-                                                    {"interfaces", Form::interface},
-                                                    {"receivers", Form::receiver}};
-  for (const auto& [key, form] : lists) {
-    reader.ifPresent(key, [&, listed = form](const JsonReader& list) {
-      list.each([&](const JsonReader& item) {
-        definitions.push_back(
-            std::make_shared<const Definition>(readDefinition(item, listed, maker)));
+  return raisingHostErrors([&] {
+    const std::string shown = shownName(folder, name);
+    const base::Json json = base::parseJson(base::readFile(folder / name), shown, libraryLimits);
+    base::JsonReader reader = openFile(json, shown, "trellisar-devices");
+    const std::string maker = reader.at("maker").text();
+    std::vector<DefinitionPtr> definitions;
+    constexpr std::pair<const char*, Form> lists[] = {{"devices", Form::device},
+                                                      {"modules", Form::module},
+                                                      {"interfaces", Form::interface},
+                                                      {"receivers", Form::receiver}};
+    for (const auto& [key, form] : lists) {
+      reader.ifPresent(key, [&, listed = form](const base::JsonReader& list) {
+        list.each([&](const base::JsonReader& item) {
+          definitions.push_back(
+              std::make_shared<const Definition>(readDefinition(item, listed, maker)));
+        });
       });
-    });
-  }
+    }
+    reader.finish();
+    return definitions;
+  });
+}
+
+std::vector<std::string> indexedFiles(const fs::path& folder) {
+  const std::string shown = shownName(folder, "index.json");
+  const base::Json json =
+      base::parseJson(base::readFile(folder / "index.json"), shown, libraryLimits);
+  base::JsonReader reader = openFile(json, shown, "trellisar-device-library");
+  std::vector<std::string> names;
+  reader.at("files").each([&](const base::JsonReader& item) {
+    const std::string name = item.text();
+    if (name.empty() || name.find('/') != std::string::npos) item.fail("must be a file's name");
+    if (std::find(names.begin(), names.end(), name) != names.end()) {
+      item.fail("the file stands twice");
+    }
+    if (!fs::is_regular_file(folder / name)) item.fail("\"" + name + "\" is not in the folder");
+    names.push_back(name);
+  });
   reader.finish();
-  return definitions;
+  return names;
 }
 
 /// Refuses a second use of a key.
@@ -70,18 +92,9 @@ class Unique {
 
 DeviceLibrary::DeviceLibrary(fs::path folder) : folder_(std::move(folder)) {
   if (!folder_.has_filename()) folder_ = folder_.parent_path();
-  const std::string shown = shownName(folder_, "index.json");
-  const Json json = parseJson(readFile(folder_ / "index.json"), shown, libraryLimits);
-  JsonReader reader = openFile(json, shown, "trellisar-device-library");
-  reader.at("files").each([&](const JsonReader& item) {
-    const std::string name = item.text();
-    if (name.empty() || name.find('/') != std::string::npos) item.fail("must be a file's name");
-    const auto isName = [&name](const File& file) { return file.name == name; };
-    if (std::any_of(files_.begin(), files_.end(), isName)) item.fail("the file stands twice");
-    if (!fs::is_regular_file(folder_ / name)) item.fail("\"" + name + "\" is not in the folder");
-    files_.push_back({name, false, {}});
-  });
-  reader.finish();
+  for (std::string& name : raisingHostErrors([this] { return indexedFiles(folder_); })) {
+    files_.push_back({std::move(name), false, {}});
+  }
 }
 
 const DeviceLibrary::File& DeviceLibrary::read(std::size_t index) const {

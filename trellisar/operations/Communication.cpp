@@ -11,12 +11,12 @@
 #include "host/Numbers.h"
 #include "receiver/Client.h"
 #include "receiver/Error.h"
-#include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/communication/AddressBookDialog.h"
-#include "trellisar/dialogs/DoneDialog.h"
 #include "trellisar/communication/IPSettingsDialog.h"
 #include "trellisar/communication/PasswordDialog.h"
 #include "trellisar/communication/TransferDialog.h"
+#include "trellisar/compile/CompiledProgram.h"
+#include "trellisar/dialogs/DoneDialog.h"
 #include "trellisar/panels/PanelState.h"
 
 namespace trellisar {

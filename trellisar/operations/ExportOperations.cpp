@@ -6,6 +6,7 @@
 #include "trellisar/archive/Archive.h"
 #include "trellisar/dialogs/DoneDialog.h"
 #include "trellisar/dialogs/Messages.h"
+#include "trellisar/library/HostErrors.h"
 #include "trellisar/operations/MainWindowOperations.h"
 
 namespace trellisar {
@@ -42,7 +43,7 @@ void MainWindowOperations::Export(std::int32_t& hwnd) {
     return;
   }
   try {
-    replaceFile(file, archiveOf(document));
+    raisingHostErrors([&] { base::replaceFile(file, archiveOf(document)); });
     session_->exportedFile = file;
     DoneDialog("Export System", "Exported to \"" + file.string() + "\".").run();
   } catch (const host::Error& error) {

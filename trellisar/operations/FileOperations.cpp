@@ -10,6 +10,7 @@
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemNames.h"
+#include "trellisar/library/HostErrors.h"
 #include "trellisar/operations/MainWindowOperations.h"
 #include "trellisar/operations/OtherSystems.h"
 #include "trellisar/operations/TimeText.h"
@@ -95,7 +96,7 @@ void MainWindowOperations::save(const std::string& path, const std::string& appl
   DocumentData& document = *session_->data();
   const fs::path file = forms::toMachinePath(path);
   const Belongings replaced = belongingsOfOther(document, file);
-  MadeFolders folders(file.parent_path());
+  base::MadeFolders folders(file.parent_path());
   const std::string oldApplication = std::exchange(document.application, application);
   try {
     saveSystemFile(document, path, overwriting);
@@ -116,7 +117,7 @@ bool MainWindowOperations::FileSaveAs(const std::string& strFile,
     const std::string path = withSystemExtension(strFile);
     const std::optional<Overwriting> overwriting = mayOverwrite(forms::toMachinePath(path));
     if (!overwriting) return false;
-    save(path, strApplication, *overwriting);
+    raisingHostErrors([&] { save(path, strApplication, *overwriting); });
     return true;
   } catch (const host::Error& error) {
     forms::Application::current().messageBox(
@@ -161,10 +162,10 @@ bool MainWindowOperations::CreateProjectFolder(const std::string& strFolder) {
     return false;
   }
   try {
-    MadeFolders(folder).keep();
+    base::MadeFolders(folder).keep();
     return true;
-  } catch (const host::Error& error) {
-    showFailure(error.description());
+  } catch (const base::FileError& error) {
+    showFailure(error.what());
     return false;
   }
 }

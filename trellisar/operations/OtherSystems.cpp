@@ -18,7 +18,7 @@ fs::path foreignSystemIn(const fs::path& folder, const fs::path& ownFile) {
   std::error_code error;
   for (const auto& entry : fs::directory_iterator(folder, error)) {
     if (forms::lowerCase(entry.path().extension().string()) != ".tsy") continue;
-    if (isSameFile(entry.path(), ownFile)) return {};
+    if (base::isSameFile(entry.path(), ownFile)) return {};
     if (foreign.empty() || entry.path() < foreign) foreign = entry.path();
   }
   return foreign;
@@ -32,7 +32,7 @@ void Belongings::remove() const {
 Belongings belongingsOfOther(const DocumentData& document, const fs::path& file) {
   std::error_code error;
   if (!fs::exists(file, error)) return {};
-  if (isSameFile(file.parent_path(), document.ownFile.parent_path())) return {};
+  if (base::isSameFile(file.parent_path(), document.ownFile.parent_path())) return {};
   try {
     const DocumentPtr other = readSystemFile(file, nullptr);
     std::vector<fs::path> files;

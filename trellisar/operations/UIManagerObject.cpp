@@ -1,5 +1,7 @@
 #include "trellisar/operations/UIManagerObject.h"
 
+#include "trellisar/library/HostErrors.h"
+
 #include <optional>
 #include <utility>
 
@@ -93,7 +95,7 @@ class TessraAppObject : public host::TessraApp {
   void SaveProject() override {
     journal_->note("SaveProject");
     const PanelProject& project = current();
-    replaceFile(object_->file(), panelProjectText(project));
+    raisingHostErrors([&] { base::replaceFile(object_->file(), panelProjectText(project)); });
     object_->panel().projectBuilt = true;
   }
 
@@ -178,7 +180,7 @@ bool UIManagerObject::makeProject(const DevicePtr& panel) {
     const PanelTemplate from =
         findPanelTemplate(session_->panelSource->templates, panel->definition->modelId);
     const PanelProject project = buildPanelProject(document, *panel, from, pages(), say);
-    replaceFile(file, panelProjectText(project));
+    raisingHostErrors([&] { base::replaceFile(file, panelProjectText(project)); });
   } catch (const host::Error& error) {
     std::error_code ignored;
     fs::remove(file, ignored);  // what is there does not fit the system

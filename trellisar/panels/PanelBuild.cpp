@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "base/Digest.h"
 #include "base/Json.h"
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "host/Numbers.h"
-#include "receiver/Digest.h"
 
 namespace trellisar {
 namespace {
@@ -129,11 +129,11 @@ bool isTaken(const TemplatePage& page, const PanelPages& pages) {
 }
 
 std::string labelsOf(const DocumentData& document) {
-  Json labels = Json::array();
+  base::Json labels = base::Json::array();
   for (const DevicePtr& device : document.devices) {
     if (!device->label.empty()) labels.push_back({device->name, device->port, device->label});
   }
-  return jsonText(labels);
+  return base::jsonText(labels);
 }
 
 }  // namespace
@@ -152,7 +152,7 @@ PanelProject buildPanelProject(const DocumentData& document, const DeviceData& p
                                             " has no page whose name begins with " +
                                             inQuotes(pages.prefix) + ".");
   }
-  project.madeFrom = receiver::Digest::of(panelProjectText(project) + labelsOf(document));
+  project.madeFrom = base::Digest::of(panelProjectText(project) + labelsOf(document));
   return project;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/FileIO.h"
 #include "forms/Paths.h"
+#include "trellisar/library/HostErrors.h"
 #include "trellisar/panels/PanelJson.h"
 
 namespace trellisar {
@@ -15,8 +16,8 @@ constexpr int projectVersion = 1;
 constexpr const char* projectExtension = ".tpj";
 constexpr std::int32_t largestPixel = 32767;
 
-Json objectJson(const PanelObject& object) {
-  Json json;
+base::Json objectJson(const PanelObject& object) {
+  base::Json json;
   json["id"] = object.id;
   json["kind"] = panelObjectKindName(object.kind);
   json["text"] = object.text;
@@ -31,20 +32,20 @@ Json objectJson(const PanelObject& object) {
   return json;
 }
 
-PanelObject readObject(JsonReader reader, std::set<std::int32_t>& ids) {
+PanelObject readObject(base::JsonReader reader, std::set<std::int32_t>& ids) {
   PanelObject object;
-  const JsonReader id = reader.at("id");
+  const base::JsonReader id = reader.at("id");
   object.id = id.int32(1);
   if (!ids.insert(object.id).second) id.fail("the id stands twice");
   object.kind = readPanelObjectKind(reader.at("kind"));
   object.text = reader.at("text").text();
   object.area = readPanelArea(reader);
-  reader.ifPresent("sends", [&](JsonReader sends) {
+  reader.ifPresent("sends", [&](base::JsonReader sends) {
     object.device = sends.at("device").text();
     object.command = sends.at("command").text();
     sends.finish();
   });
-  reader.ifPresent("runs", [&](const JsonReader& runs) { object.preset = runs.text(); });
+  reader.ifPresent("runs", [&](const base::JsonReader& runs) { object.preset = runs.text(); });
   reader.finish();
   return object;
 }
@@ -75,7 +76,7 @@ PanelObject* PanelProject::findObject(std::int32_t id) {
   return nullptr;
 }
 
-PanelObject::Kind readPanelObjectKind(const JsonReader& reader) {
+PanelObject::Kind readPanelObjectKind(const base::JsonReader& reader) {
   return reader.choice<PanelObject::Kind>(
       {{"button", PanelObject::Kind::button}, {"text", PanelObject::Kind::text}});
 }
@@ -84,7 +85,7 @@ const char* panelObjectKindName(PanelObject::Kind kind) {
   return kind == PanelObject::Kind::button ? "button" : "text";
 }
 
-PanelArea readPanelArea(JsonReader& object) {
+PanelArea readPanelArea(base::JsonReader& object) {
   PanelArea area;
   area.left = object.at("left").int32(0, largestPixel);
   area.top = object.at("top").int32(0, largestPixel);
@@ -94,7 +95,7 @@ PanelArea readPanelArea(JsonReader& object) {
 }
 
 std::string panelProjectText(const PanelProject& project) {
-  Json json;
+  base::Json json;
   json["format"] = projectFormat;
   json["version"] = projectVersion;
   json["system"] = project.system;
@@ -103,41 +104,43 @@ std::string panelProjectText(const PanelProject& project) {
   json["default_pages"] = project.taken.includesDefault;
   json["shared_pages"] = project.taken.includesShared;
   json["made_from"] = project.madeFrom;
-  json["pages"] = Json::array();
+  json["pages"] = base::Json::array();
   for (const PanelPage& page : project.pages) {
-    Json objects = Json::array();
+    base::Json objects = base::Json::array();
     for (const PanelObject& object : page.objects) objects.push_back(objectJson(object));
     json["pages"].push_back({{"name", page.name}, {"objects", std::move(objects)}});
   }
-  return jsonText(json);
+  return base::jsonText(json);
 }
 
 PanelProject readPanelProject(const std::filesystem::path& file) {
-  const std::string shown = file.filename().string();
-  const Json json = parseJson(readFile(file), shown);
-  JsonReader reader(json, shown);
-  if (const JsonReader format = reader.at("format"); format.text() != projectFormat) {
-    format.fail("is no panel project");
-  }
-  static_cast<void>(reader.at("version").integer(projectVersion, projectVersion));
-  PanelProject project;
-  project.system = reader.at("system").text();
-  project.panel = reader.at("panel").text();
-  project.taken.prefix = reader.at("prefix").text();
-  project.taken.includesDefault = reader.at("default_pages").boolean();
-  project.taken.includesShared = reader.at("shared_pages").boolean();
-  project.madeFrom = reader.at("made_from").text();
-  std::set<std::int32_t> ids;
-  reader.at("pages").each([&](JsonReader item) {
-    PanelPage page;
-    page.name = item.at("name").text();
-    item.at("objects").each(
-        [&](const JsonReader& object) { page.objects.push_back(readObject(object, ids)); });
-    item.finish();
-    project.pages.push_back(std::move(page));
+  return raisingHostErrors([&] {
+    const std::string shown = file.filename().string();
+    const base::Json json = base::parseJson(base::readFile(file), shown);
+    base::JsonReader reader(json, shown);
+    if (const base::JsonReader format = reader.at("format"); format.text() != projectFormat) {
+      format.fail("is no panel project");
+    }
+    static_cast<void>(reader.at("version").integer(projectVersion, projectVersion));
+    PanelProject project;
+    project.system = reader.at("system").text();
+    project.panel = reader.at("panel").text();
+    project.taken.prefix = reader.at("prefix").text();
+    project.taken.includesDefault = reader.at("default_pages").boolean();
+    project.taken.includesShared = reader.at("shared_pages").boolean();
+    project.madeFrom = reader.at("made_from").text();
+    std::set<std::int32_t> ids;
+    reader.at("pages").each([&](base::JsonReader item) {
+      PanelPage page;
+      page.name = item.at("name").text();
+      item.at("objects").each(
+          [&](const base::JsonReader& object) { page.objects.push_back(readObject(object, ids)); });
+      item.finish();
+      project.pages.push_back(std::move(page));
+    });
+    reader.finish();
+    return project;
   });
-  reader.finish();
-  return project;
 }
 
 std::filesystem::path panelProjectFile(const DocumentData& document, const DeviceData& panel) {

@@ -5,11 +5,12 @@
 #include <ctime>
 #include <system_error>
 
+#include "base/Digest.h"
 #include "base/FileIO.h"
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "host/Numbers.h"
-#include "receiver/Digest.h"
+#include "trellisar/library/HostErrors.h"
 #include "trellisar/reports/Markup.h"
 
 namespace trellisar {
@@ -61,7 +62,7 @@ std::string drawingOf(const Report& report) {
 std::string originMark(const DocumentData& document) {
   constexpr std::size_t digits = 16;
   const std::string file = document.ownFile.string();
-  return "<meta name=\"system-file\" content=\"" + receiver::Digest::of(file).substr(0, digits) +
+  return "<meta name=\"system-file\" content=\"" + base::Digest::of(file).substr(0, digits) +
          "\">\n";
 }
 
@@ -77,7 +78,7 @@ bool isThere(const fs::path& file) {
 
 /// Whether the page in the folder is one of this system; its PDF goes with it.
 bool isOwn(const fs::path& page, const std::string& mark) {
-  return isThere(page) && readFile(page).find(mark) != std::string::npos;
+  return isThere(page) && base::readFile(page).find(mark) != std::string::npos;
 }
 
 void refuseToReplace(const fs::path& file) {
@@ -133,28 +134,30 @@ std::string reportFileName(const Report& report, const std::string& extension) {
 std::vector<fs::path> writeReports(const DocumentData& document, const fs::path& folder,
                                    const ReportOptions& options, ReportPrinter* printer,
                                    bool replace) {
-  const auto reports = reportsNamed(document, host::reportsAll, options);
-  const std::string mark = originMark(document);
-  for (const Report& report : reports) {
-    const fs::path page = folder / reportFileName(report, "html");
-    if (replace || isOwn(page, mark)) continue;
-    for (const fs::path& file : {page, folder / reportFileName(report, "pdf")}) {
-      if (isThere(file)) refuseToReplace(file);
+  return raisingHostErrors([&] {
+    const auto reports = reportsNamed(document, host::reportsAll, options);
+    const std::string mark = originMark(document);
+    for (const Report& report : reports) {
+      const fs::path page = folder / reportFileName(report, "html");
+      if (replace || isOwn(page, mark)) continue;
+      for (const fs::path& file : {page, folder / reportFileName(report, "pdf")}) {
+        if (isThere(file)) refuseToReplace(file);
+      }
     }
-  }
-  MadeFolders folders(folder);
-  std::vector<fs::path> files;
-  for (const Report& report : reports) {
-    files.push_back(folder / reportFileName(report, "html"));
-    replaceFile(files.back(), markedHtml(report, mark));
-  }
-  for (const Report& report : reports) {
-    if (!printer) break;
-    files.push_back(folder / reportFileName(report, "pdf"));
-    printer->writePdf(files.back(), report.title, reportHtml(report));
-  }
-  folders.keep();
-  return files;
+    base::MadeFolders folders(folder);
+    std::vector<fs::path> files;
+    for (const Report& report : reports) {
+      files.push_back(folder / reportFileName(report, "html"));
+      base::replaceFile(files.back(), markedHtml(report, mark));
+    }
+    for (const Report& report : reports) {
+      if (!printer) break;
+      files.push_back(folder / reportFileName(report, "pdf"));
+      printer->writePdf(files.back(), report.title, reportHtml(report));
+    }
+    folders.keep();
+    return files;
+  });
 }
 
 }  // namespace trellisar

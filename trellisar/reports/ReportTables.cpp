@@ -1,7 +1,7 @@
 #include <utility>
 
+#include "base/Digest.h"
 #include "host/Numbers.h"
-#include "receiver/Digest.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/document/Provisioning.h"
 #include "trellisar/reports/Report.h"
@@ -44,12 +44,12 @@ Report begun(const DocumentData& document, const char* title, std::vector<std::s
 
 std::string revisionOf(const DocumentData& document) {
   constexpr std::size_t digits = 8;
-  const Json all = listing(document);
+  const base::Json all = listing(document);
   std::string text = all["settings"].dump() + all["devices"].dump() + all["touch_panels"].dump();
   for (const DevicePtr& device : document.everyDevice()) {
     text += portText(*device) + ";" + device->address + ";" + device->label + ";";
   }
-  return receiver::Digest::of(text).substr(0, digits);
+  return base::Digest::of(text).substr(0, digits);
 }
 
 Report billOfMaterials(const DocumentData& document, const ReportOptions& options) {

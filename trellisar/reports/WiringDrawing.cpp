@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/Error.h"
 #include "base/FileIO.h"
 #include "forms/Text.h"
-#include "host/Error.h"
 #include "trellisar/reports/Markup.h"
 #include "trellisar/reports/Wiring.h"
 
@@ -259,8 +259,8 @@ class Drawing {
   std::string icon(const std::string& name, int x, int y) const {
     std::string text;
     try {
-      text = readFile(pictures_ / name);
-    } catch (const host::Error&) {
+      text = base::readFile(pictures_ / name);
+    } catch (const base::FileError&) {
       return {};
     }
     const std::size_t tag = text.find("<svg");

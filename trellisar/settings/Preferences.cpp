@@ -8,7 +8,6 @@
 
 #include "base/FileIO.h"
 #include "base/Json.h"
-#include "host/Error.h"
 
 namespace trellisar {
 namespace {
@@ -18,11 +17,11 @@ namespace fs = std::filesystem;
 constexpr const char* preferencesFormat = "trellisar-preferences";
 constexpr int preferencesVersion = 1;
 constexpr std::size_t maximumRecent = 10;
-constexpr JsonLimits preferencesLimits{1U << 20U, 10, 100};
+constexpr base::JsonLimits preferencesLimits{1U << 20U, 10, 100};
 
-AddressBook readAddressBook(JsonReader reader) {
+AddressBook readAddressBook(base::JsonReader reader) {
   AddressBook book;
-  reader.at("receivers").each([&](JsonReader item) {
+  reader.at("receivers").each([&](base::JsonReader item) {
     book.receivers.push_back({item.at("name").text(), item.at("address").text()});
   });
   const auto count = static_cast<std::int64_t>(book.receivers.size());
@@ -31,11 +30,11 @@ AddressBook readAddressBook(JsonReader reader) {
   return book;
 }
 
-Json toJson(const AddressBook& book) {
-  Json json;
-  json["receivers"] = Json::array();
+base::Json toJson(const AddressBook& book) {
+  base::Json json;
+  json["receivers"] = base::Json::array();
   for (const NamedAddress& receiver : book.receivers) {
-    Json item;
+    base::Json item;
     item["name"] = receiver.name;
     item["address"] = receiver.address;
     json["receivers"].push_back(item);
@@ -44,13 +43,13 @@ Json toJson(const AddressBook& book) {
   return json;
 }
 
-IPSettings readIPSettings(JsonReader reader) {
+IPSettings readIPSettings(base::JsonReader reader) {
   return {reader.at("address").text(), reader.at("mask").text(), reader.at("gateway").text(),
           reader.at("host_name").text()};
 }
 
-Json toJson(const IPSettings& settings) {
-  Json json;
+base::Json toJson(const IPSettings& settings) {
+  base::Json json;
   json["address"] = settings.address;
   json["mask"] = settings.mask;
   json["gateway"] = settings.gateway;
@@ -111,7 +110,7 @@ Preferences Preferences::lookedAt(const fs::path& file) {
   Preferences preferences;
   try {
     preferences.kept_ = read(file);
-  } catch (const host::Error&) {
+  } catch (const base::Error&) {
     // Who keeps them tells it.
   }
   return preferences;
@@ -121,47 +120,47 @@ Preferences::Kept Preferences::read(const fs::path& file) {
   Kept kept;
   if (!isThere(file)) return kept;
   const std::string shown = file.filename().string();
-  const Json json = parseJson(readFile(file), shown, preferencesLimits);
-  JsonReader reader(json, shown);
-  const JsonReader format = reader.at("format");
+  const base::Json json = base::parseJson(base::readFile(file), shown, preferencesLimits);
+  base::JsonReader reader(json, shown);
+  const base::JsonReader format = reader.at("format");
   if (format.text() != preferencesFormat) format.fail("is another file's");
-  const JsonReader version = reader.at("version");
+  const base::JsonReader version = reader.at("version");
   if (const auto number = version.integer(1, INT32_MAX); number != preferencesVersion) {
     version.fail("the file is of version " + std::to_string(number) +
                  "; this program reads version " + std::to_string(preferencesVersion));
   }
   kept.defaultFolder = reader.at("default_folder").text();
-  reader.at("recent_systems").each([&](const JsonReader& item) {
+  reader.at("recent_systems").each([&](const base::JsonReader& item) {
     if (kept.recentSystems.size() < maximumRecent) kept.recentSystems.push_back(item.text());
   });
   // Files of before there was a link to a receiver lack them.
   reader.ifPresent("address_book",
-                   [&](const JsonReader& item) { kept.addressBook = readAddressBook(item); });
+                   [&](const base::JsonReader& item) { kept.addressBook = readAddressBook(item); });
   reader.ifPresent("ip_settings",
-                   [&](const JsonReader& item) { kept.ipSettings = readIPSettings(item); });
+                   [&](const base::JsonReader& item) { kept.ipSettings = readIPSettings(item); });
   return kept;
 }
 
 void Preferences::write(const fs::path& file, const Kept& kept) {
-  Json json;
+  base::Json json;
   json["format"] = preferencesFormat;
   json["version"] = preferencesVersion;
   json["default_folder"] = kept.defaultFolder;
   json["recent_systems"] = kept.recentSystems;
   json["address_book"] = toJson(kept.addressBook);
   json["ip_settings"] = toJson(kept.ipSettings);
-  replaceFile(file, jsonText(json));
+  base::replaceFile(file, base::jsonText(json));
 }
 
 Preferences::Kept Preferences::readOrMoveAside() {
   try {
     return read(file_);
-  } catch (const host::Error& error) {
+  } catch (const base::Error& error) {
     const fs::path aside = placeAside(file_);
     std::error_code failure;
     fs::rename(file_, aside, failure);
     if (failure) throw;
-    tell("The preferences could not be read, and begin anew.\r\n\r\n" + error.description() +
+    tell("The preferences could not be read, and begin anew.\r\n\r\n" + std::string(error.what()) +
          "\r\n\r\nThe address book and all else that they held is kept in \"" + aside.string() +
          "\".");
   }
@@ -171,20 +170,20 @@ Preferences::Kept Preferences::readOrMoveAside() {
 void Preferences::change(const std::function<void(Kept&)>& edit) {
   if (file_.empty()) return edit(kept_);
   try {
-    const FolderLock alone(file_.parent_path());
+    const base::FolderLock alone(file_.parent_path());
     Kept kept = readOrMoveAside();
     const Kept before = kept;
     edit(kept);
     if (kept != before) {
-      MadeFolders folders(file_.parent_path());
+      base::MadeFolders folders(file_.parent_path());
       write(file_, kept);
       folders.keep();
     }
     kept_ = std::move(kept);
-  } catch (const host::Error& error) {
+  } catch (const base::Error& error) {
     edit(kept_);
     tell("The preferences can't be kept: they last until the program ends.\r\n\r\n" +
-         error.description());
+         std::string(error.what()));
   }
 }
 

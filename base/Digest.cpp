@@ -1,12 +1,12 @@
-#include "receiver/Digest.h"
+#include "base/Digest.h"
 
 #include <sodium.h>
 
 #include <array>
 
-#include "receiver/Error.h"
+#include "base/Error.h"
 
-namespace receiver {
+namespace base {
 
 void prepareSodium() {
   if (sodium_init() < 0) throw Error("This machine gives no random numbers.");
@@ -33,4 +33,4 @@ std::string Digest::of(std::string_view bytes) {
   return digest.finish();
 }
 
-}  // namespace receiver
+}  // namespace base

@@ -1,7 +1,7 @@
 #include "base/FileIO.h"
 #include "base/MadeFolders.h"
 
-#include "tests/support/Errors.h"
+#include "base/Error.h"
 #include "tests/support/Files.h"
 
 #include <gtest/gtest.h>
@@ -11,15 +11,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
+template <typename Act>
+std::string reasonOf(Act&& act) {
+  try {
+    act();
+  } catch (const base::FileError& error) {
+    return error.what();
+  }
+  return {};
+}
+
 TEST(Files, ReasonsSayWhatStandsInTheWayAndWhatToDo) {
   const TemporaryFolder folder;
   writeFile(folder.path() / "file", "");
   const auto writing = [](const fs::path& file) {
-    return raisedBy([&] { trellisar::replaceFile(file, "x"); }).description();
+    return reasonOf([&] { base::replaceFile(file, "x"); });
   };
-  const auto reading = [](const fs::path& file) {
-    return raisedBy([&] { trellisar::readFile(file); }).description();
-  };
+  const auto reading = [](const fs::path& file) { return reasonOf([&] { base::readFile(file); }); };
   const std::string inside = "\"" + folder.path().string() + "/";
   EXPECT_EQ(writing("/proc/x.tsa"),
             "Can't write \"/proc/x.tsa\": the place can't hold files. Choose another folder.");
@@ -32,7 +40,7 @@ TEST(Files, ReasonsSayWhatStandsInTheWayAndWhatToDo) {
   EXPECT_EQ(reading(folder.path() / "none"), "Can't read " + inside + "none\": it does not exist.");
   EXPECT_EQ(reading(folder.path()),
             "Can't read \"" + folder.path().string() + "\": it is a folder and no file.");
-  EXPECT_EQ(raisedBy([] { trellisar::MadeFolders("/proc/a/b"); }).description(),
+  EXPECT_EQ(reasonOf([] { base::MadeFolders("/proc/a/b"); }),
             "Can't make the folder \"/proc/a/b\": the place can't hold files. Choose another "
             "folder.");
 }

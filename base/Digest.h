@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace receiver {
+namespace base {
 
 /// Makes the cryptography usable; any number of calls from any thread. Raises Error when the
 /// machine has no random numbers.
@@ -26,4 +26,4 @@ class Digest {
   crypto_hash_sha256_state state_;
 };
 
-}  // namespace receiver
+}  // namespace base

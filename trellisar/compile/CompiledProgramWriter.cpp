@@ -6,6 +6,7 @@
 #include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/document/Provisioning.h"
+#include "trellisar/document/Steps.h"
 
 namespace trellisar {
 namespace {
@@ -81,32 +82,34 @@ class Compiler {
 
   base::Json steps(const PresetData& preset) const {
     base::Json list = base::Json::array();
-    for (const auto& data : preset.steps) {
-      if (data->kind != 0) list.push_back(step(*data));
-    }
+    eachStep(preset, [&](const Step& step, int) {
+      list.push_back(std::visit([this](const auto& each) { return compiled(each); }, step));
+    });
     return list;
   }
 
-  base::Json step(const StepData& step) const {
-    switch (step.kind) {
-      case host::stepCallPreset:
-        return {{"do", "call"}, {"preset", presets_.at(step.target)}};
-      case host::stepConditional:
-        return {{"do", "if"}, {"when", condition(*step.condition)}, {"steps", steps(*step.branch)}};
-      case host::stepDelay:
-        return {{"do", "wait"}, {"hundredths", forms::toInt32(forms::leadingNumber(step.value))}};
-      case host::stepAnalog:
-        return command("analog", step);
-      case host::stepSerial:
-        return command("serial", step);
-      default:
-        return command("digital", step);
-    }
+  base::Json compiled(const CallStep& step) const {
+    return {{"do", "call"}, {"preset", presets_.at(step.preset())}};
   }
 
-  base::Json command(const char* what, const StepData& step) const {
-    return {
-        {"do", what}, {"unit", unit(step.target)}, {"signal", step.signal}, {"value", step.value}};
+  base::Json compiled(const BranchStep& step) const {
+    return {{"do", "if"}, {"when", condition(*step.condition())}, {"steps", steps(step.branch())}};
+  }
+
+  base::Json compiled(const DelayStep& step) const {
+    return {{"do", "wait"}, {"hundredths", forms::toInt32(forms::leadingNumber(step.data.value))}};
+  }
+
+  base::Json compiled(const CommandStep& step) const {
+    return {{"do", signalName(step.signalType)},
+            {"unit", unit(step.data.target)},
+            {"signal", step.data.signal},
+            {"value", step.data.value}};
+  }
+
+  static const char* signalName(std::int16_t signalType) {
+    if (signalType == host::signalAnalog) return "analog";
+    return signalType == host::signalSerial ? "serial" : "digital";
   }
 
   base::Json condition(const host::StepCondition& condition) const {

@@ -6,6 +6,7 @@
 #include "forms/Numbers.h"
 #include "host/Numbers.h"
 #include "trellisar/compile/CompiledProgram.h"
+#include "trellisar/document/Steps.h"
 
 namespace trellisar {
 namespace {
@@ -146,27 +147,32 @@ class Lister {
 
   base::Json steps(const PresetData& preset) const {
     base::Json list = base::Json::array();
-    for (const auto& step : preset.steps) {
-      if (step->kind != 0) list.push_back(this->step(*step));
-    }
+    eachStep(preset, [&](const Step& each, int) { list.push_back(step(each)); });
     return list;
   }
 
-  base::Json step(const StepData& step) const {
+  base::Json step(const Step& step) const {
     base::Json json;
-    json["kind"] = step.kind;
-    if (step.kind == host::stepCallPreset) {
-      json["preset"] = document_.findPreset(step.target)->name;
-    } else if (step.kind == host::stepConditional) {
-      json["when"] = condition(step.condition.value_or(host::StepCondition()));
-      json["steps"] = steps(*step.branch);
-    } else {
-      json["target_type"] = step.targetType;
-      json["target"] = document_.shownName(static_cast<std::int16_t>(step.target));
-      json["signal"] = step.signal;
-      if (!step.value.empty()) json["value"] = step.value;
-    }
+    json["kind"] = std::visit([](const auto& any) { return any.data.kind; }, step);
+    std::visit(ForStep{[&](const CommandStep& command) { addSending(json, command.data); },
+                       [&](const DelayStep& delay) { addSending(json, delay.data); },
+                       [&](const CallStep& call) {
+                         json["preset"] = document_.findPreset(call.preset())->name;
+                       },
+                       [&](const BranchStep& branch) {
+                         json["when"] =
+                             condition(branch.condition().value_or(host::StepCondition()));
+                         json["steps"] = steps(branch.branch());
+                       }},
+               step);
     return json;
+  }
+
+  void addSending(base::Json& json, const StepData& step) const {
+    json["target_type"] = step.targetType;
+    json["target"] = document_.shownName(static_cast<std::int16_t>(step.target));
+    json["signal"] = step.signal;
+    if (!step.value.empty()) json["value"] = step.value;
   }
 
   base::Json condition(const host::StepCondition& condition) const {

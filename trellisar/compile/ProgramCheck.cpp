@@ -8,17 +8,6 @@ namespace {
 
 std::string inQuotes(const std::string& text) { return "\"" + text + "\""; }
 
-std::int16_t signalTypeOf(const StepData& step) {
-  switch (step.kind) {
-    case host::stepAnalog:
-      return host::signalAnalog;
-    case host::stepSerial:
-      return host::signalSerial;
-    default:
-      return host::signalDigital;
-  }
-}
-
 const char* kindOf(const DeviceData& device) {
   switch (device.kind) {
     case DeviceData::Kind::module:
@@ -71,40 +60,46 @@ void ProgramCheck::fail(const std::string& place, const std::string& what, std::
 
 void ProgramCheck::checkSteps(const PresetData& preset, const std::string& place,
                               const std::string& number) {
-  int count = 0;
-  for (const auto& step : preset.steps) {
-    if (step->kind == 0) continue;
-    const std::string own = number + std::to_string(++count);
-    checkStep(*step, place + own);
-    if (step->branch) checkSteps(*step->branch, place, own + ".");
-  }
+  eachStep(preset, [&](const Step& step, int count) {
+    const std::string own = number + std::to_string(count);
+    std::visit(ForStep{[&](const CommandStep& command) { checkCommand(command, place + own); },
+                       [&](const DelayStep& delay) { checkTarget(delay.data, place + own); },
+                       [&](const CallStep& call) { checkCall(call, place + own); },
+                       [&](const BranchStep& branch) {
+                         checkCondition(branch, place + own);
+                         checkSteps(branch.branch(), place, own + ".");
+                       }},
+               step);
+  });
 }
 
-void ProgramCheck::checkStep(const StepData& step, const std::string& place) {
-  if (!isTargetThere(document_, step.targetType, step.target)) {
-    fail(place, step.kind == host::stepCallPreset ? "it calls a preset that is not in the system"
-                                                  : "its device is not in the system");
-  } else if (step.kind == host::stepConditional) {
-    checkCondition(step, place);
-  } else if (step.kind != host::stepCallPreset && step.kind != host::stepDelay) {
-    checkCommand(step, place);
-  }
+bool ProgramCheck::checkTarget(const StepData& step, const std::string& place) {
+  if (isTargetThere(document_, step.targetType, step.target)) return true;
+  fail(place, "its device is not in the system");
+  return false;
 }
 
-void ProgramCheck::checkCommand(const StepData& step, const std::string& place) {
-  const DevicePtr device = document_.find(static_cast<std::int16_t>(step.target));
-  if (device->definition->hasSignal(step.signal, host::directionInput, signalTypeOf(step))) return;
+void ProgramCheck::checkCall(const CallStep& step, const std::string& place) {
+  if (isTargetThere(document_, host::targetPreset, step.preset())) return;
+  fail(place, "it calls a preset that is not in the system");
+}
+
+void ProgramCheck::checkCommand(const CommandStep& step, const std::string& place) {
+  if (!checkTarget(step.data, place)) return;
+  const std::string& signal = step.data.signal;
+  const DevicePtr device = document_.find(static_cast<std::int16_t>(step.data.target));
+  if (device->definition->hasSignal(signal, host::directionInput, step.signalType)) return;
   fail(place,
        std::string("the ") + kindOf(*device) + inQuotes(document_.shownName(device->id)) +
-           " has no command " + inQuotes(step.signal),
+           " has no command " + inQuotes(signal),
        device->id);
 }
 
-void ProgramCheck::checkCondition(const StepData& step, const std::string& place) {
-  if (!step.condition) return fail(place, "it has no condition");
-  const DevicePtr device = document_.find(step.condition->get_DeviceID());
+void ProgramCheck::checkCondition(const BranchStep& step, const std::string& place) {
+  if (!step.condition()) return fail(place, "it has no condition");
+  const DevicePtr device = document_.find(step.condition()->get_DeviceID());
   if (!device) return fail(place, "it tests a device that is not in the system");
-  const std::string& signal = step.condition->get_SignalName();
+  const std::string& signal = step.condition()->get_SignalName();
   if (canBeTested(*device->definition, signal)) return;
   fail(place,
        "it tests " + inQuotes(signal) + ", which the " + kindOf(*device) +

@@ -7,6 +7,7 @@
 #include "host/ProgramGuide.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/document/DocumentData.h"
+#include "trellisar/document/Steps.h"
 
 namespace trellisar {
 
@@ -39,9 +40,11 @@ class ProgramCheck {
 
  private:
   void checkSteps(const PresetData& preset, const std::string& place, const std::string& number);
-  void checkStep(const StepData& step, const std::string& place);
-  void checkCommand(const StepData& step, const std::string& place);
-  void checkCondition(const StepData& step, const std::string& place);
+  /// Whether the device is there that the step is for.
+  bool checkTarget(const StepData& step, const std::string& place);
+  void checkCall(const CallStep& step, const std::string& place);
+  void checkCommand(const CommandStep& step, const std::string& place);
+  void checkCondition(const BranchStep& step, const std::string& place);
   void checkEvent(const ProgrammedEvent& event);
   void checkSource(const std::string& device, const SignalData& signal);
   void checkSlots(const DeviceData& module);

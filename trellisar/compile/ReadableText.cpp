@@ -7,6 +7,7 @@
 #include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/document/Provisioning.h"
+#include "trellisar/document/Steps.h"
 
 namespace trellisar {
 namespace {
@@ -27,35 +28,43 @@ class ProgramText {
   std::string steps(const PresetData& preset, const std::string& number = {},
                     std::size_t level = 1) const {
     std::string text;
-    int place = 0;
-    for (const auto& step : preset.steps) {
-      if (step->kind == 0) continue;
-      const std::string own = number + std::to_string(++place) + ".";
-      text += std::string(level * 4, ' ') + own + " " + words(*step) + "\n";
-      if (step->branch) text += steps(*step->branch, own, level + 1);
-    }
+    eachStep(preset, [&](const Step& step, int place) {
+      const std::string own = number + std::to_string(place) + ".";
+      text += std::string(level * 4, ' ') + own + " " + words(step) + "\n";
+      const auto* branch = std::get_if<BranchStep>(&step);
+      if (branch) text += steps(branch->branch(), own, level + 1);
+    });
     return text.empty() ? std::string(level * 4, ' ') + "(nothing)\n" : text;
   }
 
-  std::string words(const StepData& step) const {
-    const std::string target = document_.shownName(static_cast<std::int16_t>(step.target));
-    switch (step.kind) {
-      case host::stepCallPreset:
-        return "run " + inQuotes(document_.findPreset(step.target)->name);
-      case host::stepConditional:
-        return "if " + condition(step) + ":";
-      case host::stepDelay:
-        return "wait " + seconds(step.value);
-      case host::stepAnalog:
-        return target + ": " + step.signal + " = " + step.value;
-      case host::stepSerial:
-        return target + ": " + step.signal + " = " + inQuotes(step.value);
-      default:
-        return target + ": " + step.signal + digitalValue(step.value);
-    }
+  std::string words(const Step& step) const {
+    return std::visit(
+        ForStep{[&](const CommandStep& command) {
+                  const std::string target = targetOf(command.data);
+                  return target + ": " + command.data.signal + value(command);
+                },
+                [&](const DelayStep& delay) { return "wait " + seconds(delay.data.value); },
+                [&](const CallStep& call) {
+                  return "run " + inQuotes(document_.findPreset(call.preset())->name);
+                },
+                [&](const BranchStep& branch) {
+                  const std::string test = condition(branch);
+                  return "if " + test + ":";
+                }},
+        step);
   }
 
  private:
+  std::string targetOf(const StepData& step) const {
+    return document_.shownName(static_cast<std::int16_t>(step.target));
+  }
+
+  static std::string value(const CommandStep& step) {
+    const std::string& value = step.data.value;
+    if (step.signalType == host::signalAnalog) return " = " + value;
+    return step.signalType == host::signalSerial ? " = " + inQuotes(value) : digitalValue(value);
+  }
+
   static std::string digitalValue(const std::string& value) {
     if (value.empty()) return {};
     if (value == host::levelHigh) return " = on";
@@ -63,9 +72,9 @@ class ProgramText {
     return " (held " + seconds(value) + ")";
   }
 
-  std::string condition(const StepData& step) const {
-    if (!step.condition) return "always";
-    const host::StepCondition& test = *step.condition;
+  std::string condition(const BranchStep& step) const {
+    if (!step.condition()) return "always";
+    const host::StepCondition& test = *step.condition();
     const std::string what =
         test.get_SignalName() + " of " + document_.shownName(test.get_DeviceID()) + " ";
     if (!test.get_StateName().empty()) return what + forms::lowerCase(test.get_StateName());

@@ -1,6 +1,7 @@
 #include "trellisar/document/StepRules.h"
 
 #include "host/Numbers.h"
+#include "trellisar/document/Steps.h"
 
 namespace trellisar {
 
@@ -25,19 +26,16 @@ bool isTargetThere(const DocumentData& document, std::int16_t targetType, std::i
 }
 
 bool isStepForm(std::int16_t kind, std::int16_t targetType) {
-  switch (kind) {
-    case host::stepDigital:
-    case host::stepAnalog:
-    case host::stepSerial:
-    case host::stepDelay:
-      return targetType == host::targetDevice || targetType == host::targetTouchpanel;
-    case host::stepCallPreset:
-      return targetType == host::targetPreset;
-    case host::stepConditional:
-      return targetType == host::targetNone;
-    default:
-      return false;
-  }
+  StepData data;
+  data.kind = kind;
+  const std::optional<Step> step = stepOf(data);
+  if (!step) return false;
+  const bool isDevice = targetType == host::targetDevice || targetType == host::targetTouchpanel;
+  return std::visit(ForStep{[&](const CommandStep&) { return isDevice; },
+                            [&](const DelayStep&) { return isDevice; },
+                            [&](const CallStep&) { return targetType == host::targetPreset; },
+                            [&](const BranchStep&) { return targetType == host::targetNone; }},
+                    *step);
 }
 
 }  // namespace trellisar

@@ -10,6 +10,7 @@
 #include "host/Numbers.h"
 #include "trellisar/document/Provisioning.h"
 #include "trellisar/document/StepRules.h"
+#include "trellisar/document/Steps.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemFileFormat.h"
 #include "trellisar/library/DefinitionJson.h"
@@ -307,14 +308,13 @@ class Loader {
   void readStep(base::JsonReader reader, StepData& step) {
     const base::JsonReader kind = reader.at("kind");
     step.kind = kind.int16(1);
-    if (step.kind == host::stepCallPreset) {
-      readCall(reader.at("preset"), step);
-    } else if (step.kind == host::stepConditional) {
-      readBranch(reader, step);
-    } else {
-      readCommand(reader, step);
-      if (!isStepForm(step.kind, step.targetType)) kind.fail("there is no such kind of step");
-    }
+    const std::optional<Step> form = stepOf(step);
+    if (!form) kind.fail("there is no such kind of step");
+    std::visit(ForStep{[&](const CommandStep&) { readCommand(reader, step); },
+                       [&](const DelayStep&) { readCommand(reader, step); },
+                       [&](const CallStep&) { readCall(reader.at("preset"), step); },
+                       [&](const BranchStep&) { readBranch(reader, step); }},
+               *form);
     reader.finish();
   }
 

@@ -4,6 +4,7 @@
 #include "base/Json.h"
 #include "forms/Numbers.h"
 #include "host/Numbers.h"
+#include "trellisar/document/Steps.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemFileFormat.h"
 #include "trellisar/library/DefinitionJson.h"
@@ -197,30 +198,33 @@ class Writer {
     return json;
   }
 
-  base::Json step(const StepData& step) const {
+  base::Json step(const Step& step) const {
     base::Json json = base::emptyObject(6);
-    json["kind"] = step.kind;
-    if (step.kind == host::stepCallPreset) {
-      json["preset"] = document_.findPreset(step.target)->name;
-    } else if (step.kind == host::stepConditional) {
-      if (step.condition) json["when"] = condition(*step.condition);
-      json["steps"] = steps(*step.branch);
-    } else {
-      json["target_type"] = step.targetType;
-      json["target"] = step.target;
-      json["signal"] = step.signal;
-      if (!step.value.empty()) json["value"] = step.value;
-      if (step.valueFormat != 0) json["value_format"] = step.valueFormat;
-    }
+    json["kind"] = std::visit([](const auto& any) { return any.data.kind; }, step);
+    std::visit(ForStep{[&](const CommandStep& command) { addSending(json, command.data); },
+                       [&](const DelayStep& delay) { addSending(json, delay.data); },
+                       [&](const CallStep& call) {
+                         json["preset"] = document_.findPreset(call.preset())->name;
+                       },
+                       [&](const BranchStep& branch) {
+                         if (branch.condition()) json["when"] = condition(*branch.condition());
+                         json["steps"] = steps(branch.branch());
+                       }},
+               step);
     return json;
   }
 
-  /// A step that was never initialised says nothing and is left out.
+  static void addSending(base::Json& json, const StepData& step) {
+    json["target_type"] = step.targetType;
+    json["target"] = step.target;
+    json["signal"] = step.signal;
+    if (!step.value.empty()) json["value"] = step.value;
+    if (step.valueFormat != 0) json["value_format"] = step.valueFormat;
+  }
+
   base::Json steps(const PresetData& preset) const {
     base::Json list = base::Json::array();
-    for (const auto& data : preset.steps) {
-      if (data->kind != 0) list.push_back(step(*data));
-    }
+    eachStep(preset, [&](const Step& each, int) { list.push_back(step(each)); });
     return list;
   }
 

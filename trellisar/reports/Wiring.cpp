@@ -7,6 +7,7 @@
 #include "host/Numbers.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/document/Provisioning.h"
+#include "trellisar/document/Steps.h"
 
 namespace trellisar {
 namespace {
@@ -34,15 +35,15 @@ void addOnce(std::vector<std::string>& texts, const std::string& text) {
 /// What the steps do in the end, whatever is tested before: presets and commands by name.
 void addEffects(const DocumentData& document, const PresetData& preset,
                 std::vector<std::string>& effects) {
-  for (const auto& step : preset.steps) {
-    if (step->branch) {
-      addEffects(document, *step->branch, effects);
-    } else if (step->kind == host::stepCallPreset) {
-      addOnce(effects, document.findPreset(step->target)->name);
-    } else if (step->kind != host::stepDelay) {
-      addOnce(effects, step->signal);
-    }
-  }
+  everyStep(preset, [&](const Step& step) {
+    std::visit(ForStep{[&](const CommandStep& command) { addOnce(effects, command.data.signal); },
+                       [](const DelayStep&) {},
+                       [&](const CallStep& call) {
+                         addOnce(effects, document.findPreset(call.preset())->name);
+                       },
+                       [](const BranchStep&) {}},
+               step);
+  });
 }
 
 /// What an input of the receiver is there for: what its contact does when it closes and opens, and

@@ -13,8 +13,8 @@ namespace app {
 struct Act {
   /// The answer's path in the answers file. An answer that was left out is passed over.
   std::string answer;
-  /// Does on the page what a person would do. Raises RunEnded with status 2 for what can't be
-  /// answered.
+  /// Does on the page what a person would do. Raises RunEnded, as wrong input, for what can't
+  /// be answered.
   std::function<void(const Page&, const Answer&)> perform;
   std::function<bool(const Page&, const Answer&)> isHeld;
   /// What the system must hold besides once the step has been left; empty: nothing.

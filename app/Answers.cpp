@@ -5,24 +5,15 @@
 #include <vector>
 
 #include "app/AnswersShape.h"
-#include "app/ExitStatus.h"
 #include "app/RunEnded.h"
 #include "app/Shape.h"
-#include "app/StandardStreams.h"
-#include "base/Error.h"
-#include "base/FileIO.h"
 
 namespace app {
 namespace {
 
 using base::Json;
 
-constexpr base::JsonLimits limits{.bytes = 1U << 20U, .depth = 10, .keysOfObject = 100};
-
-/// One byte more than is allowed is enough to see that there is too much.
-std::string contentOf(const std::filesystem::path& file) {
-  return file == standardInput ? readInput(limits.bytes + 1) : base::readFile(file);
-}
+constexpr base::JsonLimits limits{.bytes = Answers::mostBytes, .depth = 10, .keysOfObject = 100};
 
 }  // namespace
 
@@ -33,15 +24,7 @@ Answers::Answers(std::string text) : file_(std::move(text), limits) {
   for (Fault& fault : faults) fault = placed(std::move(fault));
   std::stable_sort(faults.begin(), faults.end(),
                    [](const Fault& one, const Fault& other) { return one.line < other.line; });
-  throw RunEnded(exitStatus::wrongInput, faults);
-}
-
-Answers Answers::fromFile(const std::filesystem::path& file) {
-  try {
-    return Answers(contentOf(file));
-  } catch (const base::Error& error) {
-    throw RunEnded(exitStatus::wrongInput, error.what());
-  }
+  throw RunEnded(RunEnded::wrongInput, faults);
 }
 
 const Json* Answers::find(std::string_view path) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -9,19 +10,15 @@
 
 namespace app {
 
-/// The file name that stands for standard input.
-inline constexpr const char* standardInput = "-";
-
 /// What an answers file says about a room, in the form that it must have.
 class Answers {
  public:
-  /// Checks the form of a file's text. Raises RunEnded with status 2 and all that is wrong with it,
-  /// from the first line to the last.
-  explicit Answers(std::string text);
+  /// How long a file may be.
+  static constexpr std::size_t mostBytes = 1U << 20U;
 
-  /// Reads and checks a file, or standard input. Raises RunEnded as above, or when it can't be
-  /// read.
-  static Answers fromFile(const std::filesystem::path& file);
+  /// Checks the form of a file's text. Raises RunEnded, as wrong input, with all that is wrong with
+  /// it, from the first line to the last.
+  explicit Answers(std::string text);
 
   /// The value at a path such as "display.relay.on_delay"; null when it was left out, or holds
   /// null, which on a new system is the same.

@@ -4,8 +4,6 @@
 #include <system_error>
 #include <utility>
 
-#include "app/StandardStreams.h"
-
 namespace app {
 
 int Batch::run(const std::vector<Job>& jobs, int parallel) {
@@ -53,7 +51,7 @@ void Batch::ended(std::size_t job, RoomResult result) {
   results_[job] = std::move(result);
   hasEnded_[job] = true;
   for (; printed_ < results_.size() && hasEnded_[printed_]; ++printed_) {
-    if (!results_[printed_].systemFile.empty()) print(results_[printed_].systemFile + "\n");
+    if (!results_[printed_].systemFile.empty()) saved_(results_[printed_].systemFile);
   }
 }
 

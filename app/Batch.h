@@ -4,6 +4,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace app {
@@ -20,8 +21,11 @@ class Batch {
  public:
   using Job = std::function<RoomResult()>;
 
-  /// Runs the jobs, `parallel` of them at a time, and answers their highest status. The path of
-  /// each saved system is printed as a line once all rooms before it have ended.
+  /// `saved` is called with the path of each saved system once all rooms before it have ended, on
+  /// any thread, one call at a time.
+  explicit Batch(std::function<void(const std::string&)> saved) : saved_(std::move(saved)) {}
+
+  /// Runs the jobs, `parallel` of them at a time, and answers their highest status.
   int run(const std::vector<Job>& jobs, int parallel);
 
  private:
@@ -29,6 +33,7 @@ class Batch {
   void work(const std::vector<Job>& jobs);
   void ended(std::size_t job, RoomResult result);
 
+  std::function<void(const std::string&)> saved_;
   std::mutex mutex_;
   std::size_t next_ = 0;
   std::size_t printed_ = 0;

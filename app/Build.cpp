@@ -3,15 +3,20 @@
 #include <algorithm>
 #include <map>
 
+#include "app/AddIn.h"
 #include "app/Answers.h"
 #include "app/Batch.h"
 #include "app/Environment.h"
+#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
 #include "app/Interrupt.h"
 #include "app/MadeFolders.h"
 #include "app/Room.h"
 #include "app/RunEnded.h"
 #include "app/RunReport.h"
+#include "app/StandardStreams.h"
+#include "base/Error.h"
+#include "base/FileIO.h"
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "receiver/Address.h"
@@ -32,16 +37,26 @@ struct Room {
   MadeFolders made;
 };
 
+/// The file name that stands for standard input.
+constexpr const char* standardInput = "-";
+
+/// One byte more than is allowed is enough to see that there is too much.
+std::string contentOf(const fs::path& file) {
+  return file == standardInput ? readInput(Answers::mostBytes + 1) : base::readFile(file);
+}
+
 std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
                             const RunReport& report) {
   try {
-    Answers answers = Answers::fromFile(file);
+    Answers answers(contentOf(file));
     if (options.out) answers.setFolder(*options.out);
     return answers;
   } catch (const RunEnded& ended) {
     for (const Fault& fault : ended.faults()) report.fault(fault);
-    return std::nullopt;
+  } catch (const base::Error& error) {
+    report.line(error.what());
   }
+  return std::nullopt;
 }
 
 std::string textAt(const Answers& answers, const char* path) {
@@ -116,9 +131,27 @@ std::shared_ptr<const trellisar::DeviceLibrary> openLibrary(const BuildOptions& 
   }
 }
 
+/// An unattended run takes the default folder from the preferences, and leaves no trace in them.
+void openWizardOnNewSystem(trellisar::Host& host) {
+  host.preferences() = readOnlyPreferences();
+  AddIn(host).runOnNewSystem();
+}
+
+int exitStatusOf(RunEnded::Cause cause) {
+  return cause == RunEnded::refused ? exitStatus::refused : exitStatus::wrongInput;
+}
+
 RoomResult buildOrTell(Room& room, const RoomOptions& options) {
   if (!room.answers) return {exitStatus::wrongInput, {}};
-  return buildRoom(*room.answers, options, room.report, room.made);
+  try {
+    return {exitStatus::ok, buildRoom(*room.answers, options, room.report, room.made).string()};
+  } catch (const RunEnded& ended) {
+    for (const Fault& fault : ended.faults()) room.report.fault(room.answers->placed(fault));
+    return {exitStatusOf(ended.cause()), {}};
+  } catch (const std::exception& error) {
+    room.report.line(wordsOf(error));
+    return {exitStatus::refused, {}};
+  }
 }
 
 }  // namespace
@@ -134,12 +167,14 @@ int build(const BuildOptions& options) {
   }
   if (!canStandTogether(rooms)) return exitStatus::wrongInput;
 
-  const RoomOptions roomOptions{openLibrary(options), options.replace, options.delivery};
+  const RoomOptions roomOptions{dataFolder(), openWizardOnNewSystem, openLibrary(options),
+                                options.replace, options.delivery};
   if (!roomOptions.library) return exitStatus::wrongInput;
 
   std::vector<Batch::Job> jobs;
   for (Room& room : rooms) jobs.emplace_back([&] { return buildOrTell(room, roomOptions); });
-  const int status = Batch().run(jobs, options.jobs);
+  Batch batch([](const std::string& systemFile) { print(systemFile + "\n"); });
+  const int status = batch.run(jobs, options.jobs);
   // Only now, since a room that is still being built may be about to use a folder that another one
   // made.
   for (const Room& room : rooms) room.made.removeEmpty();

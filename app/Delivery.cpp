@@ -1,6 +1,6 @@
 #include "app/Delivery.h"
 
-#include "app/RunReport.h"
+#include "app/Report.h"
 #include "forms/Application.h"
 #include "forms/ListBox.h"
 #include "host/ErrorLog.h"
@@ -8,7 +8,7 @@
 namespace app {
 namespace {
 
-[[noreturn]] void fail(const std::string& what) { throw RunEnded(exitStatus::refused, what); }
+[[noreturn]] void fail(const std::string& what) { throw RunEnded(RunEnded::refused, what); }
 
 void click(const Page& page, const char* button) {
   page.user().click(page.control<forms::Control>(button));
@@ -44,7 +44,7 @@ void upload(const Page& page, const std::string& address) {
 
 }  // namespace
 
-void answerBuildWindows(UnattendedDesktop& desktop, const RunReport& report) {
+void answerBuildWindows(UnattendedDesktop& desktop, const Report& report) {
   desktop.answerForms("frmBuildPanels", [&](forms::Form& window) {
     const auto& log = dynamic_cast<host::ErrorLog&>(window.control("ctlErrorLog"));
     for (const auto& item : log.Items()) report.line(item->get_Message());

@@ -16,10 +16,10 @@ struct Delivery {
 
 /// From now on the windows of the panels and of the compile are answered as by one who reads them:
 /// what they list goes to the report, and they are closed.
-void answerBuildWindows(UnattendedDesktop& desktop, const RunReport& report);
+void answerBuildWindows(UnattendedDesktop& desktop, const Report& report);
 
 /// Clicks what the last page has for it, and waits for the end of the transfer and of the password.
-/// Raises RunEnded with status 1 when one of them fails.
+/// Raises RunEnded, as refused, when one of them fails.
 void deliver(const Page& lastPage, const Delivery& delivery);
 
 }  // namespace app

@@ -4,9 +4,6 @@
 #include <new>
 #include <system_error>
 
-#include "host/Error.h"
-#include "receiver/Error.h"
-
 namespace app {
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include <atomic>
 
-#include "app/ExitStatus.h"
 #include "app/RunEnded.h"
 
 namespace app {
@@ -35,7 +34,7 @@ Interrupt::~Interrupt() {
 bool Interrupt::requested() { return noted != 0; }
 
 void Interrupt::endRunIfRequested() {
-  if (requested()) throw RunEnded(exitStatus::refused, noted == SIGPIPE ? "" : "interrupted");
+  if (requested()) throw RunEnded(RunEnded::refused, noted == SIGPIPE ? "" : "interrupted");
 }
 
 }  // namespace app

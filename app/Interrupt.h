@@ -18,7 +18,7 @@ class Interrupt {
 
   /// Whether one of them has come, on any thread.
   static bool requested();
-  /// Raises RunEnded with status 1 when one of them has come; there is nothing to tell to a reader
+  /// Raises RunEnded, as refused, when one of them has come; there is nothing to tell to a reader
   /// who has gone.
   static void endRunIfRequested();
 

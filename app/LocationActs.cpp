@@ -67,7 +67,7 @@ void refuseExistingSystem(const Page& page) {
   page.hands().made.expect(file.parent_path());
   std::error_code failure;
   if (!page.hands().mayReplace && fs::exists(file, failure)) {
-    throw RunEnded(exitStatus::refused,
+    throw RunEnded(RunEnded::refused,
                    "there is a system already: " + file.string() + "; --replace replaces it");
   }
 }

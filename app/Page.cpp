@@ -6,7 +6,7 @@ namespace app {
 
 host::Document& Hands::document() const {
   const auto document = host.document();
-  if (!document) throw RunEnded(exitStatus::refused, "no system is open");
+  if (!document) throw RunEnded(RunEnded::refused, "no system is open");
   return *document;
 }
 

@@ -3,7 +3,6 @@
 #include <string>
 #include <utility>
 
-#include "app/ExitStatus.h"
 #include "app/MadeFolders.h"
 #include "app/RunEnded.h"
 #include "app/UnattendedDesktop.h"
@@ -51,8 +50,8 @@ class Page {
     return dynamic_cast<Kind&>(step_.control(name));
   }
 
-  /// The control that an answer is for. Raises RunEnded with status 2 when it is hidden or
-  /// disabled.
+  /// The control that an answer is for. Raises RunEnded, as wrong input, when it is hidden
+  /// or disabled.
   template <typename Kind>
   Kind& usable(const std::string& name, const Answer& answer) const {
     Kind& found = control<Kind>(name);
@@ -60,9 +59,9 @@ class Page {
     return found;
   }
 
-  /// Raises RunEnded with status 2: the answer can't be given here.
+  /// Raises RunEnded, as wrong input: the answer can't be given here.
   [[noreturn]] void refuse(const Answer& answer, const std::string& what) const {
-    throw RunEnded(exitStatus::wrongInput, {Fault{what, answer.path}});
+    throw RunEnded(RunEnded::wrongInput, {Fault{what, answer.path}});
   }
 
  private:

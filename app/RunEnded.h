@@ -9,19 +9,24 @@
 
 namespace app {
 
-/// Ends the run of a room before its save: the exit status, and what happened, for the user.
+/// Ends the run of a room: why, and what happened, for the user.
 class RunEnded : public std::runtime_error {
  public:
-  RunEnded(int status, std::vector<Fault> faults)
-      : std::runtime_error(faults.front().text()), status_(status), faults_(std::move(faults)) {}
-  RunEnded(int status, const std::string& what) : RunEnded(status, {Fault{.what = what}}) {}
+  enum Cause {
+    refused,     // by the wizard, the generator, the save or what comes after it
+    wrongInput,  // the answers are none that this room can be given
+  };
 
-  int status() const { return status_; }
+  RunEnded(Cause cause, std::vector<Fault> faults)
+      : std::runtime_error(faults.front().text()), cause_(cause), faults_(std::move(faults)) {}
+  RunEnded(Cause cause, const std::string& what) : RunEnded(cause, {Fault{.what = what}}) {}
+
+  Cause cause() const { return cause_; }
   /// At least one.
   const std::vector<Fault>& faults() const { return faults_; }
 
  private:
-  int status_;
+  Cause cause_;
   std::vector<Fault> faults_;
 };
 

@@ -29,10 +29,6 @@ void RunReport::fault(const Fault& fault) const {
   write(prefixed(fault.text(), subject_ + ":" + line + " "));
 }
 
-void RunReport::message(const forms::MessageBox& message) const {
-  line(message.caption + ": " + message.text);
-}
-
 void reportLine(const std::string& text) { write(prefixed(text, "orlena: ")); }
 
 }  // namespace app

@@ -4,21 +4,19 @@
 #include <utility>
 
 #include "app/Fault.h"
-#include "forms/MessageBox.h"
+#include "app/Report.h"
 
 namespace app {
 
 /// What a run tells on standard error. Every line begins with the answers file that it is about;
 /// the lines of one message stay together, also when rooms are built side by side.
-class RunReport {
+class RunReport : public Report {
  public:
   explicit RunReport(std::string subject) : subject_(std::move(subject)) {}
 
-  void line(const std::string& text) const;
+  void line(const std::string& text) const override;
   /// A fault of the answers, behind its line in their file where that is known.
   void fault(const Fault& fault) const;
-  /// A message box: its caption, then its text.
-  void message(const forms::MessageBox& message) const;
 
  private:
   std::string subject_;

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "app/ErrorWords.h"
-#include "app/ExitStatus.h"
 #include "app/Interrupt.h"
 #include "forms/Application.h"
 #include "forms/Form.h"
@@ -46,13 +45,14 @@ void UnattendedDesktop::processEvents() {
 
 void UnattendedDesktop::answer(forms::Form& form) {
   const auto answers = answers_.find(form.name());
-  if (hasEnded() || answers == answers_.end() || !answers->second) return;
+  if (ended_ || answers == answers_.end() || !answers->second) return;
   try {
     answers->second(form);
   } catch (const RunEnded& ended) {
     end(ended);
   } catch (const std::exception& error) {
-    end(RunEnded(exitStatus::refused, wordsOf(error)));
+    // In words, since the component that raised it may be gone when they are told.
+    end(RunEnded(RunEnded::refused, wordsOf(error)));
   }
 }
 
@@ -61,7 +61,7 @@ forms::Answer UnattendedDesktop::showMessage(const forms::MessageBox& message) {
       std::exchange(expectsExitQuestion_, false) && message.buttons == forms::Buttons::yesNo;
   // The warnings of a save, which an export shows once more.
   const bool wasNoted = !noted_.empty() && message.text == noted_;
-  if (!asksToExit && !wasNoted) report_.message(message);
+  if (!asksToExit && !wasNoted) report_.line(message.caption + ": " + message.text);
   if (message.icon == forms::Icon::critical) sawCritical_ = true;
   return forms::defaultAnswer(message.buttons);
 }

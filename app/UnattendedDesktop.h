@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "app/Report.h"
 #include "app/RunEnded.h"
-#include "app/RunReport.h"
 #include "forms/HeadlessDesktop.h"
 
 namespace app {
@@ -18,7 +18,7 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
  public:
   using AnswersForm = std::function<void(forms::Form&)>;
 
-  explicit UnattendedDesktop(const RunReport& report) : report_(report) {}
+  explicit UnattendedDesktop(const Report& report) : report_(report) {}
 
   /// Says who answers the forms of this name from now on; null: nobody. When it raises RunEnded,
   /// the form is closed and `throwIfEnded` raises it again outside: the code that showed the form
@@ -33,9 +33,6 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   /// The run is about to leave the wizard: the question whether to, which comes next, is not told.
   void expectExitQuestion() { expectsExitQuestion_ = true; }
 
-  /// Ends the run, unless it has ended for an earlier reason.
-  void end(const RunEnded& reason);
-  bool hasEnded() const { return ended_.has_value(); }
   /// Raises what ended the run, if anything did.
   void throwIfEnded() const;
 
@@ -54,8 +51,10 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
 
  private:
   void answer(forms::Form& form);
+  /// Ends the run, unless it has ended for an earlier reason.
+  void end(const RunEnded& reason);
 
-  const RunReport& report_;
+  const Report& report_;
   std::map<std::string, AnswersForm> answers_;
   std::string folder_;
   std::string noted_;

@@ -32,11 +32,11 @@ const StepActs& actsOf(const Page& page) {
   return found == steps.end() ? nothing : *found;
 }
 
-[[noreturn]] void refuse(const std::string& what) { throw RunEnded(exitStatus::refused, what); }
+[[noreturn]] void refuse(const std::string& what) { throw RunEnded(RunEnded::refused, what); }
 
 [[noreturn]] void refuseNotTaken(const Page& page, const Answer& answer) {
   const std::string what = "the step " + quoted(page.name()) + " did not take ";
-  throw RunEnded(exitStatus::refused, {Fault{what + answer.value.dump(), answer.path}});
+  throw RunEnded(RunEnded::refused, {Fault{what + answer.value.dump(), answer.path}});
 }
 
 }  // namespace

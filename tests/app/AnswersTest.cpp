@@ -11,7 +11,7 @@ std::string refusalOf(const std::string& json) {
   try {
     const Answers answers(json);
   } catch (const RunEnded& ended) {
-    EXPECT_EQ(ended.status(), 2);
+    EXPECT_EQ(ended.cause(), RunEnded::wrongInput);
     return ended.what();
   }
   return "taken";

@@ -121,7 +121,7 @@ void library(std::string_view bytes) {
 
 void answers(std::string_view bytes) {
   try {
-    app::Answers::fromFile(folder().write("answers.json", bytes));
+    const app::Answers read{std::string(bytes)};
   } catch (const app::RunEnded&) {
   }
 }

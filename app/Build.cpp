@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <map>
 
+#include "answers/Answers.h"
+#include "answers/Batch.h"
+#include "answers/ErrorWords.h"
+#include "answers/Interrupt.h"
+#include "answers/MadeFolders.h"
+#include "answers/Room.h"
+#include "answers/RunEnded.h"
 #include "app/AddIn.h"
-#include "app/Answers.h"
-#include "app/Batch.h"
 #include "app/Environment.h"
-#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
-#include "app/Interrupt.h"
-#include "app/MadeFolders.h"
-#include "app/Room.h"
-#include "app/RunEnded.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
 #include "base/Error.h"

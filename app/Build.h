@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "app/Delivery.h"
+#include "answers/Delivery.h"
 
 namespace app {
 

@@ -2,8 +2,8 @@
 #include <exception>
 #include <string>
 
+#include "answers/ErrorWords.h"
 #include "app/CommandLine.h"
-#include "app/ErrorWords.h"
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"

@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
-#include "app/Fault.h"
-#include "app/Report.h"
+#include "answers/Report.h"
+#include "base/Fault.h"
 
 namespace app {
 

@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <exception>
 
+#include "answers/UnattendedDesktop.h"
 #include "app/Environment.h"
 #include "app/RunReport.h"
-#include "app/UnattendedDesktop.h"
 #include "bench/Figure.h"
 #include "forms/Application.h"
 #include "forms/Paths.h"

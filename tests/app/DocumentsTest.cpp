@@ -4,8 +4,8 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "app/AnswersShape.h"
-#include "app/StepTable.h"
+#include "answers/AnswersShape.h"
+#include "answers/StepTable.h"
 #include "tests/app/Program.h"
 
 namespace app {

@@ -7,10 +7,10 @@
 
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
-#include "app/Answers.h"
-#include "app/RunEnded.h"
+#include "answers/Answers.h"
+#include "answers/RunEnded.h"
+#include "answers/UnattendedDesktop.h"
 #include "app/RunReport.h"
-#include "app/UnattendedDesktop.h"
 #include "base/FileIO.h"
 #include "base/Json.h"
 #include "forms/Application.h"

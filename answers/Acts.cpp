@@ -1,0 +1,174 @@
+#include "answers/Acts.h"
+
+#include <algorithm>
+
+#include "answers/DeviceChoice.h"
+#include "answers/Nearest.h"
+#include "answers/Shape.h"
+#include "forms/CheckBox.h"
+#include "forms/CommandButton.h"
+#include "forms/OptionButton.h"
+#include "forms/Text.h"
+#include "forms/TextBox.h"
+#include "host/DeviceCommands.h"
+
+namespace app {
+namespace {
+
+std::string textOf(const Answer& answer) {
+  return answer.value.is_string() ? answer.text() : answer.value.dump();
+}
+
+/// 0 minutes and no password turn off what stands behind a check box; the password "0" does not.
+bool isWanted(const Answer& answer) {
+  return answer.value.is_string() ? !answer.text().empty() : answer.value != 0;
+}
+
+bool isTicked(const Answer& answer) { return answer.value.is_object() || answer.value.get<bool>(); }
+
+void setTicked(const Page& page, const std::string& checkBox, const Answer& answer, bool ticked) {
+  auto& box = page.usable<forms::CheckBox>(checkBox, answer);
+  if (box.isChecked() != ticked) page.user().click(box);
+}
+
+/// Whether a device or a touch panel of this name hangs on the receiver.
+bool isInSystem(const Page& page, const std::string& name) {
+  const host::Document& document = page.hands().document();
+  const std::string receiver = document.get_ControlSystem()->get_Name();
+  return document.get_Devices()->FindByName(name, receiver) ||
+         document.get_Touchpanels()->FindByName(name, receiver);
+}
+
+/// The commands that the selector offers; "" is nothing assigned.
+std::vector<std::string> offeredBy(const forms::DropDownList& list) {
+  std::vector<std::string> texts{""};
+  for (std::int32_t place = 1; place < list.count(); ++place) texts.push_back(list.text(place));
+  return texts;
+}
+
+std::int32_t placeOfCommand(const Page& page, const forms::DropDownList& list,
+                            const Answer& answer) {
+  const std::vector<std::string> offered = offeredBy(list);
+  const auto found = std::find(offered.begin(), offered.end(), answer.text());
+  if (found == offered.end()) {
+    page.refuse(answer, quoted(answer.text()) + " is none of " + among(answer.text(), offered));
+  }
+  return static_cast<std::int32_t>(found - offered.begin());
+}
+
+const std::string& buttonFor(const std::vector<OptionWord>& buttons, const Answer& answer) {
+  const auto isMeant = [&](const OptionWord& entry) { return entry.first == answer.text(); };
+  return std::find_if(buttons.begin(), buttons.end(), isMeant)->second;
+}
+
+/// The button for the answer's word. One that can't be chosen is refused with those that can.
+forms::OptionButton& offeredButton(const Page& page, const std::vector<OptionWord>& buttons,
+                                   const Answer& answer) {
+  std::vector<std::string> offered;
+  for (const auto& [word, button] : buttons) {
+    if (page.control<forms::OptionButton>(button).isUsable()) offered.push_back(word);
+  }
+  const std::string word = answer.text();
+  if (!offered.empty() && std::find(offered.begin(), offered.end(), word) == offered.end()) {
+    page.refuse(answer, quoted(word) + " is not offered in this room; this is: " + quoted(offered));
+  }
+  return page.usable<forms::OptionButton>(buttonFor(buttons, answer), answer);
+}
+
+}  // namespace
+
+Act enter(std::string answer, std::string textBox) {
+  return {std::move(answer),
+          [textBox](const Page& page, const Answer& given) {
+            page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
+          },
+          [textBox](const Page& page, const Answer& given) {
+            return page.control<forms::TextBox>(textBox).text() == textOf(given);
+          }};
+}
+
+Act tick(std::string answer, std::string checkBox) {
+  return {std::move(answer),
+          [checkBox](const Page& page, const Answer& given) {
+            setTicked(page, checkBox, given, isTicked(given));
+          },
+          [checkBox](const Page& page, const Answer& given) {
+            return page.control<forms::CheckBox>(checkBox).isChecked() == isTicked(given);
+          }};
+}
+
+Act include(std::string answer, std::string checkBox, std::string deviceName) {
+  Act act = tick(std::move(answer), std::move(checkBox));
+  act.isHeld = [isShown = std::move(act.isHeld), deviceName](const Page& page,
+                                                             const Answer& given) {
+    return isShown(page, given) && isInSystem(page, deviceName) == isTicked(given);
+  };
+  return act;
+}
+
+Act enterBehind(std::string answer, std::string checkBox, std::string textBox) {
+  return {std::move(answer),
+          [checkBox, textBox](const Page& page, const Answer& given) {
+            setTicked(page, checkBox, given, isWanted(given));
+            if (!isWanted(given)) return;
+            page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
+          },
+          [checkBox, textBox](const Page& page, const Answer& given) {
+            if (page.control<forms::CheckBox>(checkBox).isChecked() != isWanted(given)) {
+              return false;
+            }
+            const std::string& shown = page.control<forms::TextBox>(textBox).text();
+            return !isWanted(given) || forms::trimmed(shown) == forms::trimmed(textOf(given));
+          }};
+}
+
+Act chooseOption(std::string answer, std::vector<OptionWord> buttons) {
+  return {std::move(answer),
+          [buttons](const Page& page, const Answer& given) {
+            page.user().click(offeredButton(page, buttons, given));
+          },
+          [buttons](const Page& page, const Answer& given) {
+            return page.control<forms::OptionButton>(buttonFor(buttons, given)).isChosen();
+          }};
+}
+
+Act chooseOptionBehind(std::string answer, std::string off, std::string checkBox,
+                       std::vector<OptionWord> buttons) {
+  const Act choice = chooseOption(answer, std::move(buttons));
+  const auto isWanted = [off = std::move(off)](const Answer& given) { return given.text() != off; };
+  return {std::move(answer),
+          [=, perform = choice.perform](const Page& page, const Answer& given) {
+            setTicked(page, checkBox, given, isWanted(given));
+            if (isWanted(given)) perform(page, given);
+          },
+          [=, isHeld = choice.isHeld](const Page& page, const Answer& given) {
+            if (page.control<forms::CheckBox>(checkBox).isChecked() != isWanted(given)) {
+              return false;
+            }
+            return !isWanted(given) || isHeld(page, given);
+          }};
+}
+
+Act selectCommand(std::string answer, std::string selector) {
+  return {std::move(answer),
+          [selector](const Page& page, const Answer& given) {
+            auto& commands = page.usable<host::DeviceCommands>(selector, given);
+            auto& list = dynamic_cast<forms::DropDownList&>(commands.control("cboCommands"));
+            page.user().select(list, placeOfCommand(page, list, given));
+          },
+          [selector](const Page& page, const Answer& given) {
+            const auto& commands = page.control<host::DeviceCommands>(selector);
+            return commands.get_SelectedCommand() == given.text();
+          }};
+}
+
+Act chooseDevice(std::string answer, std::string button, std::string deviceName) {
+  return {std::move(answer),
+          [button](const Page& page, const Answer& given) {
+            const DeviceChoice choice(page, given);
+            page.user().click(page.usable<forms::CommandButton>(button, given));
+          },
+          [deviceName](const Page& page, const Answer&) { return isInSystem(page, deviceName); }};
+}
+
+}  // namespace app

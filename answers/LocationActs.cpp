@@ -1,0 +1,86 @@
+#include <system_error>
+
+#include "answers/Shape.h"
+#include "answers/StepTable.h"
+#include "forms/CommandButton.h"
+#include "forms/Paths.h"
+#include "forms/Text.h"
+#include "forms/TextBox.h"
+
+namespace app {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path machineFolder(const Answer& answer) {
+  return (fs::current_path() / answer.text()).lexically_normal();
+}
+
+std::string folderFrom(const Page& page, const Answer& answer) {
+  try {
+    return forms::fromMachinePath(machineFolder(answer));
+  } catch (const forms::Error& error) {
+    page.refuse(answer, error.description());
+  }
+}
+
+/// Nothing but blanks is no name, whatever the box shows: they are no part of it.
+Act enterName(std::string answer, std::string textBox) {
+  Act act = enter(std::move(answer), std::move(textBox));
+  act.isHeld = [isShown = std::move(act.isHeld)](const Page& page, const Answer& given) {
+    return isShown(page, given) && !forms::trimmed(given.text()).empty();
+  };
+  return act;
+}
+
+/// The parent folder of the system: the location box without its last name.
+fs::path parentOf(std::string location) {
+  location.pop_back();
+  return location.substr(0, location.find_last_of('/') + 1);
+}
+
+Act chooseParentFolder(std::string answer, std::string button, std::string location) {
+  return {std::move(answer),
+          [button](const Page& page, const Answer& given) {
+            page.hands().desktop.answerFolders(folderFrom(page, given));
+            page.user().click(page.usable<forms::CommandButton>(button, given));
+            page.hands().desktop.answerFolders({});
+          },
+          [location](const Page& page, const Answer& given) {
+            return parentOf(page.control<forms::TextBox>(location).text()) ==
+                   machineFolder(given) / "";
+          }};
+}
+
+/// Where the wizard is about to save.
+fs::path systemFile(const Page& page) {
+  const fs::path folder = page.control<forms::TextBox>("txtLocation").text();
+  const std::string typed = forms::trimmed(page.control<forms::TextBox>("txtSystemName").text());
+  const std::string current = page.hands().document().get_Name();
+  // A name that differs from the document's in case alone leaves the document's as it is.
+  const std::string& name = forms::equalsIgnoringCase(typed, current) ? current : typed;
+  return folder / (name + ".tsy");
+}
+
+void refuseExistingSystem(const Page& page) {
+  const fs::path file = systemFile(page);
+  page.hands().made.expect(file.parent_path());
+  std::error_code failure;
+  if (!page.hands().mayReplace && fs::exists(file, failure)) {
+    throw RunEnded(RunEnded::refused,
+                   "there is a system already: " + file.string() + "; --replace replaces it");
+  }
+}
+
+}  // namespace
+
+StepActs locationActs() {
+  return {"Name and Location",
+          {
+              enterName("name", "txtSystemName"),
+              chooseParentFolder("folder", "cmdBrowse", "txtLocation"),
+          },
+          refuseExistingSystem};
+}
+
+}  // namespace app

@@ -1,0 +1,19 @@
+#include "answers/Page.h"
+
+#include "answers/Shape.h"
+
+namespace app {
+
+host::Document& Hands::document() const {
+  const auto document = host.document();
+  if (!document) throw RunEnded(RunEnded::refused, "no system is open");
+  return *document;
+}
+
+void Page::refuseUnusable(const forms::Control& control, const Answer& answer) const {
+  refuse(answer, "is not asked for in this room: the step " + quoted(name_) +
+                     (control.isShown() ? " has it disabled" : " does not show it") +
+                     "; leave it out");
+}
+
+}  // namespace app

@@ -1,0 +1,12 @@
+#include "answers/StepTable.h"
+
+namespace app {
+
+const std::vector<StepActs>& stepActs() {
+  static const std::vector<StepActs> steps = {
+      locationActs(), displayActs(),        audioActs(),       powerActs(),
+      lockoutActs(),  displayOptionsActs(), transmitterActs(), roomActs()};
+  return steps;
+}
+
+}  // namespace app

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+#include "answers/Acts.h"
+
+namespace app {
+
+/// The acts of the steps that ask for something, in the order of the steps.
+const std::vector<StepActs>& stepActs();
+
+StepActs locationActs();
+StepActs displayActs();
+StepActs audioActs();
+StepActs powerActs();
+StepActs lockoutActs();
+StepActs displayOptionsActs();
+StepActs transmitterActs();
+StepActs roomActs();
+
+}  // namespace app

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Fault.h"
+#include "base/Json.h"
+
+namespace app {
+
+/// A JSON text: its value, where the parts of it stand, and all that keeps it from being JSON. A
+/// comment and a comma too many are told and passed over, so that what stands behind them is read
+/// too; a key that stands twice is told and counts with its last value.
+struct JsonText {
+  JsonText(std::string text, const base::JsonLimits& limits);
+
+  base::Json value;  // discarded where the text can't be read
+  std::vector<Fault> faults;
+
+  /// The line of the value at a path such as "transmitters[1].label", or of the nearest one around
+  /// it that is there.
+  std::size_t lineOf(std::string path) const;
+
+ private:
+  std::map<std::string, std::size_t> lines_;
+};
+
+}  // namespace app

@@ -12,7 +12,7 @@
 #include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 std::string textOf(const Answer& answer) {
@@ -171,4 +171,4 @@ Act chooseDevice(std::string answer, std::string button, std::string deviceName)
           [deviceName](const Page& page, const Answer&) { return isInSystem(page, deviceName); }};
 }
 
-}  // namespace app
+}  // namespace answers

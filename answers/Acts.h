@@ -7,7 +7,7 @@
 
 #include "answers/Page.h"
 
-namespace app {
+namespace answers {
 
 /// How an answer gets into the wizard, and how it is seen afterwards that the wizard took it.
 struct Act {
@@ -60,4 +60,4 @@ Act selectCommand(std::string answer, std::string selector);
 /// `deviceName` is what the device is called in the system.
 Act chooseDevice(std::string answer, std::string button, std::string deviceName);
 
-}  // namespace app
+}  // namespace answers

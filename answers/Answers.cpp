@@ -8,7 +8,7 @@
 #include "answers/RunEnded.h"
 #include "answers/Shape.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 using base::Json;
@@ -18,12 +18,13 @@ constexpr base::JsonLimits limits{.bytes = Answers::mostBytes, .depth = 10, .key
 }  // namespace
 
 Answers::Answers(std::string text) : file_(std::move(text), limits) {
-  std::vector<Fault>& faults = file_.faults;
+  std::vector<base::Fault>& faults = file_.faults;
   if (!file_.value.is_discarded()) check(file_.value, answersShape(), faults);
   if (faults.empty()) return;
-  for (Fault& fault : faults) fault = placed(std::move(fault));
-  std::stable_sort(faults.begin(), faults.end(),
-                   [](const Fault& one, const Fault& other) { return one.line < other.line; });
+  for (base::Fault& fault : faults) fault = placed(std::move(fault));
+  std::stable_sort(
+      faults.begin(), faults.end(),
+      [](const base::Fault& one, const base::Fault& other) { return one.line < other.line; });
   throw RunEnded(RunEnded::wrongInput, faults);
 }
 
@@ -39,7 +40,7 @@ const Json* Answers::find(std::string_view path) const {
   return value;
 }
 
-Fault Answers::placed(Fault fault) const {
+base::Fault Answers::placed(base::Fault fault) const {
   if (fault.line == 0 && !fault.path.empty()) fault.line = file_.lineOf(fault.path);
   return fault;
 }
@@ -48,4 +49,4 @@ void Answers::setFolder(const std::filesystem::path& folder) {
   file_.value["folder"] = folder.string();
 }
 
-}  // namespace app
+}  // namespace answers

@@ -8,7 +8,7 @@
 #include "base/Fault.h"
 #include "base/JsonText.h"
 
-namespace app {
+namespace answers {
 
 /// What an answers file says about a room, in the form that it must have.
 class Answers {
@@ -28,10 +28,10 @@ class Answers {
   void setFolder(const std::filesystem::path& folder);
 
   /// The fault with the line of its path.
-  Fault placed(Fault fault) const;
+  base::Fault placed(base::Fault fault) const;
 
  private:
-  JsonText file_;
+  base::JsonText file_;
 };
 
-}  // namespace app
+}  // namespace answers

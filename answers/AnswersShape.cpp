@@ -4,7 +4,7 @@
 
 #include "forms/Text.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 Shape delaySeconds() { return integer(0, 999); }
@@ -75,4 +75,4 @@ const Shape& answersShape() {
   return shape;
 }
 
-}  // namespace app
+}  // namespace answers

@@ -2,9 +2,9 @@
 
 #include "answers/Shape.h"
 
-namespace app {
+namespace answers {
 
 /// The form of an answers file: every key that there is, with what it takes.
 const Shape& answersShape();
 
-}  // namespace app
+}  // namespace answers

@@ -1,6 +1,6 @@
 #include "answers/StepTable.h"
 
-namespace app {
+namespace answers {
 
 StepActs audioActs() {
   return {"Audio Control",
@@ -13,4 +13,4 @@ StepActs audioActs() {
           }};
 }
 
-}  // namespace app
+}  // namespace answers

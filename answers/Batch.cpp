@@ -4,7 +4,7 @@
 #include <system_error>
 #include <utility>
 
-namespace app {
+namespace answers {
 
 int Batch::run(const std::vector<Job>& jobs, int parallel) {
   next_ = 0;
@@ -55,4 +55,4 @@ void Batch::ended(std::size_t job, RoomResult result) {
   }
 }
 
-}  // namespace app
+}  // namespace answers

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace app {
+namespace answers {
 
 /// How a room ended: its exit status, and the path of its saved system, which is empty when there
 /// is none.
@@ -41,4 +41,4 @@ class Batch {
   std::vector<RoomResult> results_;
 };
 
-}  // namespace app
+}  // namespace answers

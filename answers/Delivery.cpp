@@ -5,7 +5,7 @@
 #include "forms/ListBox.h"
 #include "host/ErrorLog.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 [[noreturn]] void fail(const std::string& what) { throw RunEnded(RunEnded::refused, what); }
@@ -62,4 +62,4 @@ void deliver(const Page& lastPage, const Delivery& delivery) {
   if (delivery.address) upload(lastPage, *delivery.address);
 }
 
-}  // namespace app
+}  // namespace answers

@@ -6,7 +6,7 @@
 
 #include "answers/Page.h"
 
-namespace app {
+namespace answers {
 
 /// What is to become of a room once it is saved.
 struct Delivery {
@@ -22,4 +22,4 @@ void answerBuildWindows(UnattendedDesktop& desktop, const Report& report);
 /// Raises RunEnded, as refused, when one of them fails.
 void deliver(const Page& lastPage, const Delivery& delivery);
 
-}  // namespace app
+}  // namespace answers

@@ -7,7 +7,7 @@
 #include "forms/Form.h"
 #include "forms/ListView.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 constexpr const char* dialogName = "DeviceDialog";
@@ -36,4 +36,4 @@ DeviceChoice::DeviceChoice(const Page& page, const Answer& answer)
 
 DeviceChoice::~DeviceChoice() { desktop_.answerForms(dialogName, nullptr); }
 
-}  // namespace app
+}  // namespace answers

@@ -2,7 +2,7 @@
 
 #include "answers/Page.h"
 
-namespace app {
+namespace answers {
 
 /// While it lives, the host's device dialog gets the answer's device. One that the dialog does not
 /// offer ends the run with status 2, and the dialog is cancelled.
@@ -17,4 +17,4 @@ class DeviceChoice {
   UnattendedDesktop& desktop_;
 };
 
-}  // namespace app
+}  // namespace answers

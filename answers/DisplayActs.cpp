@@ -1,6 +1,6 @@
 #include "answers/StepTable.h"
 
-namespace app {
+namespace answers {
 
 StepActs displayActs() {
   return {"Display Device",
@@ -14,4 +14,4 @@ StepActs displayActs() {
           }};
 }
 
-}  // namespace app
+}  // namespace answers

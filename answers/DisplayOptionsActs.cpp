@@ -1,6 +1,6 @@
 #include "answers/StepTable.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 /// The acts of the screen's or the lift's page: where its answers stand, what its device is called
@@ -25,4 +25,4 @@ StepActs displayOptionsActs() {
   return {"Display Options", std::move(acts)};
 }
 
-}  // namespace app
+}  // namespace answers

@@ -4,7 +4,7 @@
 #include <new>
 #include <system_error>
 
-namespace app {
+namespace answers {
 namespace {
 
 template <typename Kind>
@@ -30,4 +30,4 @@ std::string wordsOf(const std::exception& error) {
          ".";
 }
 
-}  // namespace app
+}  // namespace answers

@@ -3,9 +3,9 @@
 #include <exception>
 #include <string>
 
-namespace app {
+namespace answers {
 
 /// What an error says to the user, also one of the standard library, which says it to programmers.
 std::string wordsOf(const std::exception& error);
 
-}  // namespace app
+}  // namespace answers

@@ -4,7 +4,7 @@
 
 #include "answers/RunEnded.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 std::atomic<int> noted = 0;  // the signal that came first; 0: none
@@ -37,4 +37,4 @@ void Interrupt::endRunIfRequested() {
   if (requested()) throw RunEnded(RunEnded::refused, noted == SIGPIPE ? "" : "interrupted");
 }
 
-}  // namespace app
+}  // namespace answers

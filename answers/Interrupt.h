@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace app {
+namespace answers {
 
 /// Notes SIGINT, SIGTERM and SIGPIPE in the place of their own effect, until it ends. A SIGPIPE,
 /// which says that the reader of the output has gone, then takes its effect after all: what was
@@ -30,4 +30,4 @@ class Interrupt {
   std::array<Noted, 3> noted_;
 };
 
-}  // namespace app
+}  // namespace answers

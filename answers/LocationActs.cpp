@@ -7,7 +7,7 @@
 #include "forms/Text.h"
 #include "forms/TextBox.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 namespace fs = std::filesystem;
@@ -83,4 +83,4 @@ StepActs locationActs() {
           refuseExistingSystem};
 }
 
-}  // namespace app
+}  // namespace answers

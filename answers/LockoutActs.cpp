@@ -1,6 +1,6 @@
 #include "answers/StepTable.h"
 
-namespace app {
+namespace answers {
 
 StepActs lockoutActs() {
   return {"Power On/Off Lockout",
@@ -12,4 +12,4 @@ StepActs lockoutActs() {
           }};
 }
 
-}  // namespace app
+}  // namespace answers

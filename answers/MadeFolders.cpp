@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-namespace app {
+namespace answers {
 
 namespace fs = std::filesystem;
 
@@ -24,4 +24,4 @@ void MadeFolders::removeEmpty() const {
   }
 }
 
-}  // namespace app
+}  // namespace answers

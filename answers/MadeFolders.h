@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <set>
 
-namespace app {
+namespace answers {
 
 /// The folders that a run may make, so that one which ends before its save can take them away
 /// again.
@@ -19,4 +19,4 @@ class MadeFolders {
   std::set<std::filesystem::path> missing_;
 };
 
-}  // namespace app
+}  // namespace answers

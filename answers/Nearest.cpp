@@ -7,7 +7,7 @@
 
 #include "answers/Shape.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 constexpr std::size_t shortList = 8;
@@ -52,4 +52,4 @@ std::string among(const std::string& text, const std::vector<std::string>& known
          meant;
 }
 
-}  // namespace app
+}  // namespace answers

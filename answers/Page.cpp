@@ -2,7 +2,7 @@
 
 #include "answers/Shape.h"
 
-namespace app {
+namespace answers {
 
 host::Document& Hands::document() const {
   const auto document = host.document();
@@ -16,4 +16,4 @@ void Page::refuseUnusable(const forms::Control& control, const Answer& answer) c
                      "; leave it out");
 }
 
-}  // namespace app
+}  // namespace answers

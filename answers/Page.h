@@ -12,7 +12,7 @@
 #include "host/Document.h"
 #include "trellisar/window/Host.h"
 
-namespace app {
+namespace answers {
 
 /// One answer on its way into the wizard: its place in the answers file, and its value.
 struct Answer {
@@ -61,7 +61,7 @@ class Page {
 
   /// Raises RunEnded, as wrong input: the answer can't be given here.
   [[noreturn]] void refuse(const Answer& answer, const std::string& what) const {
-    throw RunEnded(RunEnded::wrongInput, {Fault{what, answer.path}});
+    throw RunEnded(RunEnded::wrongInput, {base::Fault{what, answer.path}});
   }
 
  private:
@@ -72,4 +72,4 @@ class Page {
   std::string name_;
 };
 
-}  // namespace app
+}  // namespace answers

@@ -1,6 +1,6 @@
 #include "answers/StepTable.h"
 
-namespace app {
+namespace answers {
 
 StepActs powerActs() {
   return {"Power Control",
@@ -16,4 +16,4 @@ StepActs powerActs() {
           }};
 }
 
-}  // namespace app
+}  // namespace answers

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace app {
+namespace answers {
 
 /// Where a run tells what happens, for its user to read.
 class Report {
@@ -13,4 +13,4 @@ class Report {
   virtual void line(const std::string& text) const = 0;
 };
 
-}  // namespace app
+}  // namespace answers

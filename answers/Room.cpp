@@ -6,7 +6,7 @@
 #include "forms/Application.h"
 #include "forms/Paths.h"
 
-namespace app {
+namespace answers {
 
 std::filesystem::path buildRoom(const Answers& answers, const RoomOptions& options,
                                 const Report& report, MadeFolders& made) {
@@ -30,4 +30,4 @@ std::filesystem::path buildRoom(const Answers& answers, const RoomOptions& optio
   return *run.savedFile();
 }
 
-}  // namespace app
+}  // namespace answers

@@ -11,7 +11,7 @@
 #include "trellisar/library/DeviceLibrary.h"
 #include "trellisar/window/Host.h"
 
-namespace app {
+namespace answers {
 
 struct RoomOptions {
   std::filesystem::path dataFolder;
@@ -28,4 +28,4 @@ struct RoomOptions {
 std::filesystem::path buildRoom(const Answers& answers, const RoomOptions& options,
                                 const Report& report, MadeFolders& made);
 
-}  // namespace app
+}  // namespace answers

@@ -1,6 +1,6 @@
 #include "answers/StepTable.h"
 
-namespace app {
+namespace answers {
 
 StepActs roomActs() {
   return {"Room Options",
@@ -13,4 +13,4 @@ StepActs roomActs() {
           }};
 }
 
-}  // namespace app
+}  // namespace answers

@@ -7,7 +7,7 @@
 
 #include "base/Fault.h"
 
-namespace app {
+namespace answers {
 
 /// Ends the run of a room: why, and what happened, for the user.
 class RunEnded : public std::runtime_error {
@@ -17,17 +17,17 @@ class RunEnded : public std::runtime_error {
     wrongInput,  // the answers are none that this room can be given
   };
 
-  RunEnded(Cause cause, std::vector<Fault> faults)
+  RunEnded(Cause cause, std::vector<base::Fault> faults)
       : std::runtime_error(faults.front().text()), cause_(cause), faults_(std::move(faults)) {}
-  RunEnded(Cause cause, const std::string& what) : RunEnded(cause, {Fault{.what = what}}) {}
+  RunEnded(Cause cause, const std::string& what) : RunEnded(cause, {base::Fault{.what = what}}) {}
 
   Cause cause() const { return cause_; }
   /// At least one.
-  const std::vector<Fault>& faults() const { return faults_; }
+  const std::vector<base::Fault>& faults() const { return faults_; }
 
  private:
   Cause cause_;
-  std::vector<Fault> faults_;
+  std::vector<base::Fault> faults_;
 };
 
-}  // namespace app
+}  // namespace answers

@@ -6,7 +6,7 @@
 #include "answers/Nearest.h"
 #include "forms/Text.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 using base::Json;
@@ -79,7 +79,7 @@ std::vector<std::string> namesOf(const std::vector<Key>& keys) {
   return names;
 }
 
-void checkObject(const Json& value, const Shape& shape, std::vector<Fault>& faults,
+void checkObject(const Json& value, const Shape& shape, std::vector<base::Fault>& faults,
                  const std::string& path) {
   for (const auto& [name, member] : value.items()) {
     const std::string place = below(path, name);
@@ -97,7 +97,7 @@ void checkObject(const Json& value, const Shape& shape, std::vector<Fault>& faul
   }
 }
 
-void checkElements(const Json& value, const Shape& shape, std::vector<Fault>& faults,
+void checkElements(const Json& value, const Shape& shape, std::vector<base::Fault>& faults,
                    const std::string& path) {
   for (std::size_t i = 0; i < value.size(); ++i) {
     check(value[i], shape.keys.front().shape, faults, path + "[" + std::to_string(i) + "]");
@@ -158,7 +158,7 @@ Shape orNull(Shape shape) {
 
 Shape anything() { return shapeOf(Shape::Kind::anything); }
 
-void check(const Json& value, const Shape& shape, std::vector<Fault>& faults,
+void check(const Json& value, const Shape& shape, std::vector<base::Fault>& faults,
            const std::string& path) {
   if (value.is_null() && shape.takesNull) return;
   const std::string fault = faultOf(value, shape);
@@ -200,4 +200,4 @@ std::string quoted(const std::vector<std::string>& texts) {
   return all;
 }
 
-}  // namespace app
+}  // namespace answers

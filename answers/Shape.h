@@ -8,7 +8,7 @@
 #include "base/Fault.h"
 #include "base/Json.h"
 
-namespace app {
+namespace answers {
 
 struct Key;
 
@@ -61,7 +61,7 @@ Shape anything();
 /// fault, which names the place and what is allowed there:
 ///
 ///     lockout.contact: "opened" is none of "unused", "power off", "continue"
-void check(const base::Json& value, const Shape& shape, std::vector<Fault>& faults,
+void check(const base::Json& value, const Shape& shape, std::vector<base::Fault>& faults,
            const std::string& path = {});
 
 /// "a whole number from 0 to 999", as it ends the sentence "must be".
@@ -71,4 +71,4 @@ std::string described(const Shape& shape);
 std::string quoted(const std::vector<std::string>& texts);
 std::string quoted(const std::string& text);
 
-}  // namespace app
+}  // namespace answers

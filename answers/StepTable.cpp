@@ -1,6 +1,6 @@
 #include "answers/StepTable.h"
 
-namespace app {
+namespace answers {
 
 const std::vector<StepActs>& stepActs() {
   static const std::vector<StepActs> steps = {
@@ -9,4 +9,4 @@ const std::vector<StepActs>& stepActs() {
   return steps;
 }
 
-}  // namespace app
+}  // namespace answers

@@ -4,7 +4,7 @@
 
 #include "answers/Acts.h"
 
-namespace app {
+namespace answers {
 
 /// The acts of the steps that ask for something, in the order of the steps.
 const std::vector<StepActs>& stepActs();
@@ -18,4 +18,4 @@ StepActs displayOptionsActs();
 StepActs transmitterActs();
 StepActs roomActs();
 
-}  // namespace app
+}  // namespace answers

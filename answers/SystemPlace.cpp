@@ -2,7 +2,7 @@
 
 #include "forms/Paths.h"
 
-namespace app {
+namespace answers {
 
 std::filesystem::path systemFileOf(const host::Document& document) {
   std::string folder = document.get_Path();
@@ -10,4 +10,4 @@ std::filesystem::path systemFileOf(const host::Document& document) {
   return forms::toMachinePath(folder + document.get_Name() + ".tsy");
 }
 
-}  // namespace app
+}  // namespace answers

@@ -4,9 +4,9 @@
 
 #include "host/Document.h"
 
-namespace app {
+namespace answers {
 
 /// The file in which a system is, or will be, saved.
 std::filesystem::path systemFileOf(const host::Document& document);
 
-}  // namespace app
+}  // namespace answers

@@ -9,7 +9,7 @@
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 enum Column : std::int32_t { labelColumn, typeColumn, portColumn };
@@ -117,4 +117,4 @@ StepActs transmitterActs() {
           }};
 }
 
-}  // namespace app
+}  // namespace answers

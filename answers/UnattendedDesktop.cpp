@@ -9,7 +9,7 @@
 #include "forms/Guard.h"
 #include "forms/User.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 /// The host's long work.
@@ -71,4 +71,4 @@ void UnattendedDesktop::note(const std::string& text) {
   noted_ = text;
 }
 
-}  // namespace app
+}  // namespace answers

@@ -9,7 +9,7 @@
 #include "answers/RunEnded.h"
 #include "forms/HeadlessDesktop.h"
 
-namespace app {
+namespace answers {
 
 /// The desktop of a run that nobody watches. Message boxes go to the report and get their default
 /// button; a form that is shown goes to whoever said that it would answer it, and any other is
@@ -64,4 +64,4 @@ class UnattendedDesktop : public forms::HeadlessDesktop {
   bool isCancelling_ = false;
 };
 
-}  // namespace app
+}  // namespace answers

@@ -12,7 +12,7 @@
 #include "forms/TabStrip.h"
 #include "forms/UserControl.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 forms::Root& tabs(forms::Form& wizard) {
@@ -36,7 +36,7 @@ const StepActs& actsOf(const Page& page) {
 
 [[noreturn]] void refuseNotTaken(const Page& page, const Answer& answer) {
   const std::string what = "the step " + quoted(page.name()) + " did not take ";
-  throw RunEnded(RunEnded::refused, {Fault{what + answer.value.dump(), answer.path}});
+  throw RunEnded(RunEnded::refused, {base::Fault{what + answer.value.dump(), answer.path}});
 }
 
 }  // namespace
@@ -122,4 +122,4 @@ void WizardRun::goOn() const {
   Interrupt::endRunIfRequested();
 }
 
-}  // namespace app
+}  // namespace answers

@@ -11,7 +11,7 @@ namespace forms {
 class Form;
 }  // namespace forms
 
-namespace app {
+namespace answers {
 
 struct StepActs;
 
@@ -45,4 +45,4 @@ class WizardRun {
   std::optional<std::filesystem::path> savedFile_;
 };
 
-}  // namespace app
+}  // namespace answers

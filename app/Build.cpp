@@ -33,8 +33,8 @@ struct Room {
 
   fs::path file;
   RunReport report;
-  std::optional<Answers> answers;  // nothing: the file is wrong, which has been told
-  MadeFolders made;
+  std::optional<answers::Answers> given;  // nothing: the file is wrong, which has been told
+  answers::MadeFolders made;
 };
 
 /// The file name that stands for standard input.
@@ -42,30 +42,30 @@ constexpr const char* standardInput = "-";
 
 /// One byte more than is allowed is enough to see that there is too much.
 std::string contentOf(const fs::path& file) {
-  return file == standardInput ? readInput(Answers::mostBytes + 1) : base::readFile(file);
+  return file == standardInput ? readInput(answers::Answers::mostBytes + 1) : base::readFile(file);
 }
 
-std::optional<Answers> read(const fs::path& file, const BuildOptions& options,
-                            const RunReport& report) {
+std::optional<answers::Answers> read(const fs::path& file, const BuildOptions& options,
+                                     const RunReport& report) {
   try {
-    Answers answers(contentOf(file));
+    answers::Answers answers(contentOf(file));
     if (options.out) answers.setFolder(*options.out);
     return answers;
-  } catch (const RunEnded& ended) {
-    for (const Fault& fault : ended.faults()) report.fault(fault);
+  } catch (const answers::RunEnded& ended) {
+    for (const auto& fault : ended.faults()) report.fault(fault);
   } catch (const base::Error& error) {
     report.line(error.what());
   }
   return std::nullopt;
 }
 
-std::string textAt(const Answers& answers, const char* path) {
+std::string textAt(const answers::Answers& answers, const char* path) {
   const base::Json* value = answers.find(path);
   return value ? value->get<std::string>() : std::string();
 }
 
 /// Where the room's system will lie, as far as it can be known before the wizard has chosen a name.
-fs::path placeOf(const Answers& answers) {
+fs::path placeOf(const answers::Answers& answers) {
   const fs::path parent =
       answers.find("folder") ? fs::path(textAt(answers, "folder")) : defaultSystemsFolder();
   std::error_code failure;
@@ -78,13 +78,13 @@ bool canStandTogether(const std::vector<Room>& rooms) {
   std::map<fs::path, const Room*> places;
   bool can = true;
   for (const Room& room : rooms) {
-    if (!room.answers || rooms.size() == 1) continue;
-    if (!room.answers->find("name")) {
+    if (!room.given || rooms.size() == 1) continue;
+    if (!room.given->find("name")) {
       room.report.line("name: is missing; of several rooms each must have one");
       can = false;
       continue;
     }
-    const auto [place, isNew] = places.emplace(placeOf(*room.answers), &room);
+    const auto [place, isNew] = places.emplace(placeOf(*room.given), &room);
     if (!isNew) {
       room.report.line("leads to the same system as " + place->second->file.string() + ": " +
                        place->first.string());
@@ -137,19 +137,20 @@ void openWizardOnNewSystem(trellisar::Host& host) {
   AddIn(host).runOnNewSystem();
 }
 
-int exitStatusOf(RunEnded::Cause cause) {
-  return cause == RunEnded::refused ? exitStatus::refused : exitStatus::wrongInput;
+int exitStatusOf(answers::RunEnded::Cause cause) {
+  return cause == answers::RunEnded::refused ? exitStatus::refused : exitStatus::wrongInput;
 }
 
-RoomResult buildOrTell(Room& room, const RoomOptions& options) {
-  if (!room.answers) return {exitStatus::wrongInput, {}};
+answers::RoomResult buildOrTell(Room& room, const answers::RoomOptions& options) {
+  if (!room.given) return {exitStatus::wrongInput, {}};
   try {
-    return {exitStatus::ok, buildRoom(*room.answers, options, room.report, room.made).string()};
-  } catch (const RunEnded& ended) {
-    for (const Fault& fault : ended.faults()) room.report.fault(room.answers->placed(fault));
+    return {exitStatus::ok,
+            answers::buildRoom(*room.given, options, room.report, room.made).string()};
+  } catch (const answers::RunEnded& ended) {
+    for (const auto& fault : ended.faults()) room.report.fault(room.given->placed(fault));
     return {exitStatusOf(ended.cause()), {}};
   } catch (const std::exception& error) {
-    room.report.line(wordsOf(error));
+    room.report.line(answers::wordsOf(error));
     return {exitStatus::refused, {}};
   }
 }
@@ -159,21 +160,21 @@ RoomResult buildOrTell(Room& room, const RoomOptions& options) {
 int build(const BuildOptions& options) {
   if (!canBeRead(options.answersFiles) || !canBeDelivered(options)) return exitStatus::wrongInput;
 
-  const Interrupt interrupt;
+  const answers::Interrupt interrupt;
   std::vector<Room> rooms;
   for (const fs::path& file : options.answersFiles) {
     Room& room = rooms.emplace_back(file);
-    room.answers = read(file, options, room.report);
+    room.given = read(file, options, room.report);
   }
   if (!canStandTogether(rooms)) return exitStatus::wrongInput;
 
-  const RoomOptions roomOptions{dataFolder(), openWizardOnNewSystem, openLibrary(options),
-                                options.replace, options.delivery};
+  const answers::RoomOptions roomOptions{dataFolder(), openWizardOnNewSystem, openLibrary(options),
+                                         options.replace, options.delivery};
   if (!roomOptions.library) return exitStatus::wrongInput;
 
-  std::vector<Batch::Job> jobs;
+  std::vector<answers::Batch::Job> jobs;
   for (Room& room : rooms) jobs.emplace_back([&] { return buildOrTell(room, roomOptions); });
-  Batch batch([](const std::string& systemFile) { print(systemFile + "\n"); });
+  answers::Batch batch([](const std::string& systemFile) { print(systemFile + "\n"); });
   const int status = batch.run(jobs, options.jobs);
   // Only now, since a room that is still being built may be about to use a folder that another one
   // made.

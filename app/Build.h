@@ -15,7 +15,7 @@ struct BuildOptions {
       out;  // the parent folder of the systems, over that of the answers
   std::optional<std::filesystem::path> library;  // in the place of the shipped one
   bool replace = false;                          // an existing system or archive may be replaced
-  Delivery delivery;                             // of each room
+  answers::Delivery delivery;                    // of each room
   int jobs = 1;                                  // rooms that are built side by side
 };
 

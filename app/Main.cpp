@@ -14,7 +14,7 @@ int runOrTell(int argc, char** argv) {
   try {
     return app::run(argc, argv);
   } catch (const std::exception& error) {
-    app::reportLine(app::wordsOf(error));
+    app::reportLine(answers::wordsOf(error));
     return app::exitStatus::refused;
   }
 }

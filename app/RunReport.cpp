@@ -24,7 +24,7 @@ void write(const std::string& lines) { std::fwrite(lines.data(), 1, lines.size()
 
 void RunReport::line(const std::string& text) const { write(prefixed(text, subject_ + ": ")); }
 
-void RunReport::fault(const Fault& fault) const {
+void RunReport::fault(const base::Fault& fault) const {
   const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
   write(prefixed(fault.text(), subject_ + ":" + line + " "));
 }

@@ -10,13 +10,13 @@ namespace app {
 
 /// What a run tells on standard error. Every line begins with the answers file that it is about;
 /// the lines of one message stay together, also when rooms are built side by side.
-class RunReport : public Report {
+class RunReport : public answers::Report {
  public:
   explicit RunReport(std::string subject) : subject_(std::move(subject)) {}
 
   void line(const std::string& text) const override;
   /// A fault of the answers, behind its line in their file where that is known.
-  void fault(const Fault& fault) const;
+  void fault(const base::Fault& fault) const;
 
  private:
   std::string subject_;

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string>
 
-namespace app {
+namespace base {
 
 /// What is wrong with an answers file, or with an answer in a room.
 struct Fault {
@@ -15,4 +15,4 @@ struct Fault {
   std::string text() const { return path.empty() ? what : path + ": " + what; }
 };
 
-}  // namespace app
+}  // namespace base

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <utility>
 
-namespace app {
+namespace base {
 namespace {
 
 /// The place behind a text that begins at `at`. One that is not closed ends with its line: the
@@ -100,4 +100,4 @@ std::string inPlainWords(const std::string& parserSays) {
   return start == std::string::npos ? parserSays : parserSays.substr(start + 2);
 }
 
-}  // namespace app
+}  // namespace base

@@ -6,7 +6,7 @@
 
 #include "base/Fault.h"
 
-namespace app {
+namespace base {
 
 /// Puts blanks in the place of what people write into JSON and what is none, comments and commas
 /// with nothing behind them, and tells each. Everything else keeps its place.
@@ -18,4 +18,4 @@ std::size_t lineAt(std::string_view text, std::size_t byte);
 /// In the user's words what the parser says of a text that it can't read.
 std::string inPlainWords(const std::string& parserSays);
 
-}  // namespace app
+}  // namespace base

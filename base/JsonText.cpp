@@ -6,11 +6,8 @@
 
 #include "base/JsonSlips.h"
 
-namespace app {
+namespace base {
 namespace {
-
-using base::Json;
-using base::JsonLimits;
 
 /// Goes through a text and leaves word of how far it has come: the parser does not tell where it
 /// is.
@@ -155,4 +152,4 @@ std::size_t JsonText::lineOf(std::string path) const {
   }
 }
 
-}  // namespace app
+}  // namespace base

@@ -9,15 +9,15 @@
 #include "base/Fault.h"
 #include "base/Json.h"
 
-namespace app {
+namespace base {
 
 /// A JSON text: its value, where the parts of it stand, and all that keeps it from being JSON. A
 /// comment and a comma too many are told and passed over, so that what stands behind them is read
 /// too; a key that stands twice is told and counts with its last value.
 struct JsonText {
-  JsonText(std::string text, const base::JsonLimits& limits);
+  JsonText(std::string text, const JsonLimits& limits);
 
-  base::Json value;  // discarded where the text can't be read
+  Json value;  // discarded where the text can't be read
   std::vector<Fault> faults;
 
   /// The line of the value at a path such as "transmitters[1].label", or of the nearest one around
@@ -28,4 +28,4 @@ struct JsonText {
   std::map<std::string, std::size_t> lines_;
 };
 
-}  // namespace app
+}  // namespace base

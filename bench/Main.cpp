@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   try {
     const app::RunReport report("bench");
-    app::UnattendedDesktop desktop(report);
+    answers::UnattendedDesktop desktop(report);
     const forms::Application application(desktop, forms::fromMachinePath(app::dataFolder()));
     bench::registerFigures(bench::generatorFigures());
     bench::registerFigures(bench::fileFigures());

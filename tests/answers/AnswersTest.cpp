@@ -4,7 +4,7 @@
 
 #include "answers/RunEnded.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 std::string refusalOf(const std::string& json) {
@@ -99,7 +99,7 @@ std::string faultsOf(const std::string& json) {
   try {
     const Answers answers(json);
   } catch (const RunEnded& ended) {
-    for (const Fault& fault : ended.faults()) {
+    for (const base::Fault& fault : ended.faults()) {
       all += std::to_string(fault.line) + ": " + fault.text() + "\n";
     }
   }
@@ -173,4 +173,4 @@ TEST(Answers, areFoundByTheirPathAndAreAbsentWhereLeftOut) {
 }
 
 }  // namespace
-}  // namespace app
+}  // namespace answers

@@ -10,7 +10,7 @@
 
 #include "host/Error.h"
 
-namespace app {
+namespace answers {
 namespace {
 
 TEST(ErrorWords, areThoseOfAUser) {
@@ -30,4 +30,4 @@ TEST(ErrorWords, areThoseOfAUser) {
 }
 
 }  // namespace
-}  // namespace app
+}  // namespace answers

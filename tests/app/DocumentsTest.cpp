@@ -34,8 +34,8 @@ std::vector<Row> documentedAnswers() {
 
 std::string stepOf(const std::string& path) {
   std::string found;
-  for (const StepActs& step : stepActs()) {
-    for (const Act& act : step.acts) {
+  for (const answers::StepActs& step : answers::stepActs()) {
+    for (const answers::Act& act : step.acts) {
       if (path.starts_with(act.answer)) found = step.step;
     }
   }
@@ -43,14 +43,14 @@ std::string stepOf(const std::string& path) {
 }
 
 /// The rows that there must be, without what the code does not say.
-void collect(const Shape& shape, const std::string& path, bool isRequired,
+void collect(const answers::Shape& shape, const std::string& path, bool isRequired,
              std::vector<std::string>& rows) {
-  const bool isAnswer = shape.kind != Shape::Kind::object || shape.takesNull;
-  if (isAnswer && shape.kind != Shape::Kind::anything && !path.ends_with("[]")) {
-    rows.push_back("`" + path + "` " + described(shape) + (isRequired ? " required " : " ") +
-                   stepOf(path));
+  const bool isAnswer = shape.kind != answers::Shape::Kind::object || shape.takesNull;
+  if (isAnswer && shape.kind != answers::Shape::Kind::anything && !path.ends_with("[]")) {
+    rows.push_back("`" + path + "` " + answers::described(shape) +
+                   (isRequired ? " required " : " ") + stepOf(path));
   }
-  for (const Key& key : shape.keys) {
+  for (const answers::Key& key : shape.keys) {
     const std::string below = path + (path.empty() ? "" : ".") + key.name;
     collect(key.shape, key.name.empty() ? path + "[]" : below, key.isRequired, rows);
   }
@@ -58,7 +58,7 @@ void collect(const Shape& shape, const std::string& path, bool isRequired,
 
 TEST(Documents, ofTheAnswersSayWhatTheProgramTakes) {
   std::vector<std::string> taken;
-  collect(answersShape(), "", false, taken);
+  collect(answers::answersShape(), "", false, taken);
   std::vector<std::string> documented;
   for (const Row& row : documentedAnswers()) {
     ASSERT_EQ(row.size(), 5U) << row.front();

@@ -69,7 +69,7 @@ const Folder& folder() {
 /// A host with the template open, and the add-in that works on it.
 struct World {
   app::RunReport report{"fuzzing"};
-  app::UnattendedDesktop desktop{report};
+  answers::UnattendedDesktop desktop{report};
   forms::Application application{desktop, forms::fromMachinePath(data)};
   trellisar::Host host{{.dataFolder = data}};
   std::shared_ptr<addin::IAddIn> addIn = std::make_shared<addin::IAddIn>();
@@ -121,8 +121,8 @@ void library(std::string_view bytes) {
 
 void answers(std::string_view bytes) {
   try {
-    const app::Answers read{std::string(bytes)};
-  } catch (const app::RunEnded&) {
+    const answers::Answers read{std::string(bytes)};
+  } catch (const answers::RunEnded&) {
   }
 }
 

@@ -61,11 +61,18 @@ const std::string& buttonFor(const std::vector<OptionWord>& buttons, const Answe
   return std::find_if(buttons.begin(), buttons.end(), isMeant)->second;
 }
 
+std::vector<std::string> wordsBeside(const std::vector<OptionWord>& buttons) {
+  std::vector<std::string> words;
+  for (const auto& [word, button] : buttons) words.push_back(word);
+  return words;
+}
+
 /// The button for the answer's word. One that can't be chosen is refused with those that can.
 forms::OptionButton& offeredButton(const Page& page, const std::vector<OptionWord>& buttons,
                                    const Answer& answer) {
   std::vector<std::string> offered;
-  for (const auto& [word, button] : buttons) {
+  for (auto each = buttons.rbegin(); each != buttons.rend(); ++each) {
+    const auto& [word, button] = *each;
     if (page.control<forms::OptionButton>(button).isUsable()) offered.push_back(word);
   }
   const std::string word = answer.text();
@@ -77,9 +84,10 @@ forms::OptionButton& offeredButton(const Page& page, const std::vector<OptionWor
 
 }  // namespace
 
-Act enter(std::string answer, std::string textBox) {
-  return {std::move(answer),
-          [textBox](const Page& page, const Answer& given) {
+Act noAct() { return {}; }
+
+Act enter(std::string textBox) {
+  return {[textBox](const Page& page, const Answer& given) {
             page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
           },
           [textBox](const Page& page, const Answer& given) {
@@ -87,9 +95,8 @@ Act enter(std::string answer, std::string textBox) {
           }};
 }
 
-Act tick(std::string answer, std::string checkBox) {
-  return {std::move(answer),
-          [checkBox](const Page& page, const Answer& given) {
+Act tick(std::string checkBox) {
+  return {[checkBox](const Page& page, const Answer& given) {
             setTicked(page, checkBox, given, isTicked(given));
           },
           [checkBox](const Page& page, const Answer& given) {
@@ -97,8 +104,8 @@ Act tick(std::string answer, std::string checkBox) {
           }};
 }
 
-Act include(std::string answer, std::string checkBox, std::string deviceName) {
-  Act act = tick(std::move(answer), std::move(checkBox));
+Act include(std::string checkBox, std::string deviceName) {
+  Act act = tick(std::move(checkBox));
   act.isHeld = [isShown = std::move(act.isHeld), deviceName](const Page& page,
                                                              const Answer& given) {
     return isShown(page, given) && isInSystem(page, deviceName) == isTicked(given);
@@ -106,9 +113,8 @@ Act include(std::string answer, std::string checkBox, std::string deviceName) {
   return act;
 }
 
-Act enterBehind(std::string answer, std::string checkBox, std::string textBox) {
-  return {std::move(answer),
-          [checkBox, textBox](const Page& page, const Answer& given) {
+Act enterBehind(std::string checkBox, std::string textBox) {
+  return {[checkBox, textBox](const Page& page, const Answer& given) {
             setTicked(page, checkBox, given, isWanted(given));
             if (!isWanted(given)) return;
             page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
@@ -122,22 +128,21 @@ Act enterBehind(std::string answer, std::string checkBox, std::string textBox) {
           }};
 }
 
-Act chooseOption(std::string answer, std::vector<OptionWord> buttons) {
-  return {std::move(answer),
-          [buttons](const Page& page, const Answer& given) {
+Act chooseOption(std::vector<OptionWord> buttons) {
+  Act act{[buttons](const Page& page, const Answer& given) {
             page.user().click(offeredButton(page, buttons, given));
           },
           [buttons](const Page& page, const Answer& given) {
             return page.control<forms::OptionButton>(buttonFor(buttons, given)).isChosen();
           }};
+  act.words = wordsBeside(buttons);
+  return act;
 }
 
-Act chooseOptionBehind(std::string answer, std::string off, std::string checkBox,
-                       std::vector<OptionWord> buttons) {
-  const Act choice = chooseOption(answer, std::move(buttons));
-  const auto isWanted = [off = std::move(off)](const Answer& given) { return given.text() != off; };
-  return {std::move(answer),
-          [=, perform = choice.perform](const Page& page, const Answer& given) {
+Act chooseOptionBehind(std::string off, std::string checkBox, std::vector<OptionWord> buttons) {
+  const Act choice = chooseOption(std::move(buttons));
+  const auto isWanted = [off](const Answer& given) { return given.text() != off; };
+  Act act{[=, perform = choice.perform](const Page& page, const Answer& given) {
             setTicked(page, checkBox, given, isWanted(given));
             if (isWanted(given)) perform(page, given);
           },
@@ -147,11 +152,13 @@ Act chooseOptionBehind(std::string answer, std::string off, std::string checkBox
             }
             return !isWanted(given) || isHeld(page, given);
           }};
+  act.words = choice.words;
+  act.words.insert(act.words.begin(), std::move(off));
+  return act;
 }
 
-Act selectCommand(std::string answer, std::string selector) {
-  return {std::move(answer),
-          [selector](const Page& page, const Answer& given) {
+Act selectCommand(std::string selector) {
+  return {[selector](const Page& page, const Answer& given) {
             auto& commands = page.usable<host::DeviceCommands>(selector, given);
             auto& list = dynamic_cast<forms::DropDownList&>(commands.control("cboCommands"));
             page.user().select(list, placeOfCommand(page, list, given));
@@ -162,9 +169,8 @@ Act selectCommand(std::string answer, std::string selector) {
           }};
 }
 
-Act chooseDevice(std::string answer, std::string button, std::string deviceName) {
-  return {std::move(answer),
-          [button](const Page& page, const Answer& given) {
+Act chooseDevice(std::string button, std::string deviceName) {
+  return {[button](const Page& page, const Answer& given) {
             const DeviceChoice choice(page, given);
             page.user().click(page.usable<forms::CommandButton>(button, given));
           },

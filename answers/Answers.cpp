@@ -33,7 +33,7 @@ const Json* Answers::find(std::string_view path) const {
   while (!path.empty()) {
     const std::size_t point = path.find('.');
     const auto member = value->find(path.substr(0, point));
-    if (member == value->end() || member->is_null()) return nullptr;
+    if (member == value->end()) return nullptr;
     value = &*member;
     path = point == std::string_view::npos ? std::string_view() : path.substr(point + 1);
   }

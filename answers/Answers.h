@@ -20,8 +20,8 @@ class Answers {
   /// it, from the first line to the last.
   explicit Answers(std::string text);
 
-  /// The value at a path such as "display.relay.on_delay"; null when it was left out, or holds
-  /// null, which on a new system is the same.
+  /// The value at a path such as "display.relay.on_delay", null itself where the file says null;
+  /// nothing when it was left out, or stands in what is null.
   const base::Json* find(std::string_view path) const;
 
   /// The parent folder of the system in the place of the file's own.

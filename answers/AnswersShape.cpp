@@ -1,71 +1,45 @@
 #include "answers/AnswersShape.h"
 
 #include <algorithm>
+#include <string_view>
 
-#include "forms/Text.h"
+#include "answers/Table.h"
 
 namespace answers {
 namespace {
 
-Shape delaySeconds() { return integer(0, 999); }
-Shape pulseSeconds() { return integer(0, 655); }
-
-Shape auxiliaryDevice() {
-  return orNull(object({{"device", text(), Key::required},
-                        {"on", text()},
-                        {"off", text()},
-                        {"on_pulse", pulseSeconds()},
-                        {"off_pulse", pulseSeconds()}}));
+/// The key of this name; one that is not there yet becomes an object.
+Key& keyOf(Shape& shape, std::string_view name) {
+  const auto found = std::find_if(shape.keys.begin(), shape.keys.end(),
+                                  [&](const Key& key) { return key.name == name; });
+  if (found != shape.keys.end()) return *found;
+  return shape.keys.emplace_back(Key{.name = std::string(name), .shape = object({})});
 }
 
-Shape transmitterLabel() {
-  const auto isTrimmed = [](const std::string& label) { return forms::trimmed(label) == label; };
-  return text(1, 8, isTrimmed, " without blanks at its ends");
-}
-
-bool isControl(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }
-
-/// A receiver takes no password with a control character, and says so only after the transfer.
-Shape password() {
-  const auto canBeSet = [](const std::string& password) {
-    const bool hasControls = std::any_of(password.begin(), password.end(), isControl);
-    return password.empty() || (!forms::trimmed(password).empty() && !hasControls);
-  };
-  return text(0, 20, canBeSet, ", not of blanks alone and without control characters");
+/// The key at a path such as "transmitters[].label".
+Key& keyAt(Shape& shape, std::string_view path) {
+  constexpr std::string_view each = "[]";
+  const std::size_t point = path.find('.');
+  std::string_view name = path.substr(0, point);
+  const bool isEach = name.ends_with(each);
+  if (isEach) name.remove_suffix(each.size());
+  Key& key = keyOf(shape, name);
+  if (point == std::string_view::npos) return key;
+  return keyAt(isEach ? key.shape.keys.front().shape : key.shape, path.substr(point + 1));
 }
 
 Shape makeShape() {
-  return object({
-      {"$schema", anything()},
-      {"name", text(1, 50)},
-      {"folder", text()},
-      {"display", object({{"device", text()},
-                          {"rgb", text()},
-                          {"composite", text()},
-                          {"relay", orNull(object({{"on_delay", delaySeconds()},
-                                                   {"off_delay", delaySeconds()}}))}})},
-      {"audio", object({{"volume_knob", word({"program", "master"})},
-                        {"microphone", word({"when on", "always"})},
-                        {"mute_on_input_3", boolean()}})},
-      {"power",
-       object({{"control", word({"none", "sensing", "discrete"})},
-               {"on", text()},
-               {"off", text()},
-               {"second_off", orNull(object({{"command", text(1)}, {"delay", delaySeconds()}}))}})},
-      {"lockout", object({{"on", delaySeconds()},
-                          {"off", delaySeconds()},
-                          {"contact", word({"unused", "power off", "continue"})}})},
-      {"screen", auxiliaryDevice()},
-      {"lift", auxiliaryDevice()},
-      {"transmitters",
-       array(3, object({{"type", text(), Key::required}, {"label", transmitterLabel()}}))},
-      {"three_input_receiver", boolean()},
-      {"room", object({{"kestrum", boolean()},
-                       {"fenlet", boolean()},
-                       {"occupancy", boolean()},
-                       {"fenlet_password", password()},
-                       {"power_off_after", integer(0, 546)}})},
-  });
+  Shape shape = object({{"$schema", anything()}});
+  for (const Step& step : table()) {
+    for (const Row& row : step.rows) {
+      Key& key = keyAt(shape, row.key);
+      key.shape = row.type;
+      key.isRequired = row.leftOut.kind == LeftOut::Kind::required;
+      key.description = step.name + ": " + row.meaning;
+      key.leftOut = row.leftOut.value;
+    }
+  }
+  return shape;
 }
 
 }  // namespace

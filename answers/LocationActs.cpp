@@ -1,7 +1,10 @@
+#include "answers/LocationActs.h"
+
+#include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "answers/Shape.h"
-#include "answers/StepTable.h"
 #include "forms/CommandButton.h"
 #include "forms/Paths.h"
 #include "forms/Text.h"
@@ -24,32 +27,10 @@ std::string folderFrom(const Page& page, const Answer& answer) {
   }
 }
 
-/// Nothing but blanks is no name, whatever the box shows: they are no part of it.
-Act enterName(std::string answer, std::string textBox) {
-  Act act = enter(std::move(answer), std::move(textBox));
-  act.isHeld = [isShown = std::move(act.isHeld)](const Page& page, const Answer& given) {
-    return isShown(page, given) && !forms::trimmed(given.text()).empty();
-  };
-  return act;
-}
-
 /// The parent folder of the system: the location box without its last name.
 fs::path parentOf(std::string location) {
   location.pop_back();
   return location.substr(0, location.find_last_of('/') + 1);
-}
-
-Act chooseParentFolder(std::string answer, std::string button, std::string location) {
-  return {std::move(answer),
-          [button](const Page& page, const Answer& given) {
-            page.hands().desktop.answerFolders(folderFrom(page, given));
-            page.user().click(page.usable<forms::CommandButton>(button, given));
-            page.hands().desktop.answerFolders({});
-          },
-          [location](const Page& page, const Answer& given) {
-            return parentOf(page.control<forms::TextBox>(location).text()) ==
-                   machineFolder(given) / "";
-          }};
 }
 
 /// Where the wizard is about to save.
@@ -62,6 +43,28 @@ fs::path systemFile(const Page& page) {
   return folder / (name + ".tsy");
 }
 
+}  // namespace
+
+Act enterName(std::string textBox) {
+  Act act = enter(std::move(textBox));
+  act.isHeld = [isShown = std::move(act.isHeld)](const Page& page, const Answer& given) {
+    return isShown(page, given) && !forms::trimmed(given.text()).empty();
+  };
+  return act;
+}
+
+Act chooseParentFolder(std::string button, std::string location) {
+  return {[button](const Page& page, const Answer& given) {
+            page.hands().desktop.answerFolders(folderFrom(page, given));
+            page.user().click(page.usable<forms::CommandButton>(button, given));
+            page.hands().desktop.answerFolders({});
+          },
+          [location](const Page& page, const Answer& given) {
+            return parentOf(page.control<forms::TextBox>(location).text()) ==
+                   machineFolder(given) / "";
+          }};
+}
+
 void refuseExistingSystem(const Page& page) {
   const fs::path file = systemFile(page);
   page.hands().made.expect(file.parent_path());
@@ -70,17 +73,6 @@ void refuseExistingSystem(const Page& page) {
     throw RunEnded(RunEnded::refused,
                    "there is a system already: " + file.string() + "; --replace replaces it");
   }
-}
-
-}  // namespace
-
-StepActs locationActs() {
-  return {"Name and Location",
-          {
-              enterName("name", "txtSystemName"),
-              chooseParentFolder("folder", "cmdBrowse", "txtLocation"),
-          },
-          refuseExistingSystem};
 }
 
 }  // namespace answers

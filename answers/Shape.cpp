@@ -31,7 +31,7 @@ std::string describedText(const Shape& shape) {
   } else if (shape.minimum > 0) {
     text += " that is not empty";
   }
-  return text + shape.acceptsWhat;
+  return text + shape.further.what;
 }
 
 bool isIntegerWithin(const Json& value, const Shape& shape) {
@@ -47,7 +47,7 @@ bool isTextWithin(const Json& value, const Shape& shape) {
   const auto& text = value.get_ref<const std::string&>();
   const std::int64_t length = forms::length(text);
   return length >= shape.minimum && length <= shape.maximum &&
-         (!shape.accepts || shape.accepts(text));
+         (!shape.further.accepts || shape.further.accepts(text));
 }
 
 bool fits(const Json& value, const Shape& shape) {
@@ -119,11 +119,29 @@ Shape text(std::int64_t minimum, std::int64_t maximum) {
   return shapeOf(Shape::Kind::text, minimum, maximum);
 }
 
-Shape text(std::int64_t minimum, std::int64_t maximum,
-           std::function<bool(const std::string&)> accepts, std::string what) {
+Shape text(std::int64_t minimum, std::int64_t maximum, Further further) {
   Shape shape = text(minimum, maximum);
-  shape.accepts = std::move(accepts);
-  shape.acceptsWhat = std::move(what);
+  shape.further = std::move(further);
+  return shape;
+}
+
+Shape device(std::string category) {
+  Shape shape = text();
+  shape.names = Shape::Names::device;
+  shape.category = std::move(category);
+  return shape;
+}
+
+Shape slotDevice() {
+  Shape shape = text();
+  shape.names = Shape::Names::slotDevice;
+  return shape;
+}
+
+Shape command(std::string category, std::int64_t minimum) {
+  Shape shape = text(minimum);
+  shape.names = Shape::Names::command;
+  shape.category = std::move(category);
   return shape;
 }
 

@@ -12,6 +12,13 @@ namespace answers {
 
 struct Key;
 
+/// What a text must be besides its length.
+struct Further {
+  std::function<bool(const std::string&)> accepts;  // empty: whatever it is
+  std::string what;     // ends the sentence "must be a text of 1 to 8 characters"
+  std::string pattern;  // says the same in a regular expression
+};
+
 /// What a value of a file may be, as a literal that reads like the file's description:
 ///
 ///     object({{"label", text(1, 8)}, {"type", text(), Key::required}})
@@ -26,9 +33,12 @@ struct Shape {
   std::vector<std::string> words;
   /// Of an object its keys, of an array the shape of its elements under an empty name.
   std::vector<Key> keys;
-  /// What a text must be besides, and the words that say so; empty: nothing.
-  std::function<bool(const std::string&)> accepts;
-  std::string acceptsWhat;
+  Further further;
+  /// What of the device library a text names: a device of a category, one that a slot takes, or a
+  /// command of a category's devices. `check` takes any: it is the wizard who knows the library.
+  enum class Names { nothing, device, slotDevice, command };
+  Names names = Names::nothing;
+  std::string category;
   bool takesNull = false;
 };
 
@@ -38,15 +48,19 @@ struct Key {
   std::string name;
   Shape shape;
   bool isRequired = false;
+  std::string description = {};
+  base::Json leftOut = {};  // what holds where the key is left out; null: that is not said
 };
 
 inline constexpr std::int64_t noLimit = INT64_MAX;
 
 Shape text(std::int64_t minimum = 0, std::int64_t maximum = noLimit);
-/// `what` ends the sentence "must be a text of 1 to 8 characters".
-Shape text(std::int64_t minimum, std::int64_t maximum,
-           std::function<bool(const std::string&)> accepts, std::string what);
-Shape word(std::vector<std::string> words);
+Shape text(std::int64_t minimum, std::int64_t maximum, Further further);
+/// The name of a library device, of one that a slot takes, or of a command that one has.
+Shape device(std::string category);
+Shape slotDevice();
+Shape command(std::string category, std::int64_t minimum = 0);
+Shape word(std::vector<std::string> words = {});
 Shape integer(std::int64_t minimum, std::int64_t maximum);
 Shape boolean();
 Shape object(std::vector<Key> keys);

@@ -1,10 +1,11 @@
+#include "answers/TransmitterActs.h"
+
 #include <algorithm>
 #include <optional>
 #include <utility>
 
 #include "answers/Nearest.h"
 #include "answers/Shape.h"
-#include "answers/StepTable.h"
 #include "forms/CommandButton.h"
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
@@ -84,9 +85,10 @@ bool areInSystem(const Page& page, const Answer& transmitters) {
   return are;
 }
 
-Act addAll(std::string answer) {
-  return {std::move(answer),
-          [](const Page& page, const Answer& given) {
+}  // namespace
+
+Act addTransmitters() {
+  return {[](const Page& page, const Answer& given) {
             eachAnswer(given, "type", [&](std::int32_t, const Answer& type) { add(page, type); });
           },
           [](const Page& page, const Answer& given) {
@@ -95,25 +97,13 @@ Act addAll(std::string answer) {
           areInSystem};
 }
 
-Act renameAll(std::string answer) {
-  return {std::move(answer),
-          [](const Page& page, const Answer& given) {
+Act renameTransmitters() {
+  return {[](const Page& page, const Answer& given) {
             eachAnswer(given, "label",
                        [&](std::int32_t row, const Answer& label) { rename(page, row, label); });
           },
           [](const Page& page, const Answer& given) {
             return showsAnswers(page, given, "label", labelColumn);
-          }};
-}
-
-}  // namespace
-
-StepActs transmitterActs() {
-  return {"Orlena Transmitters",
-          {
-              addAll("transmitters"),
-              renameAll("transmitters"),
-              tick("three_input_receiver", "chkUse3OLReceiver"),
           }};
 }
 

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
-#include "answers/Acts.h"
 #include "answers/Interrupt.h"
 #include "answers/Shape.h"
-#include "answers/StepTable.h"
 #include "answers/SystemPlace.h"
+#include "answers/Table.h"
 #include "forms/CommandButton.h"
 #include "forms/Form.h"
 #include "forms/TabStrip.h"
@@ -24,11 +23,11 @@ forms::TabStrip& strip(forms::Form& wizard) {
 }
 
 /// What a step asks for; a step that is not in the table asks for nothing.
-const StepActs& actsOf(const Page& page) {
-  static const StepActs nothing;
-  const auto& steps = stepActs();
+const Step& stepOf(const Page& page) {
+  static const Step nothing;
+  const std::vector<Step>& steps = table();
   const auto found = std::find_if(steps.begin(), steps.end(),
-                                  [&](const StepActs& step) { return step.step == page.name(); });
+                                  [&](const Step& step) { return step.name == page.name(); });
   return found == steps.end() ? nothing : *found;
 }
 
@@ -44,7 +43,7 @@ const StepActs& actsOf(const Page& page) {
 void WizardRun::drive(forms::Form& wizard) {
   while (true) {
     const Page page = currentPage(wizard);
-    const StepActs& step = actsOf(page);
+    const Step& step = stepOf(page);
     answer(page, step);
     if (!wizard.control("cmdNext").isUsable()) break;
     next(wizard);
@@ -61,15 +60,12 @@ Page WizardRun::currentPage(forms::Form& wizard) const {
   return {hands_, dynamic_cast<forms::UserControl&>(step), strip(wizard).pageCaption(number)};
 }
 
-void WizardRun::answer(const Page& page, const StepActs& step) const {
-  for (const Act& act : step.acts) {
-    const base::Json* value = answers_.find(act.answer);
-    if (!value) continue;
-    const Answer given{act.answer, *value};
+void WizardRun::answer(const Page& page, const Step& step) const {
+  eachAnswer(step, [&](const Act& act, const Answer& given) {
     act.perform(page, given);
     goOn();
     if (!act.isHeld(page, given)) refuseNotTaken(page, given);
-  }
+  });
   if (step.beforeLeaving) step.beforeLeaving(page);
 }
 
@@ -84,13 +80,20 @@ void WizardRun::next(forms::Form& wizard) const {
 
 /// A box is read when the focus leaves it, which for the last one of a page is when the step is
 /// left.
-void WizardRun::checkHeld(const Page& page, const StepActs& step) const {
-  for (const Act& act : step.acts) {
-    const base::Json* value = answers_.find(act.answer);
-    if (!value) continue;
-    const Answer given{act.answer, *value};
+void WizardRun::checkHeld(const Page& page, const Step& step) const {
+  eachAnswer(step, [&](const Act& act, const Answer& given) {
     const bool isInSystem = !act.isInSystem || act.isInSystem(page, given);
     if (!act.isHeld(page, given) || !isInSystem) refuseNotTaken(page, given);
+  });
+}
+
+/// On a new system null is as if the answer was left out: there is nothing that it could untick.
+void WizardRun::eachAnswer(const Step& step, const Visit& visit) const {
+  for (const Row* row : step.onThePage()) {
+    // Elements have their acts for the whole array.
+    const std::string path = row->key.substr(0, row->key.find("[]"));
+    const base::Json* value = answers_.find(path);
+    if (value && !value->is_null()) visit(row->act, {path, *value});
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "answers/Answers.h"
@@ -13,7 +14,8 @@ class Form;
 
 namespace answers {
 
-struct StepActs;
+struct Act;
+struct Step;
 
 /// A person with an answers file at the wizard: goes through all steps with Next, answers each page
 /// from top to bottom, saves with the save button, exports and uploads where that is asked for, and
@@ -32,9 +34,13 @@ class WizardRun {
 
  private:
   Page currentPage(forms::Form& wizard) const;
-  void answer(const Page& page, const StepActs& step) const;
+  using Visit = std::function<void(const Act&, const Answer&)>;
+
+  void answer(const Page& page, const Step& step) const;
   void next(forms::Form& wizard) const;
-  void checkHeld(const Page& page, const StepActs& step) const;
+  void checkHeld(const Page& page, const Step& step) const;
+  /// Calls `visit` with each answer that is given for the step, from the top of its page.
+  void eachAnswer(const Step& step, const Visit& visit) const;
   void save(forms::Form& wizard);
   void finish(forms::Form& wizard) const;
   void goOn() const;

@@ -162,13 +162,16 @@ TEST(AnswersForm, thatIsNoJsonIsToldInPlainWords) {
   for (const Case& bad : cases) EXPECT_EQ(faultsOf(bad.json), bad.fault) << bad.json;
 }
 
-TEST(Answers, areFoundByTheirPathAndAreAbsentWhereLeftOut) {
+TEST(Answers, areFoundByTheirPathWhichTellsNullFromLeftOut) {
   const Answers answers(R"({"display": {"relay": {"on_delay": 5}}, "lift": null})");
   ASSERT_TRUE(answers.find("display.relay.on_delay"));
   EXPECT_EQ(*answers.find("display.relay.on_delay"), 5);
   EXPECT_TRUE(answers.find("display.relay"));
   EXPECT_FALSE(answers.find("display.relay.off_delay"));
-  EXPECT_FALSE(answers.find("lift"));
+  EXPECT_FALSE(answers.find("screen"));
+  ASSERT_TRUE(answers.find("lift"));
+  EXPECT_TRUE(answers.find("lift")->is_null());
+  EXPECT_FALSE(answers.find("lift.device"));
   EXPECT_FALSE(answers.find("power.second_off.delay"));
 }
 

@@ -11,6 +11,7 @@
 #include "app/Documents.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
+#include "app/Schema.h"
 #include "app/Show.h"
 #include "app/Window.h"
 
@@ -100,6 +101,20 @@ Command reportCommand(CLI::App& program) {
            {"2", "the command line is wrong, or the file can't be read"}}};
 }
 
+Command schemaCommand(CLI::App& program) {
+  auto options = std::make_shared<SchemaOptions>();
+  CLI::App* command = program.add_subcommand(
+      "schema", "Prints the JSON Schema of an answers file, with the library's devices");
+  command
+      ->add_option("--library", options->library, "Device library in the place of the shipped one")
+      ->type_name("FOLDER");
+  return {command,
+          [options] { return printSchema(*options); },
+          {{"0", "done"},
+           {"1", "the output can't be written"},
+           {"2", "the command line is wrong, or the library can't be read"}}};
+}
+
 Command wizardCommand(CLI::App& program) {
   auto file = std::make_shared<std::optional<std::filesystem::path>>();
   CLI::App* command =
@@ -154,6 +169,7 @@ Commands::Commands()
          wizardCommand(program),
          showCommand(program),
          reportCommand(program),
+         schemaCommand(program),
          receiverCommand(program),
          developersCommand(program, "screenshots", "Draws the windows in their states",
                            takeScreenshots, addScreenshotOptions),

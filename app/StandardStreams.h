@@ -13,8 +13,8 @@ void print(std::string_view text);
 /// Why something could not be printed, as a sentence; empty: everything was.
 std::string outputFailure();
 
-/// All that standard input holds, or its first `most` bytes. Raises host::Error errFile when it
-/// can't be read.
+/// All that standard input holds, or its first `most` bytes. Raises base::FileError when it can't
+/// be read.
 std::string readInput(std::size_t most);
 
 /// Lets standard streams that the program was started without stand empty, so that no file that it

@@ -37,5 +37,22 @@ TEST(OrlenaShow, saysWhatIsWrongWithAFileThatItCanNotRead) {
   }
 }
 
+TEST(OrlenaSchema, isThatOfTheLibrary) {
+  TemporaryFolder folder;
+  Program program(folder);
+  folder.write("own/index.json", R"({"format": "trellisar-device-library", "version": 1,
+                                     "files": []})");
+  const auto displays = [&](const std::vector<std::string>& arguments) {
+    const auto schema = nlohmann::json::parse(program.run(arguments).output);
+    return schema["properties"]["display"]["properties"]["device"]["enum"].dump();
+  };
+  EXPECT_NE(displays({"schema"}).find("Bravonne P2200"), std::string::npos);
+  EXPECT_EQ(displays({"schema", "--library", "own"}), "[]");
+  const Outcome outcome = program.run({"schema", "--library", "missing"});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_NE(outcome.errors.find("orlena: "), std::string::npos) << outcome.errors;
+  EXPECT_NE(outcome.errors.find("missing"), std::string::npos) << outcome.errors;
+}
+
 }  // namespace
 }  // namespace app

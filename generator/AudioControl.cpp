@@ -1,7 +1,10 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -15,8 +18,9 @@ std::string Constant(bool bValue) { return bValue ? "1d" : "0d"; }
 bool Generate::BuildAudioControl() {
   const addin::IAddIn& settings = addin::gAddIn();
   const auto receiver = addin::gDocument().get_Devices()->Item(settings.get_ReceiverID());
-  if (!SetProperty(*receiver, "Volume Knob Control", Constant(settings.get_VolumeKnobControl())) ||
-      !SetProperty(*receiver, "Mic Mode Control", Constant(settings.get_MicModeControl()))) {
+  if (!SetProperty(m_run, *receiver, "Volume Knob Control",
+                   Constant(settings.get_VolumeKnobControl())) ||
+      !SetProperty(m_run, *receiver, "Mic Mode Control", Constant(settings.get_MicModeControl()))) {
     return false;
   }
   return settings.get_bMuteOnDigInp3() == 0 || BuildMuteOnContact();
@@ -31,8 +35,10 @@ bool Generate::BuildMuteOnContact() {
   EnableEvents(*contact);
   ClearEvents(*contact);
   const std::int16_t iReceiverID = settings.get_ReceiverID();
-  return AddCommandToEvent(*contact, host::eventHigh, Command(iReceiverID, "Volume_Mute_On")) &&
-         AddCommandToEvent(*contact, host::eventLow, Command(iReceiverID, "Volume_Mute_Off"));
+  return AddCommandToEvent(m_run, *contact, host::eventHigh,
+                           Command(iReceiverID, "Volume_Mute_On")) &&
+         AddCommandToEvent(m_run, *contact, host::eventLow,
+                           Command(iReceiverID, "Volume_Mute_Off"));
 }
 
 }  // namespace generator

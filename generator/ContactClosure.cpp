@@ -1,8 +1,11 @@
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -58,7 +61,7 @@ bool Generate::BuildLockAtStart() {
 
 bool Generate::AddSystemLockToPreset(const std::string& sPreset, bool bAtStart) {
   const auto preset = FindPreset(sPreset);
-  if (!preset) return CannotFindPreset(sPreset);
+  if (!preset) return m_run.CannotFindPreset(sPreset);
   const auto iEnd = static_cast<std::int16_t>(preset->get_StepCount() + 1);
   return InsertSystemLockBranch(*preset, bAtStart ? iFirst : iEnd,
                                 ContactIsOpen(ContactID(), sContact));
@@ -68,7 +71,7 @@ bool Generate::InsertSystemLockBranch(host::Preset& preset, std::int16_t iIndex,
                                       const host::StepCondition& test) {
   return InsertBranch(preset, iIndex, test, [this](const PresetPtr& branch) {
     const auto lock = FindPreset(sSystemLockPreset);
-    if (!lock) return CannotFindPreset(sSystemLockPreset);
+    if (!lock) return m_run.CannotFindPreset(sSystemLockPreset);
     return AddStep(*branch, iFirst, Call(*lock));
   });
 }

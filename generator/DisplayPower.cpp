@@ -1,8 +1,11 @@
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -72,7 +75,7 @@ bool Generate::AddDiscretePowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iD
     WarnOfMissingPowerCommand(ePowerOnOrOff, iDeviceID);
     return true;
   }
-  const auto preset = FindSequence(GetDisplayPowerPreset(ePowerOnOrOff).sName);
+  const auto preset = FindSequence(m_run, GetDisplayPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   preset->ClearSteps();
 
@@ -89,7 +92,7 @@ void Generate::WarnOfMissingPowerCommand(std::int16_t ePowerOnOrOff, std::int16_
   const auto display =
       addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
   if (!display || display->get_PowerControlType() != host::powerDiscrete || iDeviceID <= 0) return;
-  AddErrorItem(GetMissingPowerCommandWarning(ePowerOnOrOff), host::severityWarning);
+  m_run.AddErrorItem(GetMissingPowerCommandWarning(ePowerOnOrOff), host::severityWarning);
 }
 
 void Generate::AppendRelayCloseSteps(host::Preset& preset) {

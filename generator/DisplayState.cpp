@@ -1,8 +1,11 @@
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -65,9 +68,10 @@ bool Generate::BuildCoolingDown(std::int16_t iModuleID) {
 bool Generate::ReportDisplayState(const host::Signal& signal, const char* sHigh, const char* sLow) {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
   if (iKestrumID <= 0) return true;
-  return AddCommandToEvent(signal, host::eventHigh,
+  return AddCommandToEvent(m_run, signal, host::eventHigh,
                            Analog(iKestrumID, sDisplayPowerState, sHigh)) &&
-         AddCommandToEvent(signal, host::eventLow, Analog(iKestrumID, sDisplayPowerState, sLow));
+         AddCommandToEvent(m_run, signal, host::eventLow,
+                           Analog(iKestrumID, sDisplayPowerState, sLow));
 }
 
 //  if (digital input 2 is closed)       when the contact is used

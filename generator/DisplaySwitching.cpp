@@ -1,7 +1,11 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -55,7 +59,7 @@ bool Generate::BuildDisplayDeviceSwitchingCommand(std::int16_t iStandardCommand)
   const auto preset = EventPreset(*signal, host::eventHigh);
   preset->ClearSteps();
   if (!sCommand.empty() &&
-      !AddCommandToEvent(*signal, host::eventHigh,
+      !AddCommandToEvent(m_run, *signal, host::eventHigh,
                          Pulse(settings.get_DisplayDeviceID(), sCommand, sDisplayPulse))) {
     return false;
   }

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "addin/ProgramBuilder.h"
-#include "generator/Steps.h"
+#include "generator/Devices.h"
+#include "generator/Presets.h"
+#include "generator/Run.h"
 #include "host/Document.h"
 
 namespace generator {
@@ -24,79 +25,13 @@ class Generate : public addin::ProgramBuilder {
  public:
   /// Runs the sub-builders in their order; the first that fails ends the run.
   [[nodiscard]] bool Build() override;
-  std::string GetLastError() const override { return m_strLastError; }
+  std::string GetLastError() const override { return m_run.get_LastError(); }
   std::string GetFailedPart() const override { return m_strFailedPart; }
   std::shared_ptr<const addin::ErrorItems> GetErrorItems() const override {
-    return m_colErrorItems;
+    return m_run.get_ErrorItems();
   }
 
  private:
-  using PresetPtr = std::shared_ptr<host::Preset>;
-  using DevicePtr = std::shared_ptr<host::Device>;
-  using SignalPtr = std::shared_ptr<host::Signal>;
-
-  /// Writes the steps of a branch; its answer is that of the operation which made the branch.
-  using BranchWriter = std::function<bool(const PresetPtr& branch)>;
-
-  // Warnings, and the five texts of a failure, each of which answers False: Generate.cpp.
-  void ClearErrorItems();
-  void AddErrorItem(const std::string& sMessage, std::int16_t iSeverity);
-  bool Fail(const std::string& sText);
-  bool CannotFindSequence(const std::string& sPreset);
-  bool CannotFindPreset(const std::string& sPreset);
-  bool CannotFindCommand(const std::string& sCommand, const host::Device& device);
-  bool FailedToFind(const std::string& sProperty);
-  bool FailedToSetProperty(const std::string& sProperty, const std::string& sValue);
-  /// A property that is not there, or that refuses the value, is a failure with a text.
-  [[nodiscard]] bool SetProperty(const host::Device& device, const std::string& sProperty,
-                                 const std::string& sValue);
-
-  // The toolbox, presets: ToolboxPresets.cpp. What is looked up is nothing when absent.
-  static PresetPtr FindPreset(const std::string& sName);
-  /// A preset that steps are to go into: its absence is a failure with a text.
-  PresetPtr FindSequence(const std::string& sName);
-  [[nodiscard]] static bool AddStep(host::Preset& preset, std::int16_t iIndex, const NewStep& step);
-  /// A step at the end, whose result is not looked at.
-  static void AppendStep(host::Preset& preset, const NewStep& step);
-  /// Enables or disables every panel without a project of its own, at the end. False without a
-  /// preset.
-  [[nodiscard]] static bool AddInterfaceEnableSteps(bool bDisable, const PresetPtr& preset);
-  static std::shared_ptr<host::Step> MakeConditionStep(const host::StepCondition& test);
-  [[nodiscard]] static bool InsertBranch(host::Preset& preset, std::int16_t iIndex,
-                                         const host::StepCondition& test,
-                                         const BranchWriter& writeBranch);
-  [[nodiscard]] static bool AppendBranch(host::Preset& preset, const host::StepCondition& test,
-                                         const BranchWriter& writeBranch);
-
-  // The toolbox, events of signals: ToolboxEvents.cpp. Events are those of host::enumSignalEvent.
-  static SignalPtr FindOutput(std::int16_t iDeviceID, const std::string& sOutputName);
-  /// For a signal that its device is bound to have: raises host::Error when it was not found.
-  static host::Signal& Existing(const SignalPtr& signal, const std::string& sName);
-  static void FeedFrom(host::Signal& signal, std::int16_t iDeviceID,
-                       const std::string& sSignalName);
-  static PresetPtr EventPreset(const host::Signal& signal, std::int16_t iEvent);
-  static void EnableEvents(const host::Signal& signal);
-  static void ClearEvents(const host::Signal& signal);
-  /// Makes a command all that the event does. False with nothing changed for a command without a
-  /// name, and with the event left empty when the device or its command is not there.
-  [[nodiscard]] bool AddCommandToEvent(const host::Signal& signal, std::int16_t iEvent,
-                                       const NewStep& command);
-  /// Puts the call of a preset in front of what the event does; with bClear it is all that the
-  /// event does.
-  [[nodiscard]] static bool AddPresetCallToEvent(const host::Signal& signal, std::int16_t iEvent,
-                                                 const std::string& sPreset, bool bClear);
-  /// As AddPresetCallToEvent, for a digital output, which becomes event driven.
-  [[nodiscard]] static bool ConnectEventToGlobalPreset(std::int16_t iDeviceID,
-                                                       const std::string& sOutputName,
-                                                       std::int16_t iEvent,
-                                                       const std::string& sPreset, bool bClear);
-
-  // The toolbox, commands of the drivers: ToolboxCommands.cpp. Empty: there is no such device or
-  // command.
-  static std::string GetDeviceCommandName(std::int16_t iDeviceID, std::int16_t iStandardCommand);
-  static std::string GetSourceCommandName(std::int16_t iStandardCommand);
-  static std::string GetAuxiliaryCommandName(std::int16_t iDeviceID, std::int16_t ePowerOnOrOff);
-
   // The four power presets: PowerProgramming.cpp.
   [[nodiscard]] bool BuildPowerProgramming();
   [[nodiscard]] bool ClearPowerPreset(std::int16_t ePowerOnOrOff);
@@ -126,7 +61,6 @@ class Generate : public addin::ProgramBuilder {
   /// The id of the module, 0 on failure; the library is asked only for one that the device does not
   /// have yet. Replaces `device` by the device as it is with the module.
   [[nodiscard]] std::int16_t AddPowerSensingModule(DevicePtr& device);
-  std::int16_t GetPowerSensorHandle();
 
   // What the display shows: DisplaySwitching.cpp.
   [[nodiscard]] bool BuildDisplayDeviceSwitching();
@@ -193,10 +127,8 @@ class Generate : public addin::ProgramBuilder {
   [[nodiscard]] bool BuildKestrumInputs();
   [[nodiscard]] static bool BuildKestrumDigitalInputs(std::int16_t iInput);
 
-  std::string m_strLastError;
-  std::shared_ptr<addin::ErrorItems> m_colErrorItems = std::make_shared<addin::ErrorItems>();
+  Run m_run;
   std::string m_strFailedPart;
-  std::int16_t m_iSensorHandle = 0;  // 0 until it is first asked for
 };
 
 }  // namespace generator

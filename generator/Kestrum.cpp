@@ -4,8 +4,12 @@
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -50,7 +54,7 @@ bool Generate::BuildKestrum() {
   if (!BuildKestrumOccupancy()) return false;
   // A failure leaves its text and stops nothing; nor do errors and lamp hours.
   const auto interface = addin::gDocument().get_Devices()->Item(iKestrumID);
-  static_cast<void>(SetProperty(*interface, "System_Off_Warning_Time", "0d"));
+  static_cast<void>(SetProperty(m_run, *interface, "System_Off_Warning_Time", "0d"));
   BuildKestrumErrors();
   BuildKestrumLampHours();
   return BuildKestrumPresetTriggers();
@@ -67,8 +71,8 @@ bool Generate::BuildKestrumOccupancy() {
   const auto occupied = [iKestrumID = settings.get_KestrumID()](const char* sLevel) {
     return Level(iKestrumID, "Room_Occupied", sLevel);
   };
-  return AddCommandToEvent(*signal, host::eventHigh, occupied(host::levelHigh)) &&
-         AddCommandToEvent(*signal, host::eventLow, occupied(host::levelLow));
+  return AddCommandToEvent(m_run, *signal, host::eventHigh, occupied(host::levelHigh)) &&
+         AddCommandToEvent(m_run, *signal, host::eventLow, occupied(host::levelLow));
 }
 
 bool Generate::BuildKestrumErrors() {
@@ -117,7 +121,7 @@ bool Generate::BuildKestrumLampHours() {
         return display->HasSignal(sName, host::directionOutput, host::signalAnalog);
       });
   if (output == lampHourOutputs.end()) {
-    AddErrorItem(
+    m_run.AddErrorItem(
         "Display device does not have a Lamp_Hours, LampHours, or Lamp_Hours_Analog output.\r\n"
         "Therefore, this feature will not be available from Kestrum.",
         host::severityProgress);

@@ -1,6 +1,7 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "forms/Numbers.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
 #include "host/Numbers.h"

@@ -3,8 +3,8 @@
 #include "addin/modGlobals.h"
 #include "forms/Numbers.h"
 #include "forms/Text.h"
+#include "generator/Devices.h"
 #include "generator/Generate.h"
-#include "generator/Modules.h"
 #include "generator/Names.h"
 #include "host/Numbers.h"
 
@@ -54,10 +54,10 @@ bool Generate::BuildPowerOnOffLockout() {
 }
 
 bool Generate::FailedToAddLockoutModule() {
-  return Fail("Failed to add Power On/Off Lockout module.");
+  return m_run.Fail("Failed to add Power On/Off Lockout module.");
 }
 
-Generate::DevicePtr Generate::GetPowerLockoutModule(DevicePtr& display) {
+DevicePtr Generate::GetPowerLockoutModule(DevicePtr& display) {
   if (auto present = FindModule(*display, sLockoutModule)) return present;
   const host::ModuleList colModules = ModulesFromLibrary(sLockoutModule, display->get_ID());
   if (colModules.Items().empty()) return nullptr;
@@ -70,13 +70,13 @@ Generate::DevicePtr Generate::GetPowerLockoutModule(DevicePtr& display) {
 
 bool Generate::SetPowerLockoutTimes(const host::Device& module) {
   const addin::IAddIn& settings = addin::gAddIn();
-  if (!SetProperty(module, sWarmUpTime, forms::decimal(settings.get_PowerOnLockoutTime()))) {
+  if (!SetProperty(m_run, module, sWarmUpTime, forms::decimal(settings.get_PowerOnLockoutTime()))) {
     return false;
   }
   // A module with the one time has the other; the host raises an error for one that has not.
   const std::string sCoolDown = forms::decimal(settings.get_PowerOffLockoutTime());
   return module.get_Properties()->Item(sCoolDownTime)->SetValue(sCoolDown) ||
-         FailedToSetProperty(sCoolDownTime, sCoolDown);
+         m_run.FailedToSetProperty(sCoolDownTime, sCoolDown);
 }
 
 bool Generate::SetPowerLockoutCommands(const host::Device& module, const std::string& sOnCommand,

@@ -2,6 +2,8 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "forms/Numbers.h"
+#include "generator/Devices.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
 #include "host/Numbers.h"
@@ -15,7 +17,7 @@ bool Generate::BuildMotionSensor() {
   const std::int16_t iSeconds = settings.get_MotionSensorTimeout();
   if (iSensorID <= 0 || iSeconds <= 0) return true;
   const auto sensor = addin::gDocument().get_Devices()->Item(iSensorID);
-  return SetProperty(*sensor, "Timeout", forms::decimal(iSeconds)) &&
+  return SetProperty(m_run, *sensor, "Timeout", forms::decimal(iSeconds)) &&
          BuildNoMotionTimeout(iSensorID);
 }
 

@@ -1,8 +1,12 @@
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
+#include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -29,7 +33,7 @@ bool Generate::BuildPowerProgramming() {
 }
 
 bool Generate::ClearPowerPreset(std::int16_t ePowerOnOrOff) {
-  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  const auto preset = FindSequence(m_run, GetSystemPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   preset->ClearSteps();
   return true;
@@ -38,7 +42,7 @@ bool Generate::ClearPowerPreset(std::int16_t ePowerOnOrOff) {
 bool Generate::BuildLinkSystemToDisplayPower(std::int16_t ePowerOnOrOff) {
   const NamedPreset system = GetSystemPowerPreset(ePowerOnOrOff);
   const NamedPreset display = GetDisplayPowerPreset(ePowerOnOrOff);
-  const auto systemPreset = FindSequence(system.sName);
+  const auto systemPreset = FindSequence(m_run, system.sName);
   if (!systemPreset) return false;
   const auto displayPreset = FindPreset(display.sName);
   if (!displayPreset) return false;
@@ -58,7 +62,7 @@ bool Generate::AddAuxiliaryPulseStep(std::int16_t iAuxiliaryDevice, std::int16_t
                                      ? settings.get_ScreenDeviceID()
                                      : settings.get_LiftDeviceID();
   if (iDeviceID <= 0) return true;
-  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  const auto preset = FindSequence(m_run, GetSystemPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   const std::string sCommand = GetAuxiliaryCommandName(iDeviceID, ePowerOnOrOff);
   if (sCommand.empty()) return true;
@@ -79,7 +83,7 @@ bool Generate::BuildReceiverPowerEvents() {
                                       GetSystemPowerPreset(ePowerOnOrOff).sName, /*bClear=*/true);
   };
   if (connect(sPoweredOff, addin::pdOff) && connect("Powered_On", addin::pdOn)) return true;
-  return Fail("Failed to build power event for the OL receiver.");
+  return m_run.Fail("Failed to build power event for the OL receiver.");
 }
 
 bool Generate::BuildReceiverPowerOff() { return AddReceiverPowerStep(addin::pdOff); }
@@ -87,7 +91,7 @@ bool Generate::BuildReceiverPowerOff() { return AddReceiverPowerStep(addin::pdOf
 bool Generate::AddReceiverPowerStep(std::int16_t ePowerOnOrOff) {
   const std::int16_t iReceiverID = addin::gAddIn().get_ReceiverID();
   if (iReceiverID <= 0) return true;
-  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  const auto preset = FindSequence(m_run, GetSystemPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   AppendStep(*preset, Command(iReceiverID, GetReceiverPowerCommand(ePowerOnOrOff)));
   return true;
@@ -100,7 +104,7 @@ bool Generate::BuildKestrumPowerFeedback() {
 bool Generate::AddKestrumPowerFeedbackStep(std::int16_t ePowerOnOrOff) {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
   if (iKestrumID <= 0) return true;
-  const auto preset = FindSequence(GetSystemPowerPreset(ePowerOnOrOff).sName);
+  const auto preset = FindSequence(m_run, GetSystemPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   AppendStep(*preset, Command(iKestrumID, GetKestrumPowerSignal(ePowerOnOrOff)));
   return true;

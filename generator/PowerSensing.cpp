@@ -1,15 +1,16 @@
 #include "addin/Enumerations.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
 #include "generator/Generate.h"
-#include "generator/Modules.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
 namespace {
 
 constexpr const char* sSensorFormat = "i4";
-constexpr std::int16_t iFirstSensor = 1;
 
 void AddPowerSensorPart(host::BillOfMaterialsEntry* bill) {
   if (!bill) return;
@@ -34,7 +35,7 @@ bool Generate::BuildSensedPower(std::int16_t ePowerOnOrOff, DevicePtr display,
                                 host::BillOfMaterialsEntry* bill) {
   const std::int16_t iModuleID = AddPowerSensingModule(display);
   AddPowerSensorPart(bill);
-  if (iModuleID == 0) return Fail("Failed to add Power Sensing module.");
+  if (iModuleID == 0) return m_run.Fail("Failed to add Power Sensing module.");
   return AddSensedPowerSteps(ePowerOnOrOff, iModuleID);
 }
 
@@ -44,7 +45,7 @@ bool Generate::BuildSensedPower(std::int16_t ePowerOnOrOff, DevicePtr display,
 //    Power_On     sensing module            Relay_Open   power relay
 bool Generate::AddSensedPowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iModuleID) {
   const std::string sSlot = GetModulePowerSlot(ePowerOnOrOff);
-  const auto preset = FindSequence(GetDisplayPowerPreset(ePowerOnOrOff).sName);
+  const auto preset = FindSequence(m_run, GetDisplayPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   preset->ClearSteps();
 
@@ -63,18 +64,10 @@ std::int16_t Generate::AddPowerSensingModule(DevicePtr& device) {
   }
   if (!module) return 0;
   module->put_ShowInTree(false);
-  module->put_SensorHandle(GetPowerSensorHandle());
+  module->put_SensorHandle(m_run.GetPowerSensorHandle());
   module->put_SensorFormat(sSensorFormat);
   FillEmptySlots(*device, *module);
   return module->get_ID();
-}
-
-std::int16_t Generate::GetPowerSensorHandle() {
-  if (m_iSensorHandle == 0) {
-    m_iSensorHandle =
-        addin::gOwnerForm().GetPowerSensorDeviceHandle(iFirstSensor, {host::modelPowerSensor});
-  }
-  return m_iSensorHandle;
 }
 
 }  // namespace generator

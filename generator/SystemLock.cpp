@@ -2,6 +2,8 @@
 #include "addin/modGlobals.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
+#include "generator/Presets.h"
+#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -54,7 +56,7 @@ bool Generate::BuildSystemUnlock() { return BuildLockPreset(unlock); }
 //    Enabled low          each panel    Enabled high          each panel
 //    System_Locked high   Kestrum       System_Unlocked low   Kestrum
 bool Generate::BuildLockPreset(const LockNames& names) {
-  const auto preset = FindSequence(names.sPreset);
+  const auto preset = FindSequence(m_run, names.sPreset);
   if (!preset) return false;
   const addin::IAddIn& settings = addin::gAddIn();
   preset->ClearSteps();

@@ -1,5 +1,6 @@
+#include "generator/Events.h"
+
 #include "addin/modGlobals.h"
-#include "generator/Generate.h"
 #include "host/Error.h"
 #include "host/Numbers.h"
 
@@ -19,38 +20,37 @@ std::int16_t SignalTypeOf(std::int16_t iStepKind) {
 
 }  // namespace
 
-Generate::SignalPtr Generate::FindOutput(std::int16_t iDeviceID, const std::string& sOutputName) {
+SignalPtr FindOutput(std::int16_t iDeviceID, const std::string& sOutputName) {
   return addin::gDocument().get_Signals()->Find(iDeviceID, sOutputName, "", host::signalDigital);
 }
 
-Generate::PresetPtr Generate::EventPreset(const host::Signal& signal, std::int16_t iEvent) {
+PresetPtr EventPreset(const host::Signal& signal, std::int16_t iEvent) {
   return signal.GetEvent(iEvent)->get_Preset();
 }
 
-host::Signal& Generate::Existing(const SignalPtr& signal, const std::string& sName) {
+host::Signal& Existing(const SignalPtr& signal, const std::string& sName) {
   if (signal) return *signal;
   throw host::Error(host::errUnknownKey, "There is no signal \"" + sName + "\" to be programmed.");
 }
 
-void Generate::FeedFrom(host::Signal& signal, std::int16_t iDeviceID,
-                        const std::string& sSignalName) {
+void FeedFrom(host::Signal& signal, std::int16_t iDeviceID, const std::string& sSignalName) {
   signal.ClearSource();
   signal.put_SourceType(host::sourceSignal);
   signal.put_SourceDeviceID(iDeviceID);
   signal.put_SourceSignalName(sSignalName);
 }
 
-void Generate::EnableEvents(const host::Signal& signal) {
+void EnableEvents(const host::Signal& signal) {
   if (const auto options = signal.get_Options()) options->EnableEvents(host::eventsAll, true);
 }
 
-void Generate::ClearEvents(const host::Signal& signal) {
+void ClearEvents(const host::Signal& signal) {
   EventPreset(signal, host::eventHigh)->ClearSteps();
   EventPreset(signal, host::eventLow)->ClearSteps();
 }
 
-bool Generate::AddCommandToEvent(const host::Signal& signal, std::int16_t iEvent,
-                                 const NewStep& command) {
+bool AddCommandToEvent(Run& run, const host::Signal& signal, std::int16_t iEvent,
+                       const NewStep& command) {
   if (command.sSignalName.empty()) return false;
   const auto preset = EventPreset(signal, iEvent);
   preset->ClearSteps();
@@ -58,13 +58,13 @@ bool Generate::AddCommandToEvent(const host::Signal& signal, std::int16_t iEvent
   const auto device = addin::gDocument().get_Devices()->ItemByID(iDeviceID);
   if (!device) return false;
   if (!device->HasSignal(command.sSignalName, host::directionInput, SignalTypeOf(command.iKind))) {
-    return CannotFindCommand(command.sSignalName, *device);
+    return run.CannotFindCommand(command.sSignalName, *device);
   }
   return AddStep(*preset, 1, command);
 }
 
-bool Generate::AddPresetCallToEvent(const host::Signal& signal, std::int16_t iEvent,
-                                    const std::string& sPreset, bool bClear) {
+bool AddPresetCallToEvent(const host::Signal& signal, std::int16_t iEvent,
+                          const std::string& sPreset, bool bClear) {
   if (sPreset.empty()) return false;
   const auto event = EventPreset(signal, iEvent);
   if (bClear) event->ClearSteps();
@@ -72,9 +72,8 @@ bool Generate::AddPresetCallToEvent(const host::Signal& signal, std::int16_t iEv
   return called && AddStep(*event, 1, Call(*called));
 }
 
-bool Generate::ConnectEventToGlobalPreset(std::int16_t iDeviceID, const std::string& sOutputName,
-                                          std::int16_t iEvent, const std::string& sPreset,
-                                          bool bClear) {
+bool ConnectEventToGlobalPreset(std::int16_t iDeviceID, const std::string& sOutputName,
+                                std::int16_t iEvent, const std::string& sPreset, bool bClear) {
   const auto signal = FindOutput(iDeviceID, sOutputName);
   if (!signal || !AddPresetCallToEvent(*signal, iEvent, sPreset, bClear)) return false;
   signal->put_SourceType(host::sourceEvents);

@@ -1,9 +1,12 @@
-#include "generator/Modules.h"
+#include "generator/Devices.h"
 
 #include <algorithm>
 
+#include "addin/Enumerations.h"
+#include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "forms/Components.h"
+#include "forms/Numbers.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
 
@@ -20,8 +23,28 @@ auto FindByShortName(const Modules& modules, const std::string& sShortName) {
 
 }  // namespace
 
-std::shared_ptr<host::Device> FindModule(const host::Device& device,
-                                         const std::string& sShortName) {
+std::string GetDeviceCommandName(std::int16_t iDeviceID, std::int16_t iStandardCommand) {
+  const auto device = addin::gDocument().get_Devices()->ItemByID(iDeviceID);
+  return device ? device->GetCommandName(forms::decimal(iStandardCommand)) : "";
+}
+
+std::string GetSourceCommandName(std::int16_t iStandardCommand) {
+  return GetDeviceCommandName(addin::gAddIn().get_DisplayDeviceID(), iStandardCommand);
+}
+
+std::string GetAuxiliaryCommandName(std::int16_t iDeviceID, std::int16_t ePowerOnOrOff) {
+  // A screen or lift goes down when the system goes on.
+  return GetDeviceCommandName(iDeviceID, ePowerOnOrOff == addin::pdOn ? host::scDown : host::scUp);
+}
+
+bool SetProperty(Run& run, const host::Device& device, const std::string& sProperty,
+                 const std::string& sValue) {
+  const auto property = device.GetProperty(sProperty);
+  if (!property) return run.FailedToFind(sProperty);
+  return property->SetValue(sValue) || run.FailedToSetProperty(sProperty, sValue);
+}
+
+DevicePtr FindModule(const host::Device& device, const std::string& sShortName) {
   return FindByShortName(device.get_Modules(), sShortName);
 }
 

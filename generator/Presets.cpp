@@ -1,6 +1,7 @@
+#include "generator/Presets.h"
+
 #include "addin/modGlobals.h"
 #include "forms/Components.h"
-#include "generator/Generate.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -18,17 +19,17 @@ std::shared_ptr<host::Step> CreateStep() {
 
 }  // namespace
 
-Generate::PresetPtr Generate::FindPreset(const std::string& sName) {
+PresetPtr FindPreset(const std::string& sName) {
   return addin::gDocument().get_Presets()->FindByName(sName);
 }
 
-Generate::PresetPtr Generate::FindSequence(const std::string& sName) {
+PresetPtr FindSequence(Run& run, const std::string& sName) {
   auto preset = FindPreset(sName);
-  if (!preset) CannotFindSequence(sName);
+  if (!preset) run.CannotFindSequence(sName);
   return preset;
 }
 
-bool Generate::AddStep(host::Preset& preset, std::int16_t iIndex, const NewStep& newStep) {
+bool AddStep(host::Preset& preset, std::int16_t iIndex, const NewStep& newStep) {
   const auto step = CreateStep();
   preset.InsertStep(iIndex, step);  // Init tells whether the step is good
   if (!step->Init(newStep.iKind, newStep.iTargetType, iReserved, newStep.lTargetID,
@@ -42,11 +43,11 @@ bool Generate::AddStep(host::Preset& preset, std::int16_t iIndex, const NewStep&
   return true;
 }
 
-void Generate::AppendStep(host::Preset& preset, const NewStep& step) {
+void AppendStep(host::Preset& preset, const NewStep& step) {
   static_cast<void>(AddStep(preset, EndOf(preset), step));
 }
 
-bool Generate::AddInterfaceEnableSteps(bool bDisable, const PresetPtr& preset) {
+bool AddInterfaceEnableSteps(bool bDisable, const PresetPtr& preset) {
   if (!preset) return false;
   for (const auto& panel : addin::gDocument().get_Touchpanels()->Items()) {
     if (panel->get_IsProjectPanel()) continue;
@@ -56,7 +57,7 @@ bool Generate::AddInterfaceEnableSteps(bool bDisable, const PresetPtr& preset) {
   return true;
 }
 
-std::shared_ptr<host::Step> Generate::MakeConditionStep(const host::StepCondition& test) {
+std::shared_ptr<host::Step> MakeConditionStep(const host::StepCondition& test) {
   const auto conditions = std::make_shared<host::StepConditionGroup>();
   conditions->Add(std::make_shared<host::StepCondition>(test));
   auto step = CreateStep();
@@ -66,16 +67,16 @@ std::shared_ptr<host::Step> Generate::MakeConditionStep(const host::StepConditio
   return step;
 }
 
-bool Generate::InsertBranch(host::Preset& preset, std::int16_t iIndex,
-                            const host::StepCondition& test, const BranchWriter& writeBranch) {
+bool InsertBranch(host::Preset& preset, std::int16_t iIndex, const host::StepCondition& test,
+                  const BranchWriter& writeBranch) {
   const auto step = MakeConditionStep(test);
   preset.InsertStep(iIndex, step);  // a step that was refused has no branch
   const auto branch = addin::gDocument().get_Presets()->ItemByID(step->get_SubPresetID());
   return branch && writeBranch(branch);
 }
 
-bool Generate::AppendBranch(host::Preset& preset, const host::StepCondition& test,
-                            const BranchWriter& writeBranch) {
+bool AppendBranch(host::Preset& preset, const host::StepCondition& test,
+                  const BranchWriter& writeBranch) {
   return InsertBranch(preset, EndOf(preset), test, writeBranch);
 }
 

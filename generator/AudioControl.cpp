@@ -12,6 +12,20 @@ namespace {
 
 std::string Constant(bool bValue) { return bValue ? "1d" : "0d"; }
 
+//  Digital input 3 closes        Digital input 3 opens
+//    Volume_Mute_On  receiver      Volume_Mute_Off  receiver
+bool BuildMuteOnContact(Run& run) {
+  const addin::IAddIn& settings = addin::gAddIn();
+  const auto contact = FindOutput(settings.GetDigitalInputID(iMuteInput), sContact);
+  if (!contact) return false;
+  EnableEvents(*contact);
+  ClearEvents(*contact);
+  const std::int16_t iReceiverID = settings.get_ReceiverID();
+  return AddCommandToEvent(run, *contact, host::eventHigh,
+                           Command(iReceiverID, "Volume_Mute_On")) &&
+         AddCommandToEvent(run, *contact, host::eventLow, Command(iReceiverID, "Volume_Mute_Off"));
+}
+
 }  // namespace
 
 // The receiver does the audio itself; two of its properties say how.
@@ -23,22 +37,7 @@ bool Generate::BuildAudioControl() {
       !SetProperty(m_run, *receiver, "Mic Mode Control", Constant(settings.get_MicModeControl()))) {
     return false;
   }
-  return settings.get_bMuteOnDigInp3() == 0 || BuildMuteOnContact();
-}
-
-//  Digital input 3 closes        Digital input 3 opens
-//    Volume_Mute_On  receiver      Volume_Mute_Off  receiver
-bool Generate::BuildMuteOnContact() {
-  const addin::IAddIn& settings = addin::gAddIn();
-  const auto contact = FindOutput(settings.GetDigitalInputID(iMuteInput), sContact);
-  if (!contact) return false;
-  EnableEvents(*contact);
-  ClearEvents(*contact);
-  const std::int16_t iReceiverID = settings.get_ReceiverID();
-  return AddCommandToEvent(m_run, *contact, host::eventHigh,
-                           Command(iReceiverID, "Volume_Mute_On")) &&
-         AddCommandToEvent(m_run, *contact, host::eventLow,
-                           Command(iReceiverID, "Volume_Mute_Off"));
+  return settings.get_bMuteOnDigInp3() == 0 || BuildMuteOnContact(m_run);
 }
 
 }  // namespace generator

@@ -15,6 +15,51 @@ constexpr std::int16_t iFirst = 1;
 
 std::int16_t ContactID() { return addin::gAddIn().GetDigitalInputID(iContactInput); }
 
+bool InsertSystemLockBranch(Run& run, host::Preset& preset, std::int16_t iIndex,
+                            const host::StepCondition& test) {
+  return InsertBranch(preset, iIndex, test, [&run](const PresetPtr& branch) {
+    const auto lock = FindPreset(sSystemLockPreset);
+    if (!lock) return run.CannotFindPreset(sSystemLockPreset);
+    return AddStep(*branch, iFirst, Call(*lock));
+  });
+}
+
+bool AddSystemLockToPreset(Run& run, const std::string& sPreset, bool bAtStart) {
+  const auto preset = FindPreset(sPreset);
+  if (!preset) return run.CannotFindPreset(sPreset);
+  const auto iEnd = static_cast<std::int16_t>(preset->get_StepCount() + 1);
+  return InsertSystemLockBranch(run, *preset, bAtStart ? iFirst : iEnd,
+                                ContactIsOpen(ContactID(), sContact));
+}
+
+//  System Power Off, at its end, when normal operation continues
+//    if (digital input 2 is open)
+//      call System Lock
+bool BuildContactOpened(Run& run, const host::Signal& contact) {
+  if (addin::gAddIn().get_PowerContactClosureOption() == addin::contactPowerOff) {
+    return AddPresetCallToEvent(contact, host::eventLow, sSystemLockPreset, /*bClear=*/true);
+  }
+  if (!AddSystemLockToPreset(run, GetSystemPowerPreset(addin::pdOff).sName, /*bAtStart=*/false)) {
+    return false;
+  }
+  const auto opened = EventPreset(contact, host::eventLow);
+  opened->ClearSteps();
+  return InsertSystemLockBranch(run, *opened, iFirst,
+                                SignalIs(addin::gAddIn().get_ReceiverID(), sPoweredOff, 1));
+}
+
+//  System_Ready_Pulse goes high: a room that starts with the contact open starts locked
+//    if (digital input 2 is open)
+//      call System Lock
+bool BuildLockAtStart(Run& run) {
+  const auto ready = FindOutput(addin::gAddIn().get_ReceiverID(), "System_Ready_Pulse");
+  if (!ready) return false;
+  EnableEvents(*ready);
+  const auto started = EventPreset(*ready, host::eventHigh);
+  started->ClearSteps();
+  return InsertSystemLockBranch(run, *started, iFirst, ContactIsOpen(ContactID(), sContact));
+}
+
 }  // namespace
 
 //  Digital input 2 closes      Digital input 2 opens
@@ -28,52 +73,7 @@ bool Generate::BuildOnOffContactClosureControl() {
   ClearEvents(*contact);
   if (addin::gAddIn().get_PowerContactClosureOption() == addin::contactUnused) return true;
   return AddPresetCallToEvent(*contact, host::eventHigh, sSystemUnlockPreset, /*bClear=*/true) &&
-         BuildContactOpened(*contact) && BuildLockAtStart();
-}
-
-//  System Power Off, at its end, when normal operation continues
-//    if (digital input 2 is open)
-//      call System Lock
-bool Generate::BuildContactOpened(const host::Signal& contact) {
-  if (addin::gAddIn().get_PowerContactClosureOption() == addin::contactPowerOff) {
-    return AddPresetCallToEvent(contact, host::eventLow, sSystemLockPreset, /*bClear=*/true);
-  }
-  if (!AddSystemLockToPreset(GetSystemPowerPreset(addin::pdOff).sName, /*bAtStart=*/false)) {
-    return false;
-  }
-  const auto opened = EventPreset(contact, host::eventLow);
-  opened->ClearSteps();
-  return InsertSystemLockBranch(*opened, iFirst,
-                                SignalIs(addin::gAddIn().get_ReceiverID(), sPoweredOff, 1));
-}
-
-//  System_Ready_Pulse goes high: a room that starts with the contact open starts locked
-//    if (digital input 2 is open)
-//      call System Lock
-bool Generate::BuildLockAtStart() {
-  const auto ready = FindOutput(addin::gAddIn().get_ReceiverID(), "System_Ready_Pulse");
-  if (!ready) return false;
-  EnableEvents(*ready);
-  const auto started = EventPreset(*ready, host::eventHigh);
-  started->ClearSteps();
-  return InsertSystemLockBranch(*started, iFirst, ContactIsOpen(ContactID(), sContact));
-}
-
-bool Generate::AddSystemLockToPreset(const std::string& sPreset, bool bAtStart) {
-  const auto preset = FindPreset(sPreset);
-  if (!preset) return m_run.CannotFindPreset(sPreset);
-  const auto iEnd = static_cast<std::int16_t>(preset->get_StepCount() + 1);
-  return InsertSystemLockBranch(*preset, bAtStart ? iFirst : iEnd,
-                                ContactIsOpen(ContactID(), sContact));
-}
-
-bool Generate::InsertSystemLockBranch(host::Preset& preset, std::int16_t iIndex,
-                                      const host::StepCondition& test) {
-  return InsertBranch(preset, iIndex, test, [this](const PresetPtr& branch) {
-    const auto lock = FindPreset(sSystemLockPreset);
-    if (!lock) return m_run.CannotFindPreset(sSystemLockPreset);
-    return AddStep(*branch, iFirst, Call(*lock));
-  });
+         BuildContactOpened(m_run, *contact) && BuildLockAtStart(m_run);
 }
 
 }  // namespace generator

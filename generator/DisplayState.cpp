@@ -1,8 +1,10 @@
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/DisplaySwitching.h"
 #include "generator/Events.h"
 #include "generator/Generate.h"
+#include "generator/Lockout.h"
 #include "generator/Names.h"
 #include "generator/Presets.h"
 #include "generator/Steps.h"
@@ -17,14 +19,13 @@ constexpr const char* sOn = "1d";
 constexpr const char* sWarming = "2d";
 constexpr const char* sCooling = "3d";
 
-}  // namespace
-
-bool Generate::BuildDisplayStateProgramming() {
-  auto display = addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
-  if (!display || !NeedsLockout(*display)) return true;
-  const auto module = GetPowerLockoutModule(display);
-  if (!module) return FailedToAddLockoutModule();
-  return BuildWarmingUp(module->get_ID()) && BuildCoolingDown(module->get_ID());
+bool ReportDisplayState(Run& run, const host::Signal& signal, const char* sHigh, const char* sLow) {
+  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
+  if (iKestrumID <= 0) return true;
+  return AddCommandToEvent(run, signal, host::eventHigh,
+                           Analog(iKestrumID, sDisplayPowerState, sHigh)) &&
+         AddCommandToEvent(run, signal, host::eventLow,
+                           Analog(iKestrumID, sDisplayPowerState, sLow));
 }
 
 //  Warming_Up goes high                          Warming_Up goes low
@@ -32,46 +33,18 @@ bool Generate::BuildDisplayStateProgramming() {
 //    Enabled low              each panel           if (RGB_Selected)               RGB command
 //                                                  if (Composite_Video_Selected)   video command
 //                                                  Enabled high             each panel
-bool Generate::BuildWarmingUp(std::int16_t iModuleID) {
+bool BuildWarmingUp(Run& run, std::int16_t iModuleID) {
   const auto signal = FindOutput(iModuleID, "Warming_Up");
   if (!signal) return false;
   EnableEvents(*signal);
   ClearEvents(*signal);
   const auto started = EventPreset(*signal, host::eventHigh);
   const auto ended = EventPreset(*signal, host::eventLow);
-  if (!ReportDisplayState(*signal, sWarming, sOn)) return false;
+  if (!ReportDisplayState(run, *signal, sWarming, sOn)) return false;
   if (!BuildPowerOnSwitching(ended)) return false;
   static_cast<void>(AddInterfaceEnableSteps(/*bDisable=*/true, started));
   static_cast<void>(AddInterfaceEnableSteps(/*bDisable=*/false, ended));
   return true;
-}
-
-//  Cooling_Down goes high                        Cooling_Down goes low
-//    Display_Power_State 3d   Kestrum              Display_Power_State 0d   Kestrum
-//    Lock                     receiver             what unlocks the room again
-//    Enabled low              each panel
-bool Generate::BuildCoolingDown(std::int16_t iModuleID) {
-  const auto signal = FindOutput(iModuleID, "Cooling_Down");
-  if (!signal) return false;
-  EnableEvents(*signal);
-  ClearEvents(*signal);
-  const auto started = EventPreset(*signal, host::eventHigh);
-  if (!ReportDisplayState(*signal, sCooling, sOff)) return false;
-  if (const std::int16_t iReceiverID = addin::gAddIn().get_ReceiverID(); iReceiverID != 0) {
-    AppendStep(*started, Command(iReceiverID, sLockCommand));
-  }
-  static_cast<void>(AddInterfaceEnableSteps(/*bDisable=*/true, started));
-  AppendUnlockSteps(EventPreset(*signal, host::eventLow));
-  return true;
-}
-
-bool Generate::ReportDisplayState(const host::Signal& signal, const char* sHigh, const char* sLow) {
-  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
-  if (iKestrumID <= 0) return true;
-  return AddCommandToEvent(m_run, signal, host::eventHigh,
-                           Analog(iKestrumID, sDisplayPowerState, sHigh)) &&
-         AddCommandToEvent(m_run, signal, host::eventLow,
-                           Analog(iKestrumID, sDisplayPowerState, sLow));
 }
 
 //  if (digital input 2 is closed)       when the contact is used
@@ -80,7 +53,7 @@ bool Generate::ReportDisplayState(const host::Signal& signal, const char* sHigh,
 //      Enabled high   each panel
 //
 // The end of the cool-down does not open a room that is to stay locked.
-void Generate::AppendUnlockSteps(const PresetPtr& preset) {
+void AppendUnlockSteps(const PresetPtr& preset) {
   const addin::IAddIn& settings = addin::gAddIn();
   const std::int16_t iReceiverID = settings.get_ReceiverID();
   const std::int16_t iKestrumID = settings.get_KestrumID();
@@ -100,6 +73,35 @@ void Generate::AppendUnlockSteps(const PresetPtr& preset) {
     const auto isClosed = ContactIsClosed(settings.GetDigitalInputID(iContactInput), sContact);
     static_cast<void>(AppendBranch(*preset, isClosed, unlockUnlessMonitoringLocks));
   }
+}
+
+//  Cooling_Down goes high                        Cooling_Down goes low
+//    Display_Power_State 3d   Kestrum              Display_Power_State 0d   Kestrum
+//    Lock                     receiver             what unlocks the room again
+//    Enabled low              each panel
+bool BuildCoolingDown(Run& run, std::int16_t iModuleID) {
+  const auto signal = FindOutput(iModuleID, "Cooling_Down");
+  if (!signal) return false;
+  EnableEvents(*signal);
+  ClearEvents(*signal);
+  const auto started = EventPreset(*signal, host::eventHigh);
+  if (!ReportDisplayState(run, *signal, sCooling, sOff)) return false;
+  if (const std::int16_t iReceiverID = addin::gAddIn().get_ReceiverID(); iReceiverID != 0) {
+    AppendStep(*started, Command(iReceiverID, sLockCommand));
+  }
+  static_cast<void>(AddInterfaceEnableSteps(/*bDisable=*/true, started));
+  AppendUnlockSteps(EventPreset(*signal, host::eventLow));
+  return true;
+}
+
+}  // namespace
+
+bool Generate::BuildDisplayStateProgramming() {
+  auto display = addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+  if (!display || !NeedsLockout(*display)) return true;
+  const auto module = GetPowerLockoutModule(m_run, display);
+  if (!module) return false;
+  return BuildWarmingUp(m_run, module->get_ID()) && BuildCoolingDown(m_run, module->get_ID());
 }
 
 }  // namespace generator

@@ -1,3 +1,5 @@
+#include "generator/DisplaySwitching.h"
+
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "generator/Devices.h"
@@ -38,19 +40,10 @@ std::shared_ptr<host::Preset> FindEarlierBranch(const host::Preset& preset,
   return nullptr;
 }
 
-}  // namespace
-
-bool Generate::BuildDisplayDeviceSwitching() {
-  // A source that can't be written is left without its steps; the run goes on.
-  static_cast<void>(BuildDisplayDeviceSwitchingCommand(host::scVideo1));
-  static_cast<void>(BuildDisplayDeviceSwitchingCommand(host::scRGB1));
-  return true;
-}
-
 //  The receiver's feedback signal goes high
 //    Send_Log_Item            Kestrum
 //    source command           display   0.1 s
-bool Generate::BuildDisplayDeviceSwitchingCommand(std::int16_t iStandardCommand) {
+bool BuildDisplayDeviceSwitchingCommand(Run& run, std::int16_t iStandardCommand) {
   const addin::IAddIn& settings = addin::gAddIn();
   const auto signal =
       FindOutput(settings.get_ReceiverID(), GetSourceFeedbackSignal(iStandardCommand));
@@ -59,7 +52,7 @@ bool Generate::BuildDisplayDeviceSwitchingCommand(std::int16_t iStandardCommand)
   const auto preset = EventPreset(*signal, host::eventHigh);
   preset->ClearSteps();
   if (!sCommand.empty() &&
-      !AddCommandToEvent(m_run, *signal, host::eventHigh,
+      !AddCommandToEvent(run, *signal, host::eventHigh,
                          Pulse(settings.get_DisplayDeviceID(), sCommand, sDisplayPulse))) {
     return false;
   }
@@ -69,20 +62,10 @@ bool Generate::BuildDisplayDeviceSwitchingCommand(std::int16_t iStandardCommand)
                  Serial(iKestrumID, "Send_Log_Item", GetSourceLogText(iStandardCommand)));
 }
 
-//    if (RGB_Selected)               RGB command      display   0.1 s
-//    if (Composite_Video_Selected)   video command    display   0.1 s
-bool Generate::BuildPowerOnSwitching(const PresetPtr& preset) {
-  const auto build = [&preset](std::int16_t iStandardCommand) {
-    return BuildPowerOnSwitchingCommand(preset, GetSourceCommandName(iStandardCommand),
-                                        GetSourceFeedbackSignal(iStandardCommand));
-  };
-  return build(host::scRGB1) && build(host::scVideo1);
-}
-
 //  if (receiver's feedback signal is 1)
 //    source command           display   0.1 s
-bool Generate::BuildPowerOnSwitchingCommand(const PresetPtr& preset, const std::string& sCommand,
-                                            const std::string& sFeedbackSignal) {
+bool BuildPowerOnSwitchingCommand(const PresetPtr& preset, const std::string& sCommand,
+                                  const std::string& sFeedbackSignal) {
   if (sCommand.empty()) return true;
   if (!preset) return false;
   const std::int16_t iDisplayID = addin::gAddIn().get_DisplayDeviceID();
@@ -97,6 +80,25 @@ bool Generate::BuildPowerOnSwitchingCommand(const PresetPtr& preset, const std::
     return writeBranch(branch);
   }
   return AppendBranch(*preset, isSelected, writeBranch);
+}
+
+}  // namespace
+
+bool Generate::BuildDisplayDeviceSwitching() {
+  // A source that can't be written is left without its steps; the run goes on.
+  static_cast<void>(BuildDisplayDeviceSwitchingCommand(m_run, host::scVideo1));
+  static_cast<void>(BuildDisplayDeviceSwitchingCommand(m_run, host::scRGB1));
+  return true;
+}
+
+//    if (RGB_Selected)               RGB command      display   0.1 s
+//    if (Composite_Video_Selected)   video command    display   0.1 s
+bool BuildPowerOnSwitching(const PresetPtr& preset) {
+  const auto build = [&preset](std::int16_t iStandardCommand) {
+    return BuildPowerOnSwitchingCommand(preset, GetSourceCommandName(iStandardCommand),
+                                        GetSourceFeedbackSignal(iStandardCommand));
+  };
+  return build(host::scRGB1) && build(host::scVideo1);
 }
 
 }  // namespace generator

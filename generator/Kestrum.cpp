@@ -46,23 +46,9 @@ constexpr std::array presetTriggers{
     PresetTrigger{"System_Unlock", sSystemUnlockPreset},
 };
 
-}  // namespace
-
-bool Generate::BuildKestrum() {
-  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
-  if (iKestrumID == 0) return true;
-  if (!BuildKestrumOccupancy()) return false;
-  // A failure leaves its text and stops nothing; nor do errors and lamp hours.
-  const auto interface = addin::gDocument().get_Devices()->Item(iKestrumID);
-  static_cast<void>(SetProperty(m_run, *interface, "System_Off_Warning_Time", "0d"));
-  BuildKestrumErrors();
-  BuildKestrumLampHours();
-  return BuildKestrumPresetTriggers();
-}
-
 //  Motion_Detected goes high       Motion_Detected goes low
 //    Room_Occupied high  Kestrum     Room_Occupied low  Kestrum
-bool Generate::BuildKestrumOccupancy() {
+bool BuildKestrumOccupancy(Run& run) {
   const addin::IAddIn& settings = addin::gAddIn();
   if (settings.get_OccupancySensorID() < 1) return true;
   const auto signal = FindOutput(settings.get_OccupancySensorID(), sMotionDetected);
@@ -71,11 +57,29 @@ bool Generate::BuildKestrumOccupancy() {
   const auto occupied = [iKestrumID = settings.get_KestrumID()](const char* sLevel) {
     return Level(iKestrumID, "Room_Occupied", sLevel);
   };
-  return AddCommandToEvent(m_run, *signal, host::eventHigh, occupied(host::levelHigh)) &&
-         AddCommandToEvent(m_run, *signal, host::eventLow, occupied(host::levelLow));
+  return AddCommandToEvent(run, *signal, host::eventHigh, occupied(host::levelHigh)) &&
+         AddCommandToEvent(run, *signal, host::eventLow, occupied(host::levelLow));
 }
 
-bool Generate::BuildKestrumErrors() {
+//  The error output goes high               The error output goes low
+//    Set_Error_Message_Severity 3 Kestrum     Set_Error_Message_Severity 0 Kestrum
+//    Send_Error_Message           Kestrum     Send_Error_Message           Kestrum
+bool SetKestrumOrlenaError(std::int16_t iDeviceID, const std::string& sOutput,
+                           const std::string& sDetected, const std::string& sCorrected) {
+  const auto signal = FindOutput(addin::gAddIn().get_ReceiverID(), sOutput);
+  if (!signal) return false;
+  const auto write = [&](std::int16_t iEvent, const char* sSeverity, const std::string& sText) {
+    const auto preset = EventPreset(*signal, iEvent);
+    preset->ClearSteps();
+    AppendStep(*preset, Analog(iDeviceID, "Set_Error_Message_Severity", sSeverity));
+    AppendStep(*preset, Serial(iDeviceID, "Send_Error_Message", sText));
+  };
+  write(host::eventHigh, "3", sDetected);
+  write(host::eventLow, "0", sCorrected);
+  return true;
+}
+
+bool BuildKestrumErrors() {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
   if (iKestrumID == 0) return true;
   const auto set = [iKestrumID](const ErrorTexts& texts) {
@@ -93,25 +97,7 @@ bool Generate::BuildKestrumErrors() {
   return true;
 }
 
-//  The error output goes high               The error output goes low
-//    Set_Error_Message_Severity 3 Kestrum     Set_Error_Message_Severity 0 Kestrum
-//    Send_Error_Message           Kestrum     Send_Error_Message           Kestrum
-bool Generate::SetKestrumOrlenaError(std::int16_t iDeviceID, const std::string& sOutput,
-                                     const std::string& sDetected, const std::string& sCorrected) {
-  const auto signal = FindOutput(addin::gAddIn().get_ReceiverID(), sOutput);
-  if (!signal) return false;
-  const auto write = [&](std::int16_t iEvent, const char* sSeverity, const std::string& sText) {
-    const auto preset = EventPreset(*signal, iEvent);
-    preset->ClearSteps();
-    AppendStep(*preset, Analog(iDeviceID, "Set_Error_Message_Severity", sSeverity));
-    AppendStep(*preset, Serial(iDeviceID, "Send_Error_Message", sText));
-  };
-  write(host::eventHigh, "3", sDetected);
-  write(host::eventLow, "0", sCorrected);
-  return true;
-}
-
-bool Generate::BuildKestrumLampHours() {
+bool BuildKestrumLampHours(Run& run) {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
   const auto display =
       addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
@@ -121,7 +107,7 @@ bool Generate::BuildKestrumLampHours() {
         return display->HasSignal(sName, host::directionOutput, host::signalAnalog);
       });
   if (output == lampHourOutputs.end()) {
-    m_run.AddErrorItem(
+    run.AddErrorItem(
         "Display device does not have a Lamp_Hours, LampHours, or Lamp_Hours_Analog output.\r\n"
         "Therefore, this feature will not be available from Kestrum.",
         host::severityProgress);
@@ -133,7 +119,7 @@ bool Generate::BuildKestrumLampHours() {
   return true;
 }
 
-bool Generate::BuildKestrumPresetTriggers() {
+bool BuildKestrumPresetTriggers() {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
   if (iKestrumID == 0) return true;
   return std::all_of(
@@ -141,6 +127,20 @@ bool Generate::BuildKestrumPresetTriggers() {
         return ConnectEventToGlobalPreset(iKestrumID, trigger.sOutput, host::eventHigh,
                                           trigger.sPreset, /*bClear=*/true);
       });
+}
+
+}  // namespace
+
+bool Generate::BuildKestrum() {
+  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
+  if (iKestrumID == 0) return true;
+  if (!BuildKestrumOccupancy(m_run)) return false;
+  // A failure leaves its text and stops nothing; nor do errors and lamp hours.
+  const auto interface = addin::gDocument().get_Devices()->Item(iKestrumID);
+  static_cast<void>(SetProperty(m_run, *interface, "System_Off_Warning_Time", "0d"));
+  BuildKestrumErrors();
+  BuildKestrumLampHours(m_run);
+  return BuildKestrumPresetTriggers();
 }
 
 }  // namespace generator

@@ -15,21 +15,7 @@ constexpr std::int16_t iCustomSignalBeforeInputs = 6;
 
 std::string InputName(std::int16_t iInput) { return "Digital Input " + forms::decimal(iInput); }
 
-}  // namespace
-
-bool Generate::BuildKestrumInputs() {
-  const addin::IAddIn& settings = addin::gAddIn();
-  if (settings.get_KestrumID() < 1) return true;
-  if (settings.get_OccupancySensorID() == 0 && !BuildKestrumDigitalInputs(iOccupancyInput)) {
-    return false;
-  }
-  if (!BuildKestrumDigitalInputs(iContactInput)) return false;
-  if (!BuildKestrumDigitalInputs(iMuteInput)) return false;
-  if (settings.GetDigitalInputID(iPowerSensorInput) == 0) return true;
-  return BuildKestrumDigitalInputs(iPowerSensorInput);
-}
-
-bool Generate::BuildKestrumDigitalInputs(std::int16_t iInput) {
+bool BuildKestrumDigitalInputs(std::int16_t iInput) {
   const addin::IAddIn& settings = addin::gAddIn();
   const std::int16_t iKestrumID = settings.get_KestrumID();
   const std::string n =
@@ -43,6 +29,20 @@ bool Generate::BuildKestrumDigitalInputs(std::int16_t iInput) {
       iKestrumID, sCommand, "Custom_Digital_Notify_" + n, host::signalDigital);
   FeedFrom(Existing(signal, sCommand), settings.GetDigitalInputID(iInput), sContact);
   return true;
+}
+
+}  // namespace
+
+bool Generate::BuildKestrumInputs() {
+  const addin::IAddIn& settings = addin::gAddIn();
+  if (settings.get_KestrumID() < 1) return true;
+  if (settings.get_OccupancySensorID() == 0 && !BuildKestrumDigitalInputs(iOccupancyInput)) {
+    return false;
+  }
+  if (!BuildKestrumDigitalInputs(iContactInput)) return false;
+  if (!BuildKestrumDigitalInputs(iMuteInput)) return false;
+  if (settings.GetDigitalInputID(iPowerSensorInput) == 0) return true;
+  return BuildKestrumDigitalInputs(iPowerSensorInput);
 }
 
 }  // namespace generator

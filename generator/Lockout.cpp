@@ -1,3 +1,5 @@
+#include "generator/Lockout.h"
+
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
@@ -25,62 +27,30 @@ void SetSlot(host::ModuleCommandSlot& slot, std::int16_t ePowerOnOrOff, const Po
   slot.put_CommandName(target.sCommand);
 }
 
-}  // namespace
-
-bool Generate::NeedsLockout(const host::Device& display) {
-  const addin::IAddIn& settings = addin::gAddIn();
-  const bool bNoTimes =
-      settings.get_PowerOnLockoutTime() == 0 && settings.get_PowerOffLockoutTime() == 0;
-  return !bNoTimes && display.get_PowerControlType() != host::powerNone;
-}
-
-//  PWRTIMEOUT below the display
-//    Warm Up Time, Cool Down Time    the two lockout times in seconds
-//    slots Power_On, Power_Off       the sensing module's commands, or the display's own
-bool Generate::BuildPowerOnOffLockout() {
-  auto display = addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
-  if (!display || !NeedsLockout(*display)) return true;
-  const auto module = GetPowerLockoutModule(display);
-  if (!module) return FailedToAddLockoutModule();
-  const bool bOK = SetPowerLockoutTimes(*module);
-  // The commands are written also when a time was refused, and do not change the answer.
-  if (display->get_PowerControlType() == host::powerSensing) {
-    static_cast<void>(SetPowerLockoutCommands(*module, GetModulePowerSlot(addin::pdOn),
-                                              GetModulePowerSlot(addin::pdOff)));
-  } else if (display->get_PowerControlType() == host::powerDiscrete) {
-    static_cast<void>(SetPowerLockoutCommands(*module, "", ""));
-  }
-  return bOK;
-}
-
-bool Generate::FailedToAddLockoutModule() {
-  return m_run.Fail("Failed to add Power On/Off Lockout module.");
-}
-
-DevicePtr Generate::GetPowerLockoutModule(DevicePtr& display) {
-  if (auto present = FindModule(*display, sLockoutModule)) return present;
+/// What the host answers is not looked at: what counts is whether the module is there afterwards.
+DevicePtr AddLockoutModule(DevicePtr& display) {
   const host::ModuleList colModules = ModulesFromLibrary(sLockoutModule, display->get_ID());
   if (colModules.Items().empty()) return nullptr;
-  // What counts is whether the module is there afterwards.
   static_cast<void>(addin::gDocument().AddModules(colModules, display));
   auto added = FindModule(*display, sLockoutModule);
   if (added) added->put_ShowInTree(false);
   return added;
 }
 
-bool Generate::SetPowerLockoutTimes(const host::Device& module) {
+bool SetPowerLockoutTimes(Run& run, const host::Device& module) {
   const addin::IAddIn& settings = addin::gAddIn();
-  if (!SetProperty(m_run, module, sWarmUpTime, forms::decimal(settings.get_PowerOnLockoutTime()))) {
+  if (!SetProperty(run, module, sWarmUpTime, forms::decimal(settings.get_PowerOnLockoutTime()))) {
     return false;
   }
   // A module with the one time has the other; the host raises an error for one that has not.
   const std::string sCoolDown = forms::decimal(settings.get_PowerOffLockoutTime());
   return module.get_Properties()->Item(sCoolDownTime)->SetValue(sCoolDown) ||
-         m_run.FailedToSetProperty(sCoolDownTime, sCoolDown);
+         run.FailedToSetProperty(sCoolDownTime, sCoolDown);
 }
 
-bool Generate::SetPowerLockoutCommands(const host::Device& module, const std::string& sOnCommand,
-                                       const std::string& sOffCommand) {
+/// A command of the sensing module, or none: then it is the display's own.
+bool SetPowerLockoutCommands(const host::Device& module, const std::string& sOnCommand,
+                             const std::string& sOffCommand) {
   const auto slots = module.get_CommandSlots();
   if (slots.empty()) return false;
   const std::int16_t iDisplayID = addin::gAddIn().get_DisplayDeviceID();
@@ -98,6 +68,41 @@ bool Generate::SetPowerLockoutCommands(const host::Device& module, const std::st
     SetSlot(*slot, addin::pdOff, off);
   }
   return true;
+}
+
+}  // namespace
+
+bool NeedsLockout(const host::Device& display) {
+  const addin::IAddIn& settings = addin::gAddIn();
+  const bool bNoTimes =
+      settings.get_PowerOnLockoutTime() == 0 && settings.get_PowerOffLockoutTime() == 0;
+  return !bNoTimes && display.get_PowerControlType() != host::powerNone;
+}
+
+DevicePtr GetPowerLockoutModule(Run& run, DevicePtr& display) {
+  if (auto present = FindModule(*display, sLockoutModule)) return present;
+  auto added = AddLockoutModule(display);
+  if (!added) run.Fail("Failed to add Power On/Off Lockout module.");
+  return added;
+}
+
+//  PWRTIMEOUT below the display
+//    Warm Up Time, Cool Down Time    the two lockout times in seconds
+//    slots Power_On, Power_Off       the sensing module's commands, or the display's own
+bool Generate::BuildPowerOnOffLockout() {
+  auto display = addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+  if (!display || !NeedsLockout(*display)) return true;
+  const auto module = GetPowerLockoutModule(m_run, display);
+  if (!module) return false;
+  const bool bOK = SetPowerLockoutTimes(m_run, *module);
+  // The commands are written also when a time was refused, and do not change the answer.
+  if (display->get_PowerControlType() == host::powerSensing) {
+    static_cast<void>(SetPowerLockoutCommands(*module, GetModulePowerSlot(addin::pdOn),
+                                              GetModulePowerSlot(addin::pdOff)));
+  } else if (display->get_PowerControlType() == host::powerDiscrete) {
+    static_cast<void>(SetPowerLockoutCommands(*module, "", ""));
+  }
+  return bOK;
 }
 
 }  // namespace generator

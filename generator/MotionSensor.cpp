@@ -9,6 +9,19 @@
 #include "host/Numbers.h"
 
 namespace generator {
+namespace {
+
+//  Motion_Detected goes low
+//    call System Power Off
+//    Room_Occupied low      Kestrum, written before
+bool BuildNoMotionTimeout(std::int16_t iSensorID) {
+  const bool bMonitored = addin::gAddIn().get_KestrumID() >= 1;
+  return ConnectEventToGlobalPreset(iSensorID, sMotionDetected, host::eventLow,
+                                    GetSystemPowerPreset(addin::pdOff).sName,
+                                    /*bClear=*/!bMonitored);
+}
+
+}  // namespace
 
 // Without a timeout the sensor keeps its property and what no motion does.
 bool Generate::BuildMotionSensor() {
@@ -19,16 +32,6 @@ bool Generate::BuildMotionSensor() {
   const auto sensor = addin::gDocument().get_Devices()->Item(iSensorID);
   return SetProperty(m_run, *sensor, "Timeout", forms::decimal(iSeconds)) &&
          BuildNoMotionTimeout(iSensorID);
-}
-
-//  Motion_Detected goes low
-//    call System Power Off
-//    Room_Occupied low      Kestrum, written before
-bool Generate::BuildNoMotionTimeout(std::int16_t iSensorID) {
-  const bool bMonitored = addin::gAddIn().get_KestrumID() >= 1;
-  return ConnectEventToGlobalPreset(iSensorID, sMotionDetected, host::eventLow,
-                                    GetSystemPowerPreset(addin::pdOff).sName,
-                                    /*bClear=*/!bMonitored);
 }
 
 }  // namespace generator

@@ -1,10 +1,8 @@
-#include "addin/Enumerations.h"
+#include "generator/PowerSensing.h"
+
+#include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
-#include "generator/Devices.h"
-#include "generator/Generate.h"
 #include "generator/Names.h"
-#include "generator/Presets.h"
-#include "generator/Steps.h"
 #include "host/Numbers.h"
 
 namespace generator {
@@ -12,10 +10,12 @@ namespace {
 
 constexpr const char* sSensorFormat = "i4";
 
-void AddPowerSensorPart(host::BillOfMaterialsEntry* bill) {
-  if (!bill) return;
-  const auto parts = bill->get_Parts();
-  if (!parts->Exists(host::partKeyPowerSensor)) parts->Add(host::partPowerSensor, 1);
+/// The receiver's entry in the bill of materials; nothing when there is none, and no part is listed
+/// then.
+std::shared_ptr<host::BillOfMaterialsEntry> FindReceiverBill() {
+  host::Document& document = addin::gDocument();
+  const auto receiver = document.get_Devices()->Item(addin::gAddIn().get_ReceiverID());
+  return document.get_Reports()->get_BillOfMaterials()->Item(receiver->get_DeviceHandle());
 }
 
 /// A display with one command for on and off gets it in both directions; the sensor tells the
@@ -31,31 +31,7 @@ void FillEmptySlots(const host::Device& device, const host::Device& module) {
 
 }  // namespace
 
-bool Generate::BuildSensedPower(std::int16_t ePowerOnOrOff, DevicePtr display,
-                                host::BillOfMaterialsEntry* bill) {
-  const std::int16_t iModuleID = AddPowerSensingModule(display);
-  AddPowerSensorPart(bill);
-  if (iModuleID == 0) return m_run.Fail("Failed to add Power Sensing module.");
-  return AddSensedPowerSteps(ePowerOnOrOff, iModuleID);
-}
-
-//  Display Power On                       Display Power Off
-//    Relay_Close  power relay               Power_Off    sensing module
-//    delay        power relay               delay        power relay
-//    Power_On     sensing module            Relay_Open   power relay
-bool Generate::AddSensedPowerSteps(std::int16_t ePowerOnOrOff, std::int16_t iModuleID) {
-  const std::string sSlot = GetModulePowerSlot(ePowerOnOrOff);
-  const auto preset = FindSequence(m_run, GetDisplayPowerPreset(ePowerOnOrOff).sName);
-  if (!preset) return false;
-  preset->ClearSteps();
-
-  if (ePowerOnOrOff == addin::pdOn) AppendRelayCloseSteps(*preset);
-  AppendStep(*preset, Command(iModuleID, sSlot));
-  if (ePowerOnOrOff == addin::pdOff) AppendRelayOpenSteps(*preset);
-  return true;
-}
-
-std::int16_t Generate::AddPowerSensingModule(DevicePtr& device) {
+std::int16_t AddPowerSensingModule(Run& run, DevicePtr& device) {
   auto module = FindModule(*device, sSensingModule);
   if (!module) {
     const host::ModuleList colModules = ModulesFromLibrary(sSensingModule, device->get_ID());
@@ -64,10 +40,24 @@ std::int16_t Generate::AddPowerSensingModule(DevicePtr& device) {
   }
   if (!module) return 0;
   module->put_ShowInTree(false);
-  module->put_SensorHandle(m_run.GetPowerSensorHandle());
+  module->put_SensorHandle(run.GetPowerSensorHandle());
   module->put_SensorFormat(sSensorFormat);
   FillEmptySlots(*device, *module);
   return module->get_ID();
+}
+
+void AddPowerSensorPart() {
+  const auto bill = FindReceiverBill();
+  if (!bill) return;
+  const auto parts = bill->get_Parts();
+  if (!parts->Exists(host::partKeyPowerSensor)) parts->Add(host::partPowerSensor, 1);
+}
+
+void RemovePowerSensorPart() {
+  const auto bill = FindReceiverBill();
+  if (!bill) return;
+  const auto parts = bill->get_Parts();
+  if (parts->Exists(host::partKeyPowerSensor)) parts->Remove(host::partKeyPowerSensor);
 }
 
 }  // namespace generator

@@ -7,6 +7,7 @@
 #include "host/Numbers.h"
 
 namespace generator {
+namespace {
 
 struct LockNames {
   const char* sPreset;
@@ -16,8 +17,6 @@ struct LockNames {
   const char* sKestrumSignal;
   const char* sKestrumLevel;
 };
-
-namespace {
 
 constexpr LockNames lock{
     .sPreset = sSystemLockPreset,
@@ -44,19 +43,12 @@ constexpr LockNames unlock{
     .sKestrumLevel = host::levelLow,
 };
 
-}  // namespace
-
-bool Generate::BuildSystemLockPresets() { return BuildSystemLock() && BuildSystemUnlock(); }
-
-bool Generate::BuildSystemLock() { return BuildLockPreset(lock); }
-bool Generate::BuildSystemUnlock() { return BuildLockPreset(unlock); }
-
 //  System Lock                        System Unlock
 //    Lock                 receiver      Unlock                receiver
 //    Enabled low          each panel    Enabled high          each panel
 //    System_Locked high   Kestrum       System_Unlocked low   Kestrum
-bool Generate::BuildLockPreset(const LockNames& names) {
-  const auto preset = FindSequence(m_run, names.sPreset);
+bool BuildLockPreset(Run& run, const LockNames& names) {
+  const auto preset = FindSequence(run, names.sPreset);
   if (!preset) return false;
   const addin::IAddIn& settings = addin::gAddIn();
   preset->ClearSteps();
@@ -69,6 +61,15 @@ bool Generate::BuildLockPreset(const LockNames& names) {
     AppendStep(*preset, Level(settings.get_KestrumID(), names.sKestrumSignal, names.sKestrumLevel));
   }
   return true;
+}
+
+bool BuildSystemLock(Run& run) { return BuildLockPreset(run, lock); }
+bool BuildSystemUnlock(Run& run) { return BuildLockPreset(run, unlock); }
+
+}  // namespace
+
+bool Generate::BuildSystemLockPresets() {
+  return BuildSystemLock(m_run) && BuildSystemUnlock(m_run);
 }
 
 }  // namespace generator

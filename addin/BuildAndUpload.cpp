@@ -26,8 +26,9 @@ bool IAddIn::CreateProgram() {
         "Orlena");
     return false;
   }
-  if (get_bSecondPowerOff() == 1 && m_iSecondPowerOff >= 1 && m_iPowerOffLockoutTime > 0 &&
-      m_iPowerOffLockoutTime < m_iSecondPowerOff) {
+  if (get_bSecondPowerOff() == 1 && m_settings.iSecondPowerOff >= 1 &&
+      m_settings.iPowerOffLockoutTime > 0 &&
+      m_settings.iPowerOffLockoutTime < m_settings.iSecondPowerOff) {
     Warn(
         "The Power Off Lockout time cannot be less than the second Power Off command delay "
         "time.\r\n\r\nYou must adjust these values in order to build the system.",
@@ -68,8 +69,8 @@ void IAddIn::UploadProgram(std::int32_t& hwnd) {
 
 /// The password goes to the receiver after every transfer, also when there is none to set.
 void IAddIn::m_clsComm_OnTransferComplete(std::int16_t) {
-  if (m_clsComm->SetPassword(m_strFenletPassword)) return;
-  Warn(std::string("Error ") + (m_strFenletPassword.empty() ? "clearing" : "setting") +
+  if (m_clsComm->SetPassword(m_settings.strFenletPassword)) return;
+  Warn(std::string("Error ") + (m_settings.strFenletPassword.empty() ? "clearing" : "setting") +
        " the Fenlet password on the control processor.\r\n\r\nPlease check communication settings "
        "and try again.");
 }

@@ -152,7 +152,7 @@ void IAddIn::put_DisplayDeviceID(std::int16_t iDeviceID) {
     SetStandardCommand(*oDevice, host::scVideo1);
     SetUpPower(iDeviceID);
     // No page would show a second Power Off that this display can't send.
-    if (!oDevice->get_SecondOffCapable()) m_bSecondPowerOff = false;
+    if (!oDevice->get_SecondOffCapable()) m_settings.bSecondPowerOff = false;
   }
 }
 

@@ -9,6 +9,7 @@
 
 #include "addin/Enumerations.h"
 #include "addin/ProgramBuilder.h"
+#include "addin/StoredSettings.h"
 #include "addin/WizardWindow.h"
 #include "forms/Event.h"
 #include "forms/MessageBox.h"
@@ -73,33 +74,35 @@ class IAddIn : public host::IAddInContract,
 
   // The answers that are stored with the system: Settings.cpp. Times are whole seconds but for the
   // pulse times; check box values are 1 and 0, and writing any other number stores 0.
-  bool get_VolumeKnobControl() const { return m_strVolumeKnobControl == "1d"; }
+  bool get_VolumeKnobControl() const { return m_settings.strVolumeKnobControl == "1d"; }
   void put_VolumeKnobControl(bool bMaster);
-  bool get_MicModeControl() const { return m_strMicModeControl == "1d"; }
+  bool get_MicModeControl() const { return m_settings.strMicModeControl == "1d"; }
   void put_MicModeControl(bool bAlwaysActive);
-  std::int16_t get_bMuteOnDigInp3() const { return m_bMuteOnDigInp3 ? 1 : 0; }
-  void put_bMuteOnDigInp3(std::int16_t iValue) { m_bMuteOnDigInp3 = iValue == 1; }
-  std::int16_t get_bUse3OLReceiver() const { return m_bUse3OLReceiver ? 1 : 0; }
-  void put_bUse3OLReceiver(std::int16_t iValue) { m_bUse3OLReceiver = iValue == 1; }
-  std::int16_t get_bSecondPowerOff() const { return m_bSecondPowerOff ? 1 : 0; }
-  void put_bSecondPowerOff(std::int16_t iValue) { m_bSecondPowerOff = iValue == 1; }
-  const std::string& get_sSecondPowerOff() const { return m_sSecondPowerOff; }
-  void put_sSecondPowerOff(const std::string& sCommand) { m_sSecondPowerOff = sCommand; }
-  std::int16_t get_iSecondPowerOff() const { return m_iSecondPowerOff; }
-  void put_iSecondPowerOff(std::int16_t iSeconds) { m_iSecondPowerOff = iSeconds; }
-  std::int16_t get_PowerRelayOnDelay() const { return m_iPowerRelayOnDelay; }
-  void put_PowerRelayOnDelay(std::int16_t iSeconds) { m_iPowerRelayOnDelay = iSeconds; }
-  std::int16_t get_PowerRelayOffDelay() const { return m_iPowerRelayOffDelay; }
-  void put_PowerRelayOffDelay(std::int16_t iSeconds) { m_iPowerRelayOffDelay = iSeconds; }
+  std::int16_t get_bMuteOnDigInp3() const { return m_settings.bMuteOnDigInp3 ? 1 : 0; }
+  void put_bMuteOnDigInp3(std::int16_t iValue) { m_settings.bMuteOnDigInp3 = iValue == 1; }
+  std::int16_t get_bUse3OLReceiver() const { return m_settings.bUse3OLReceiver ? 1 : 0; }
+  void put_bUse3OLReceiver(std::int16_t iValue) { m_settings.bUse3OLReceiver = iValue == 1; }
+  std::int16_t get_bSecondPowerOff() const { return m_settings.bSecondPowerOff ? 1 : 0; }
+  void put_bSecondPowerOff(std::int16_t iValue) { m_settings.bSecondPowerOff = iValue == 1; }
+  const std::string& get_sSecondPowerOff() const { return m_settings.sSecondPowerOff; }
+  void put_sSecondPowerOff(const std::string& sCommand) { m_settings.sSecondPowerOff = sCommand; }
+  std::int16_t get_iSecondPowerOff() const { return m_settings.iSecondPowerOff; }
+  void put_iSecondPowerOff(std::int16_t iSeconds) { m_settings.iSecondPowerOff = iSeconds; }
+  std::int16_t get_PowerRelayOnDelay() const { return m_settings.iPowerRelayOnDelay; }
+  void put_PowerRelayOnDelay(std::int16_t iSeconds) { m_settings.iPowerRelayOnDelay = iSeconds; }
+  std::int16_t get_PowerRelayOffDelay() const { return m_settings.iPowerRelayOffDelay; }
+  void put_PowerRelayOffDelay(std::int16_t iSeconds) { m_settings.iPowerRelayOffDelay = iSeconds; }
   /// The two lockout times store the absolute value.
-  std::int16_t get_PowerOnLockoutTime() const { return m_iPowerOnLockoutTime; }
+  std::int16_t get_PowerOnLockoutTime() const { return m_settings.iPowerOnLockoutTime; }
   void put_PowerOnLockoutTime(std::int16_t iSeconds);
-  std::int16_t get_PowerOffLockoutTime() const { return m_iPowerOffLockoutTime; }
+  std::int16_t get_PowerOffLockoutTime() const { return m_settings.iPowerOffLockoutTime; }
   void put_PowerOffLockoutTime(std::int16_t iSeconds);
   /// One of enumContactClosure.
-  std::int16_t get_PowerContactClosureOption() const { return m_iPowerContactClosureOption; }
+  std::int16_t get_PowerContactClosureOption() const {
+    return m_settings.iPowerContactClosureOption;
+  }
   void put_PowerContactClosureOption(std::int16_t iOption) {
-    m_iPowerContactClosureOption = iOption;
+    m_settings.iPowerContactClosureOption = iOption;
   }
   /// Seconds, kept in hundredths; `intOption` 0 is the screen, 1 the lift. Writing stores the
   /// absolute value.
@@ -108,11 +111,13 @@ class IAddIn : public host::IAddInContract,
   float get_PowerOffPulseTime(std::int16_t intOption) const;
   void put_PowerOffPulseTime(std::int16_t intOption, float sngSeconds);
   /// Empty: no password. Writing removes the blanks at both ends.
-  const std::string& get_FenletPassword() const { return m_strFenletPassword; }
+  const std::string& get_FenletPassword() const { return m_settings.strFenletPassword; }
   void put_FenletPassword(const std::string& strPassword);
   /// 0: the room isn't powered off without motion.
-  std::int16_t get_MotionSensorTimeout() const { return m_iMotionSensorTimeout; }
-  void put_MotionSensorTimeout(std::int16_t iSeconds) { m_iMotionSensorTimeout = iSeconds; }
+  std::int16_t get_MotionSensorTimeout() const { return m_settings.iMotionSensorTimeout; }
+  void put_MotionSensorTimeout(std::int16_t iSeconds) {
+    m_settings.iMotionSensorTimeout = iSeconds;
+  }
 
   // The devices of the room, by their ids in the document; 0: the device isn't in the system. They
   // are not stored but found again by name.
@@ -239,8 +244,6 @@ class IAddIn : public host::IAddInContract,
   bool SetPagePrefix();
   void LabelInputButtons(host::TessraApp& oTessraApp) const;
 
-  /// What a new object and a document without a settings block have in common.
-  void SetStoredDefaults();
   void FindOriginationPoints();
   std::int16_t& OriginationPoint(std::int16_t intIndex);
   void RelabelOriginationPoint(host::Device& oDevice, const std::string& strLabel);
@@ -272,22 +275,7 @@ class IAddIn : public host::IAddInContract,
   bool m_bFolderChecksOK = false;
   std::vector<std::string> m_colTriedFolders;  // those that were made, the outer before the inner
 
-  std::string m_strVolumeKnobControl;  // "1d", "0d", or empty while never set
-  std::string m_strMicModeControl;
-  bool m_bMuteOnDigInp3 = false;
-  bool m_bUse3OLReceiver = false;
-  bool m_bSecondPowerOff = false;
-  std::string m_sSecondPowerOff;
-  std::int16_t m_iSecondPowerOff = 0;
-  std::int16_t m_iPowerRelayOnDelay = 0;
-  std::int16_t m_iPowerRelayOffDelay = 0;
-  std::int16_t m_iPowerOnLockoutTime = 0;
-  std::int16_t m_iPowerOffLockoutTime = 0;
-  std::int16_t m_iPowerContactClosureOption = contactUnused;
-  std::array<std::int32_t, 2> m_lPowerOnPulseTime{};  // hundredths of a second
-  std::array<std::int32_t, 2> m_lPowerOffPulseTime{};
-  std::string m_strFenletPassword;
-  std::int16_t m_iMotionSensorTimeout = 0;
+  StoredSettings m_settings;
 
   std::int16_t m_iReceiverID = 0;
   std::int16_t m_iDisplayDeviceID = 0;

@@ -19,7 +19,7 @@ bool IAddIn::CreateProgram() {
   // What the save answers is not looked at: the compile tells what stands on disk.
   static_cast<void>(gOwnerForm().FileSaveAs(gDocument().get_Path() + gDocument().get_Name(),
                                             GetApplicationName()));
-  if (get_OriginationPointID(1) == 0) {
+  if (!IsInSystem(get_OriginationPointID(1))) {
     Warn(
         "No OL transmitters have been added to the project.\r\n\r\nYou must add at least one OL "
         "transmitter to this project in order to build the system.",

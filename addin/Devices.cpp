@@ -8,20 +8,16 @@ namespace addin {
 
 namespace {
 
-constexpr std::int16_t iOccupancyInput = 1;  // the motion detector takes over this digital input
-
 void ShowHostError(const std::string& strText) {
   forms::Application::current().messageBox(strText, forms::Buttons::ok, forms::Icon::exclamation);
 }
 
 std::string ReceiverName() { return gDocument().get_ControlSystem()->get_Name(); }
 
-std::string InputName(std::int16_t iInput) { return "Digital Input " + forms::decimal(iInput); }
-
 /// The device, if it is in the document under an id of its own.
 std::shared_ptr<host::Device> FindDevice(std::int16_t iDeviceID) {
   const auto oDevice = gDocument().get_Devices()->ItemByID(iDeviceID);
-  return oDevice && oDevice->get_ID() > 0 ? oDevice : nullptr;
+  return oDevice && IsInSystem(oDevice->get_ID()) ? oDevice : nullptr;
 }
 
 /// Enters the driver's command into the map in which the program looks it up. A driver without one
@@ -64,63 +60,60 @@ bool IAddIn::RemoveDevice(std::int16_t iDeviceID) {
   return false;
 }
 
-void IAddIn::AddPowerRelay() {
-  const LibraryEntry relay{host::modelPowerRelay, host::entryPowerRelay, "", "", false};
-  if (AddDevice(relay, "Power Relay", m_iPowerRelayID)) HideDevice(m_iPowerRelayID);
+bool IAddIn::AddCastMember(const CastMember& member, std::int16_t& iDeviceID) {
+  if (!AddDevice(member.entry, member.strName, iDeviceID)) return false;
+  HideDevice(iDeviceID);
+  return true;
 }
 
+void IAddIn::AddPowerRelay() { AddCastMember(powerRelay, m_cast.iPowerRelay); }
+
 void IAddIn::RemovePowerRelay() {
-  if (m_iPowerRelayID != 0 && RemoveDevice(m_iPowerRelayID)) m_iPowerRelayID = 0;
+  if (IsInSystem(m_cast.iPowerRelay) && RemoveDevice(m_cast.iPowerRelay)) {
+    m_cast.iPowerRelay = iNoDevice;
+  }
 }
 
 void IAddIn::AddKestrum() {
-  const LibraryEntry kestrum{host::modelKestrum, host::entryKestrum, "Velmondo", "Kestrum", true};
-  if (!AddDevice(kestrum, "Kestrum Interface", m_iKestrumID)) return;
-  const auto oDevice = gDocument().get_Devices()->Item(m_iKestrumID);
-  if (oDevice->get_ID() > 0) {
+  if (!AddDevice(kestrumInterface.entry, kestrumInterface.strName, m_cast.iKestrum)) return;
+  const auto oDevice = gDocument().get_Devices()->Item(m_cast.iKestrum);
+  if (IsInSystem(oDevice->get_ID())) {
     gOwnerForm().SetDeviceIPAddress(oDevice->get_DeviceHandle(), "127.0.0.1");
   }
-  HideDevice(m_iKestrumID);
+  HideDevice(m_cast.iKestrum);
 }
 
 /// The motion detector never outlives the monitoring interface. The id is not tested and a failure,
 /// which is shown, does not end the operation: the interface counts as gone in every case.
 void IAddIn::RemoveKestrum() {
-  RemoveDevice(m_iKestrumID);
+  RemoveDevice(m_cast.iKestrum);
   RemoveOccupancySensor();
-  m_iKestrumID = 0;
+  m_cast.iKestrum = iNoDevice;
 }
 
 void IAddIn::AddOccupancySensor() {
-  if (!RemoveDigitalInput(iOccupancyInput)) return;
-  const LibraryEntry detector{host::modelMotionDetector, host::entryMotionDetector, "", "", false};
-  if (AddDevice(detector, "Motion Detector", m_iOccupancySensorID)) {
-    HideDevice(m_iOccupancySensorID);
-  }
+  if (RemoveDigitalInput(iOccupancyInput)) AddCastMember(motionDetector, m_cast.iOccupancySensor);
 }
 
 void IAddIn::RemoveOccupancySensor() {
-  if (m_iOccupancySensorID == 0 || !RemoveDevice(m_iOccupancySensorID)) return;
+  if (!IsInSystem(m_cast.iOccupancySensor) || !RemoveDevice(m_cast.iOccupancySensor)) return;
   AddDigitalInput(iOccupancyInput);  // a failure is shown there; the detector is gone all the same
-  m_iOccupancySensorID = 0;
+  m_cast.iOccupancySensor = iNoDevice;
 }
 
 bool IAddIn::AddDigitalInput(std::int16_t iInput) {
-  const LibraryEntry input{host::modelDigitalInput, host::entryDigitalInput, "", "", false};
-  std::int16_t iDeviceID = 0;
-  if (!AddDevice(input, InputName(iInput), iDeviceID)) return false;
-  HideDevice(iDeviceID);
-  return true;
+  const std::string strName = DigitalInputName(iInput);
+  std::int16_t iDeviceID = iNoDevice;
+  return AddCastMember({strName.c_str(), digitalInput}, iDeviceID);
 }
 
 bool IAddIn::RemoveDigitalInput(std::int16_t iInput) {
   const std::int16_t iDeviceID = GetDigitalInputID(iInput);
-  return iDeviceID == 0 || RemoveDevice(iDeviceID);
+  return !IsInSystem(iDeviceID) || RemoveDevice(iDeviceID);
 }
 
 std::int16_t IAddIn::GetDigitalInputID(std::int16_t iInput) const {
-  const auto oDevice = gDocument().get_Devices()->FindByName(InputName(iInput), ReceiverName());
-  return oDevice ? oDevice->get_ID() : std::int16_t{0};
+  return FindInCast(DigitalInputName(iInput));
 }
 
 void IAddIn::AddFenlet() {
@@ -128,14 +121,15 @@ void IAddIn::AddFenlet() {
       gOwnerForm().AddInterface(host::modelFenlet, gDocument().get_ControlSystem()->get_ID(), "");
   if (!oPanel) return;
   oPanel->put_ConnectSlot(GetDeviceSlot());
-  m_iFenletID = oPanel->get_ID();
+  m_cast.iFenlet = oPanel->get_ID();
 }
 
 void IAddIn::RemoveFenlet() {
-  if (m_iFenletID != 0 && !gDocument().RemoveTouchpanel(m_iFenletID, host::removalOfTouchpanel)) {
+  if (IsInSystem(m_cast.iFenlet) &&
+      !gDocument().RemoveTouchpanel(m_cast.iFenlet, host::removalOfTouchpanel)) {
     ShowHostError(gDocument().GetLastError());
   }
-  m_iFenletID = 0;
+  m_cast.iFenlet = iNoDevice;
 }
 
 void IAddIn::HideDevice(std::int16_t iDeviceID) {
@@ -145,7 +139,7 @@ void IAddIn::HideDevice(std::int16_t iDeviceID) {
 }
 
 void IAddIn::put_DisplayDeviceID(std::int16_t iDeviceID) {
-  m_iDisplayDeviceID = iDeviceID;
+  m_cast.iDisplayDevice = iDeviceID;
   HideDevice(iDeviceID);
   if (const auto oDevice = FindDevice(iDeviceID)) {
     SetStandardCommand(*oDevice, host::scRGB1);
@@ -173,12 +167,12 @@ void IAddIn::SetUpPower(std::int16_t iDeviceID) {
 }
 
 void IAddIn::put_ScreenDeviceID(std::int16_t iDeviceID) {
-  m_iScreenDeviceID = iDeviceID;
+  m_cast.iScreenDevice = iDeviceID;
   SetUpAuxiliaryDevice(iDeviceID);
 }
 
 void IAddIn::put_LiftDeviceID(std::int16_t iDeviceID) {
-  m_iLiftDeviceID = iDeviceID;
+  m_cast.iLiftDevice = iDeviceID;
   SetUpAuxiliaryDevice(iDeviceID);
 }
 
@@ -191,13 +185,13 @@ void IAddIn::SetUpAuxiliaryDevice(std::int16_t iDeviceID) {
 }
 
 std::string IAddIn::GetAuxiliaryDeviceName(std::int16_t eDeviceType) const {
-  if (eDeviceType == adtScreen) return "Screen";
-  return eDeviceType == adtLift ? "Lift" : "";
+  if (eDeviceType == adtScreen) return strScreen;
+  return eDeviceType == adtLift ? strLift : "";
 }
 
 bool IAddIn::SetDeviceLabel(std::int16_t iDeviceID, const std::string& strLabel) {
   const auto oDevice = gDocument().get_Devices()->Item(iDeviceID);
-  if (oDevice->get_ID() == 0) return false;
+  if (!IsInSystem(oDevice->get_ID())) return false;
   if (!forms::equalsIgnoringCase(oDevice->get_Label(), strLabel)) {
     oDevice->put_Label(strLabel);
     gDocument().MarkChanged();

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "addin/Cast.h"
 #include "addin/Enumerations.h"
 #include "addin/ProgramBuilder.h"
 #include "addin/StoredSettings.h"
@@ -119,16 +119,16 @@ class IAddIn : public host::IAddInContract,
     m_settings.iMotionSensorTimeout = iSeconds;
   }
 
-  // The devices of the room, by their ids in the document; 0: the device isn't in the system. They
+  // The devices of the room, by their ids in the document; not IsInSystem where there is none. They
   // are not stored but found again by name.
-  std::int16_t get_ReceiverID() const { return m_iReceiverID; }
-  std::int16_t get_DisplayDeviceID() const { return m_iDisplayDeviceID; }
-  std::int16_t get_PowerRelayID() const { return m_iPowerRelayID; }
-  std::int16_t get_KestrumID() const { return m_iKestrumID; }
-  std::int16_t get_OccupancySensorID() const { return m_iOccupancySensorID; }
-  std::int16_t get_FenletID() const { return m_iFenletID; }
-  std::int16_t get_ScreenDeviceID() const { return m_iScreenDeviceID; }
-  std::int16_t get_LiftDeviceID() const { return m_iLiftDeviceID; }
+  std::int16_t get_ReceiverID() const { return m_cast.iReceiver; }
+  std::int16_t get_DisplayDeviceID() const { return m_cast.iDisplayDevice; }
+  std::int16_t get_PowerRelayID() const { return m_cast.iPowerRelay; }
+  std::int16_t get_KestrumID() const { return m_cast.iKestrum; }
+  std::int16_t get_OccupancySensorID() const { return m_cast.iOccupancySensor; }
+  std::int16_t get_FenletID() const { return m_cast.iFenlet; }
+  std::int16_t get_ScreenDeviceID() const { return m_cast.iScreenDevice; }
+  std::int16_t get_LiftDeviceID() const { return m_cast.iLiftDevice; }
   /// `intIndex` is the port, 1 to 3.
   std::int16_t get_OriginationPointID(std::int16_t intIndex) const;
   bool HasScreenControl() const { return true; }
@@ -226,15 +226,6 @@ class IAddIn : public host::IAddInContract,
   void RemoveOriginationPoint(std::int16_t intIndex);
 
  private:
-  /// What the host adds: a device of the library under its fixed ids.
-  struct LibraryEntry {
-    std::int16_t iModelID;
-    std::int16_t iControlEntryID;
-    const char* strMaker;
-    const char* strModel;
-    bool bFlag5;
-  };
-
   void LoadImages(const forms::ImageList& clsListImagesSmall,
                   const forms::ImageList& clsListImagesLarge);
   void m_clsComm_DisplayHelp(std::int32_t lTopicID);
@@ -257,10 +248,11 @@ class IAddIn : public host::IAddInContract,
   /// Adds a device below the receiver. On False the host's text has been shown and `iDeviceID` is
   /// what it was.
   bool AddDevice(const LibraryEntry& entry, const std::string& strName, std::int16_t& iDeviceID);
+  /// As AddDevice, for one that the tree doesn't show.
+  bool AddCastMember(const CastMember& member, std::int16_t& iDeviceID);
   bool RemoveDevice(std::int16_t iDeviceID);
   /// From 0; -1 where none of the pages mends it.
   std::int16_t PlaceOfPage(const host::ProgramPlace& place) const;
-  void SetUpDisplay(std::int16_t iDeviceID);
   void SetUpPower(std::int16_t iDeviceID);
   void SetUpAuxiliaryDevice(std::int16_t iDeviceID);
 
@@ -277,15 +269,7 @@ class IAddIn : public host::IAddInContract,
 
   StoredSettings m_settings;
 
-  std::int16_t m_iReceiverID = 0;
-  std::int16_t m_iDisplayDeviceID = 0;
-  std::int16_t m_iPowerRelayID = 0;
-  std::int16_t m_iKestrumID = 0;
-  std::int16_t m_iOccupancySensorID = 0;
-  std::int16_t m_iFenletID = 0;
-  std::int16_t m_iScreenDeviceID = 0;
-  std::int16_t m_iLiftDeviceID = 0;
-  std::array<std::int16_t, 3> m_iOriginationPointID{};  // by port, the first at 0
+  CastIDs m_cast;
 };
 
 }  // namespace addin

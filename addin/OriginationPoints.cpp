@@ -45,17 +45,17 @@ void IAddIn::AddOriginationPoint(std::int16_t intIndex, const std::string& strNa
                                  std::int16_t iModelID, std::int16_t iControlEntryID,
                                  const std::string& strLabel) {
   std::int16_t& iPortID = OriginationPoint(intIndex);
-  if (iPortID != 0) {
+  if (IsInSystem(iPortID)) {
     const auto oPresent = gDocument().get_Devices()->Item(iPortID);
-    if (oPresent->get_ID() > 0) {
+    if (IsInSystem(oPresent->get_ID())) {
       if (oPresent->get_ControlEntryID() == iControlEntryID) {
         return RelabelOriginationPoint(*oPresent, strLabel);
       }
       RemoveOriginationPoint(intIndex);
     }
   }
-  std::int16_t iDeviceID = 0;
-  const LibraryEntry transmitter{iModelID, iControlEntryID, "Velmondo", "", false};
+  std::int16_t iDeviceID = iNoDevice;
+  const LibraryEntry transmitter{iModelID, iControlEntryID, strCastMaker};
   if (!AddDevice(transmitter, strName, iDeviceID)) return;
   const auto oDevice = gDocument().get_Devices()->Item(iDeviceID);
   oDevice->put_Label(strLabel);
@@ -68,7 +68,7 @@ void IAddIn::RelabelOriginationPoint(host::Device& oDevice, const std::string& s
   if (oDevice.get_Label() == strLabel) return;
   oDevice.put_Label(strLabel);
   // The panel shows the labels.
-  if (const auto oFenlet = gDocument().get_Touchpanels()->ItemByID(m_iFenletID)) {
+  if (const auto oFenlet = gDocument().get_Touchpanels()->ItemByID(m_cast.iFenlet)) {
     oFenlet->put_ProjectBuilt(false);
   }
 }
@@ -92,11 +92,11 @@ void IAddIn::RemoveOriginationPoint(std::int16_t intIndex) {
   std::int16_t& iPortID = OriginationPoint(intIndex);
   RemoveDevice(iPortID);  // a failure is shown there
   if (!Bill()->RemoveItem(-std::int32_t{iPortID})) WarnOfPort("removing", intIndex, "from");
-  iPortID = 0;
+  iPortID = iNoDevice;
 }
 
 std::int16_t& IAddIn::OriginationPoint(std::int16_t intIndex) {
-  return m_iOriginationPointID.at(static_cast<std::size_t>(intIndex - 1));
+  return m_cast.iOriginationPoint.at(static_cast<std::size_t>(intIndex - 1));
 }
 
 void IAddIn::FindOriginationPoints() {

@@ -20,14 +20,14 @@ constexpr std::int16_t iRoomPage = 8;
 /// A display's commands are chosen on two pages: those for the power, and those for the inputs.
 std::int16_t IAddIn::PlaceOfPage(const host::ProgramPlace& place) const {
   const auto Is = [&place](std::int16_t iDeviceID) {
-    return iDeviceID != 0 && iDeviceID == place.iDeviceID;
+    return IsInSystem(iDeviceID) && iDeviceID == place.iDeviceID;
   };
   const bool bPower = place.strPreset.find("Power") != std::string::npos;
-  if (Is(m_iDisplayDeviceID)) return bPower ? iPowerPage : iDisplayPage;
-  if (Is(m_iPowerRelayID)) return iDisplayPage;
-  if (Is(m_iScreenDeviceID) || Is(m_iLiftDeviceID)) return iOptionsPage;
-  if (Is(m_iKestrumID) || Is(m_iFenletID) || Is(m_iOccupancySensorID)) return iRoomPage;
-  if (std::ranges::any_of(m_iOriginationPointID, Is)) return iTransmittersPage;
+  if (Is(m_cast.iDisplayDevice)) return bPower ? iPowerPage : iDisplayPage;
+  if (Is(m_cast.iPowerRelay)) return iDisplayPage;
+  if (Is(m_cast.iScreenDevice) || Is(m_cast.iLiftDevice)) return iOptionsPage;
+  if (Is(m_cast.iKestrum) || Is(m_cast.iFenlet) || Is(m_cast.iOccupancySensor)) return iRoomPage;
+  if (std::ranges::any_of(m_cast.iOriginationPoint, Is)) return iTransmittersPage;
   return bPower ? iPowerPage : iNoPage;
 }
 

@@ -65,7 +65,7 @@ void IAddIn::put_FenletPassword(const std::string& strPassword) {
 }
 
 std::int16_t IAddIn::get_OriginationPointID(std::int16_t intIndex) const {
-  return m_iOriginationPointID.at(static_cast<std::size_t>(intIndex - 1));
+  return m_cast.iOriginationPoint.at(static_cast<std::size_t>(intIndex - 1));
 }
 
 }  // namespace addin

@@ -82,7 +82,7 @@ bool IAddIn::CreateTouchpanelProjects() {
     }
     const auto oProject = TessraApp()->GetAssignedProject();
     TessraApp()->SetCurrentProject(oProject);
-    const auto oReceiver = gDocument().get_Devices()->Item(m_iReceiverID);
+    const auto oReceiver = gDocument().get_Devices()->Item(m_cast.iReceiver);
     // A project without the page of the equipment room stays as it was made.
     if (TessraApp()->SetUsePage("[Equipment Room] [" + oReceiver->get_Name() + "]")) {
       LabelInputButtons(*TessraApp());
@@ -96,7 +96,7 @@ bool IAddIn::CreateTouchpanelProjects() {
 void IAddIn::LabelInputButtons(host::TessraApp& oTessraApp) const {
   for (const auto& oObject : oTessraApp.GetPageObjectList()) {
     const std::int16_t iPort = PortOfButton(oObject->get_Text());
-    if (iPort == 0 || get_OriginationPointID(iPort) < 1) continue;
+    if (iPort == 0 || !IsInSystem(get_OriginationPointID(iPort))) continue;
     const auto oTransmitter = gDocument().get_Devices()->Item(get_OriginationPointID(iPort));
     oTessraApp.EditObject(oObject->get_ID(),
                           forms::upperCase(oTransmitter->get_Label()) + strSelected);

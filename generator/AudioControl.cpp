@@ -1,3 +1,4 @@
+#include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "generator/Devices.h"
@@ -16,7 +17,7 @@ std::string Constant(bool bValue) { return bValue ? "1d" : "0d"; }
 //    Volume_Mute_On  receiver      Volume_Mute_Off  receiver
 bool BuildMuteOnContact(Run& run) {
   const addin::IAddIn& settings = addin::gAddIn();
-  const auto contact = FindOutput(settings.GetDigitalInputID(iMuteInput), sContact);
+  const auto contact = FindOutput(settings.GetDigitalInputID(addin::iMuteInput), sContact);
   if (!contact) return false;
   EnableEvents(*contact);
   ClearEvents(*contact);

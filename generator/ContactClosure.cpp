@@ -1,3 +1,4 @@
+#include "addin/Cast.h"
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
@@ -13,7 +14,7 @@ namespace {
 
 constexpr std::int16_t iFirst = 1;
 
-std::int16_t ContactID() { return addin::gAddIn().GetDigitalInputID(iContactInput); }
+std::int16_t ContactID() { return addin::gAddIn().GetDigitalInputID(addin::iContactInput); }
 
 bool InsertSystemLockBranch(Run& run, host::Preset& preset, std::int16_t iIndex,
                             const host::StepCondition& test) {

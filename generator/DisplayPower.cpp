@@ -1,5 +1,6 @@
 #include "generator/DisplayPower.h"
 
+#include "addin/Cast.h"
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
@@ -118,7 +119,7 @@ bool BuildDisplayPowerControl(Run& run, std::int16_t ePowerOnOrOff) {
   switch (display->get_PowerControlType()) {
     case host::powerSensing:
       // The sensor takes over the input; while that stands there is nothing to be written.
-      if (!settings.RemoveDigitalInput(iPowerSensorInput)) return false;
+      if (!settings.RemoveDigitalInput(addin::iPowerSensorInput)) return false;
       bOK = BuildSensedPower(run, ePowerOnOrOff, display);
       break;
     case host::powerDiscrete:

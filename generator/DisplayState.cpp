@@ -1,3 +1,4 @@
+#include "addin/Cast.h"
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
@@ -14,6 +15,7 @@ namespace generator {
 namespace {
 
 // What the monitoring interface is told.
+constexpr const char* sDisplayPowerState = "Display_Power_State";
 constexpr const char* sOff = "0d";
 constexpr const char* sOn = "1d";
 constexpr const char* sWarming = "2d";
@@ -63,14 +65,15 @@ void AppendUnlockSteps(const PresetPtr& preset) {
   };
   const auto unlockUnlessMonitoringLocks = [&](const PresetPtr& branch) {
     if (iKestrumID <= 0) return unlock(branch);
-    return AppendBranch(*branch, SignalIs(iKestrumID, "System_Lock", 0), unlock);
+    return AppendBranch(*branch, SignalIs(iKestrumID, sKestrumLock, 0), unlock);
   };
   if (iReceiverID == 0) {
     static_cast<void>(unlock(preset));
   } else if (settings.get_PowerContactClosureOption() == addin::contactUnused) {
     static_cast<void>(unlockUnlessMonitoringLocks(preset));
   } else {
-    const auto isClosed = ContactIsClosed(settings.GetDigitalInputID(iContactInput), sContact);
+    const auto isClosed =
+        ContactIsClosed(settings.GetDigitalInputID(addin::iContactInput), sContact);
     static_cast<void>(AppendBranch(*preset, isClosed, unlockUnlessMonitoringLocks));
   }
 }

@@ -39,10 +39,10 @@ struct PresetTrigger {
 };
 
 constexpr std::array presetTriggers{
-    PresetTrigger{"System_Power_Off", "System Power Off"},
-    PresetTrigger{"Display_Power_On", "Display Power On"},
-    PresetTrigger{"Display_Power_Off", "Display Power Off"},
-    PresetTrigger{"System_Lock", sSystemLockPreset},
+    PresetTrigger{"System_Power_Off", sSystemPowerOffPreset},
+    PresetTrigger{"Display_Power_On", sDisplayPowerOnPreset},
+    PresetTrigger{"Display_Power_Off", sDisplayPowerOffPreset},
+    PresetTrigger{sKestrumLock, sSystemLockPreset},
     PresetTrigger{"System_Unlock", sSystemUnlockPreset},
 };
 

@@ -1,3 +1,4 @@
+#include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "forms/Numbers.h"
@@ -9,11 +10,8 @@
 namespace generator {
 namespace {
 
-constexpr std::int16_t iOccupancyInput = 1;
 /// Custom signal 7 of the interface is for digital input 1, and so on.
 constexpr std::int16_t iCustomSignalBeforeInputs = 6;
-
-std::string InputName(std::int16_t iInput) { return "Digital Input " + forms::decimal(iInput); }
 
 bool BuildKestrumDigitalInputs(std::int16_t iInput) {
   const addin::IAddIn& settings = addin::gAddIn();
@@ -23,7 +21,7 @@ bool BuildKestrumDigitalInputs(std::int16_t iInput) {
   const auto interface = addin::gDocument().get_Devices()->Item(iKestrumID);
   const auto label = interface->GetProperty("Digital_Attribute_" + n + "_Name");
   if (!label) return false;
-  static_cast<void>(label->SetValue(InputName(iInput)));
+  static_cast<void>(label->SetValue(addin::DigitalInputName(iInput)));
   const std::string sCommand = "Custom_Digital_Command_" + n;
   const auto signal = addin::gDocument().get_Signals()->Find(
       iKestrumID, sCommand, "Custom_Digital_Notify_" + n, host::signalDigital);
@@ -36,13 +34,13 @@ bool BuildKestrumDigitalInputs(std::int16_t iInput) {
 bool Generate::BuildKestrumInputs() {
   const addin::IAddIn& settings = addin::gAddIn();
   if (settings.get_KestrumID() < 1) return true;
-  if (settings.get_OccupancySensorID() == 0 && !BuildKestrumDigitalInputs(iOccupancyInput)) {
+  if (settings.get_OccupancySensorID() == 0 && !BuildKestrumDigitalInputs(addin::iOccupancyInput)) {
     return false;
   }
-  if (!BuildKestrumDigitalInputs(iContactInput)) return false;
-  if (!BuildKestrumDigitalInputs(iMuteInput)) return false;
-  if (settings.GetDigitalInputID(iPowerSensorInput) == 0) return true;
-  return BuildKestrumDigitalInputs(iPowerSensorInput);
+  if (!BuildKestrumDigitalInputs(addin::iContactInput)) return false;
+  if (!BuildKestrumDigitalInputs(addin::iMuteInput)) return false;
+  if (settings.GetDigitalInputID(addin::iPowerSensorInput) == 0) return true;
+  return BuildKestrumDigitalInputs(addin::iPowerSensorInput);
 }
 
 }  // namespace generator

@@ -21,9 +21,9 @@ struct PowerNames {
 };
 
 constexpr PowerNames powerOn{
-    .sSystemPreset = "System Power On",
+    .sSystemPreset = sSystemPowerOnPreset,
     .sSystemComment = "Add additional steps here that will be executed when the system turns on.",
-    .sDisplayPreset = "Display Power On",
+    .sDisplayPreset = sDisplayPowerOnPreset,
     .sDisplayComment =
         "Add additional steps here that should be executed when the display turns on.  For "
         "example, "
@@ -36,9 +36,9 @@ constexpr PowerNames powerOn{
 };
 
 constexpr PowerNames powerOff{
-    .sSystemPreset = "System Power Off",
+    .sSystemPreset = sSystemPowerOffPreset,
     .sSystemComment = "Add additional steps here that will be executed when the system turns off.",
-    .sDisplayPreset = "Display Power Off",
+    .sDisplayPreset = sDisplayPowerOffPreset,
     .sDisplayComment =
         "Add additional steps here that should be executed when the display turns off.  For "
         "example, maybe you want to automatically turn the lights back on, raise the screen, or "

@@ -9,6 +9,10 @@
 namespace generator {
 
 // What more than one sub-builder names.
+inline constexpr const char* sSystemPowerOnPreset = "System Power On";
+inline constexpr const char* sSystemPowerOffPreset = "System Power Off";
+inline constexpr const char* sDisplayPowerOnPreset = "Display Power On";
+inline constexpr const char* sDisplayPowerOffPreset = "Display Power Off";
 inline constexpr const char* sSystemLockPreset = "System Lock";
 inline constexpr const char* sSystemUnlockPreset = "System Unlock";
 inline constexpr const char* sContact = "dig_input_1";  // the output of a digital input
@@ -16,14 +20,9 @@ inline constexpr const char* sMotionDetected = "Motion_Detected";
 inline constexpr const char* sPoweredOff = "Powered_Off";
 inline constexpr const char* sLockCommand = "Lock";
 inline constexpr const char* sUnlockCommand = "Unlock";
-inline constexpr const char* sDisplayPowerState = "Display_Power_State";
+inline constexpr const char* sKestrumLock = "System_Lock";  // what the help desk asks for
 inline constexpr const char* sSensingModule = "PWRSENSE";
 inline constexpr const char* sLockoutModule = "PWRTIMEOUT";
-
-// The digital inputs that have a use of their own. The motion detector takes the place of input 1.
-inline constexpr std::int16_t iContactInput = 2;
-inline constexpr std::int16_t iMuteInput = 3;
-inline constexpr std::int16_t iPowerSensorInput = 4;
 
 /// A preset of the template, and the comment that it gets while it has none.
 struct NamedPreset {

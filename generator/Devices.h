@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "addin/Cast.h"
 #include "generator/Run.h"
 #include "host/Device.h"
 #include "host/DeviceList.h"
@@ -11,6 +12,8 @@
 /// What a sub-builder asks of the devices of the open document: the commands of their drivers,
 /// their properties and their modules.
 namespace generator {
+
+using addin::IsInSystem;
 
 using DevicePtr = std::shared_ptr<host::Device>;
 

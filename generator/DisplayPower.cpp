@@ -18,7 +18,7 @@ namespace {
 void AppendRelayCloseSteps(host::Preset& preset) {
   const addin::IAddIn& settings = addin::gAddIn();
   const std::int16_t iRelayID = settings.get_PowerRelayID();
-  if (iRelayID <= 0) return;
+  if (!IsInSystem(iRelayID)) return;
   AppendStep(preset, Command(iRelayID, "Relay_Close"));
   AppendStep(preset, Delay(iRelayID, settings.get_PowerRelayOnDelay()));
 }
@@ -26,7 +26,7 @@ void AppendRelayCloseSteps(host::Preset& preset) {
 void AppendRelayOpenSteps(host::Preset& preset) {
   const addin::IAddIn& settings = addin::gAddIn();
   const std::int16_t iRelayID = settings.get_PowerRelayID();
-  if (iRelayID <= 0) return;
+  if (!IsInSystem(iRelayID)) return;
   AppendStep(preset, Delay(iRelayID, settings.get_PowerRelayOffDelay()));
   AppendStep(preset, Command(iRelayID, "Relay_Open"));
 }
@@ -41,13 +41,6 @@ void AppendSecondPowerOffSteps(host::Preset& preset) {
   AppendStep(preset, Pulse(iDisplayID, sCommand, sDisplayPulse));
 }
 
-void WarnOfMissingPowerCommand(Run& run, std::int16_t ePowerOnOrOff, std::int16_t iDeviceID) {
-  const auto display =
-      addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
-  if (!display || display->get_PowerControlType() != host::powerDiscrete || iDeviceID <= 0) return;
-  run.AddErrorItem(GetMissingPowerCommandWarning(ePowerOnOrOff), host::severityWarning);
-}
-
 //  Display Power On                       Display Power Off
 //    Relay_Close  power relay               off command    display       0.1 s
 //    delay        power relay               delay          power relay
@@ -58,7 +51,7 @@ bool AddDiscretePowerSteps(Run& run, std::int16_t ePowerOnOrOff, std::int16_t iD
   const std::string sCommand = GetDeviceCommandName(
       iDeviceID, addin::gAddIn().GetStandardCommandIDForPowerControl(ePowerOnOrOff));
   if (sCommand.empty()) {
-    WarnOfMissingPowerCommand(run, ePowerOnOrOff, iDeviceID);
+    run.AddErrorItem(GetMissingPowerCommandWarning(ePowerOnOrOff), host::severityWarning);
     return true;
   }
   const auto preset = FindSequence(run, GetDisplayPowerPreset(ePowerOnOrOff).sName);
@@ -93,7 +86,7 @@ bool AddSensedPowerSteps(Run& run, std::int16_t ePowerOnOrOff, std::int16_t iMod
 bool BuildSensedPower(Run& run, std::int16_t ePowerOnOrOff, DevicePtr display) {
   const std::int16_t iModuleID = AddPowerSensingModule(run, display);
   AddPowerSensorPart();
-  if (iModuleID == 0) return run.Fail("Failed to add Power Sensing module.");
+  if (!IsInSystem(iModuleID)) return run.Fail("Failed to add Power Sensing module.");
   return AddSensedPowerSteps(run, ePowerOnOrOff, iModuleID);
 }
 

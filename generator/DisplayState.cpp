@@ -2,6 +2,7 @@
 #include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
 #include "generator/DisplaySwitching.h"
 #include "generator/Events.h"
 #include "generator/Generate.h"
@@ -23,7 +24,7 @@ constexpr const char* sCooling = "3d";
 
 bool ReportDisplayState(Run& run, const host::Signal& signal, const char* sHigh, const char* sLow) {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
-  if (iKestrumID <= 0) return true;
+  if (!IsInSystem(iKestrumID)) return true;
   return AddCommandToEvent(run, signal, host::eventHigh,
                            Analog(iKestrumID, sDisplayPowerState, sHigh)) &&
          AddCommandToEvent(run, signal, host::eventLow,
@@ -60,14 +61,14 @@ void AppendUnlockSteps(const PresetPtr& preset) {
   const std::int16_t iReceiverID = settings.get_ReceiverID();
   const std::int16_t iKestrumID = settings.get_KestrumID();
   const auto unlock = [iReceiverID](const PresetPtr& branch) {
-    if (iReceiverID != 0) AppendStep(*branch, Command(iReceiverID, sUnlockCommand));
+    if (IsInSystem(iReceiverID)) AppendStep(*branch, Command(iReceiverID, sUnlockCommand));
     return AddInterfaceEnableSteps(/*bDisable=*/false, branch);
   };
   const auto unlockUnlessMonitoringLocks = [&](const PresetPtr& branch) {
-    if (iKestrumID <= 0) return unlock(branch);
+    if (!IsInSystem(iKestrumID)) return unlock(branch);
     return AppendBranch(*branch, SignalIs(iKestrumID, sKestrumLock, 0), unlock);
   };
-  if (iReceiverID == 0) {
+  if (!IsInSystem(iReceiverID)) {
     static_cast<void>(unlock(preset));
   } else if (settings.get_PowerContactClosureOption() == addin::contactUnused) {
     static_cast<void>(unlockUnlessMonitoringLocks(preset));
@@ -89,7 +90,7 @@ bool BuildCoolingDown(Run& run, std::int16_t iModuleID) {
   ClearEvents(*signal);
   const auto started = EventPreset(*signal, host::eventHigh);
   if (!ReportDisplayState(run, *signal, sCooling, sOff)) return false;
-  if (const std::int16_t iReceiverID = addin::gAddIn().get_ReceiverID(); iReceiverID != 0) {
+  if (const std::int16_t iReceiverID = addin::gAddIn().get_ReceiverID(); IsInSystem(iReceiverID)) {
     AppendStep(*started, Command(iReceiverID, sLockCommand));
   }
   static_cast<void>(AddInterfaceEnableSteps(/*bDisable=*/true, started));

@@ -57,7 +57,7 @@ bool BuildDisplayDeviceSwitchingCommand(Run& run, std::int16_t iStandardCommand)
     return false;
   }
   const std::int16_t iKestrumID = settings.get_KestrumID();
-  if (iKestrumID == 0) return true;
+  if (!IsInSystem(iKestrumID)) return true;
   return AddStep(*preset, 1,
                  Serial(iKestrumID, "Send_Log_Item", GetSourceLogText(iStandardCommand)));
 }

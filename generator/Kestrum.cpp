@@ -50,7 +50,7 @@ constexpr std::array presetTriggers{
 //    Room_Occupied high  Kestrum     Room_Occupied low  Kestrum
 bool BuildKestrumOccupancy(Run& run) {
   const addin::IAddIn& settings = addin::gAddIn();
-  if (settings.get_OccupancySensorID() < 1) return true;
+  if (!IsInSystem(settings.get_OccupancySensorID())) return true;
   const auto signal = FindOutput(settings.get_OccupancySensorID(), sMotionDetected);
   if (!signal) return false;
   EnableEvents(*signal);
@@ -79,9 +79,7 @@ bool SetKestrumOrlenaError(std::int16_t iDeviceID, const std::string& sOutput,
   return true;
 }
 
-bool BuildKestrumErrors() {
-  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
-  if (iKestrumID == 0) return true;
+bool BuildKestrumErrors(std::int16_t iKestrumID) {
   const auto set = [iKestrumID](const ErrorTexts& texts) {
     return SetKestrumOrlenaError(iKestrumID, texts.sOutput, texts.sDetected, texts.sCorrected);
   };
@@ -97,11 +95,10 @@ bool BuildKestrumErrors() {
   return true;
 }
 
-bool BuildKestrumLampHours(Run& run) {
-  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
+bool BuildKestrumLampHours(Run& run, std::int16_t iKestrumID) {
   const auto display =
       addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
-  if (iKestrumID < 1 || !display) return true;
+  if (!display) return true;
   const auto output =
       std::find_if(lampHourOutputs.begin(), lampHourOutputs.end(), [&](const char* sName) {
         return display->HasSignal(sName, host::directionOutput, host::signalAnalog);
@@ -119,9 +116,7 @@ bool BuildKestrumLampHours(Run& run) {
   return true;
 }
 
-bool BuildKestrumPresetTriggers() {
-  const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
-  if (iKestrumID == 0) return true;
+bool BuildKestrumPresetTriggers(std::int16_t iKestrumID) {
   return std::all_of(
       presetTriggers.begin(), presetTriggers.end(), [iKestrumID](const PresetTrigger& trigger) {
         return ConnectEventToGlobalPreset(iKestrumID, trigger.sOutput, host::eventHigh,
@@ -133,14 +128,14 @@ bool BuildKestrumPresetTriggers() {
 
 bool Generate::BuildKestrum() {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
-  if (iKestrumID == 0) return true;
+  if (!IsInSystem(iKestrumID)) return true;
   if (!BuildKestrumOccupancy(m_run)) return false;
   // A failure leaves its text and stops nothing; nor do errors and lamp hours.
   const auto interface = addin::gDocument().get_Devices()->Item(iKestrumID);
   static_cast<void>(SetProperty(m_run, *interface, "System_Off_Warning_Time", "0d"));
-  BuildKestrumErrors();
-  BuildKestrumLampHours(m_run);
-  return BuildKestrumPresetTriggers();
+  BuildKestrumErrors(iKestrumID);
+  BuildKestrumLampHours(m_run, iKestrumID);
+  return BuildKestrumPresetTriggers(iKestrumID);
 }
 
 }  // namespace generator

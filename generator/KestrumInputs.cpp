@@ -2,6 +2,7 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "forms/Numbers.h"
+#include "generator/Devices.h"
 #include "generator/Events.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
@@ -33,13 +34,14 @@ bool BuildKestrumDigitalInputs(std::int16_t iInput) {
 
 bool Generate::BuildKestrumInputs() {
   const addin::IAddIn& settings = addin::gAddIn();
-  if (settings.get_KestrumID() < 1) return true;
-  if (settings.get_OccupancySensorID() == 0 && !BuildKestrumDigitalInputs(addin::iOccupancyInput)) {
+  if (!IsInSystem(settings.get_KestrumID())) return true;
+  if (!IsInSystem(settings.get_OccupancySensorID()) &&
+      !BuildKestrumDigitalInputs(addin::iOccupancyInput)) {
     return false;
   }
   if (!BuildKestrumDigitalInputs(addin::iContactInput)) return false;
   if (!BuildKestrumDigitalInputs(addin::iMuteInput)) return false;
-  if (settings.GetDigitalInputID(addin::iPowerSensorInput) == 0) return true;
+  if (!IsInSystem(settings.GetDigitalInputID(addin::iPowerSensorInput))) return true;
   return BuildKestrumDigitalInputs(addin::iPowerSensorInput);
 }
 

@@ -56,7 +56,7 @@ bool SetPowerLockoutCommands(const host::Device& module, const std::string& sOnC
   const std::int16_t iDisplayID = addin::gAddIn().get_DisplayDeviceID();
   const auto display = addin::gDocument().get_Devices()->ItemByID(iDisplayID);
   const auto sensing = display ? FindModule(*display, sSensingModule) : nullptr;
-  const std::int16_t iSensorID = sensing ? sensing->get_ID() : std::int16_t{0};
+  const std::int16_t iSensorID = sensing ? sensing->get_ID() : addin::iNoDevice;
   const auto target = [&](const std::string& sCommand, std::int16_t iStandardCommand) {
     if (!sCommand.empty()) return PowerTarget{iSensorID, sCommand};
     return PowerTarget{iDisplayID, GetDeviceCommandName(iDisplayID, iStandardCommand)};

@@ -15,7 +15,7 @@ namespace {
 //    call System Power Off
 //    Room_Occupied low      Kestrum, written before
 bool BuildNoMotionTimeout(std::int16_t iSensorID) {
-  const bool bMonitored = addin::gAddIn().get_KestrumID() >= 1;
+  const bool bMonitored = IsInSystem(addin::gAddIn().get_KestrumID());
   return ConnectEventToGlobalPreset(iSensorID, sMotionDetected, host::eventLow,
                                     GetSystemPowerPreset(addin::pdOff).sName,
                                     /*bClear=*/!bMonitored);
@@ -28,7 +28,7 @@ bool Generate::BuildMotionSensor() {
   const addin::IAddIn& settings = addin::gAddIn();
   const std::int16_t iSensorID = settings.get_OccupancySensorID();
   const std::int16_t iSeconds = settings.get_MotionSensorTimeout();
-  if (iSensorID <= 0 || iSeconds <= 0) return true;
+  if (!IsInSystem(iSensorID) || iSeconds <= 0) return true;
   const auto sensor = addin::gDocument().get_Devices()->Item(iSensorID);
   return SetProperty(m_run, *sensor, "Timeout", forms::decimal(iSeconds)) &&
          BuildNoMotionTimeout(iSensorID);

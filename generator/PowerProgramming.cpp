@@ -25,7 +25,7 @@ bool AddAuxiliaryPulseStep(Run& run, std::int16_t iAuxiliaryDevice, std::int16_t
   const std::int16_t iDeviceID = iAuxiliaryDevice == addin::adtScreen
                                      ? settings.get_ScreenDeviceID()
                                      : settings.get_LiftDeviceID();
-  if (iDeviceID <= 0) return true;
+  if (!IsInSystem(iDeviceID)) return true;
   const auto preset = FindSequence(run, GetSystemPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   const std::string sCommand = GetAuxiliaryCommandName(iDeviceID, ePowerOnOrOff);
@@ -57,7 +57,7 @@ bool BuildReceiverPowerEvents(Run& run) {
 
 bool AddReceiverPowerStep(Run& run, std::int16_t ePowerOnOrOff) {
   const std::int16_t iReceiverID = addin::gAddIn().get_ReceiverID();
-  if (iReceiverID <= 0) return true;
+  if (!IsInSystem(iReceiverID)) return true;
   const auto preset = FindSequence(run, GetSystemPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   AppendStep(*preset, Command(iReceiverID, GetReceiverPowerCommand(ePowerOnOrOff)));
@@ -68,7 +68,7 @@ bool BuildReceiverPowerOff(Run& run) { return AddReceiverPowerStep(run, addin::p
 
 bool AddKestrumPowerFeedbackStep(Run& run, std::int16_t ePowerOnOrOff) {
   const std::int16_t iKestrumID = addin::gAddIn().get_KestrumID();
-  if (iKestrumID <= 0) return true;
+  if (!IsInSystem(iKestrumID)) return true;
   const auto preset = FindSequence(run, GetSystemPowerPreset(ePowerOnOrOff).sName);
   if (!preset) return false;
   AppendStep(*preset, Command(iKestrumID, GetKestrumPowerSignal(ePowerOnOrOff)));

@@ -35,10 +35,12 @@ std::int16_t AddPowerSensingModule(Run& run, DevicePtr& device) {
   auto module = FindModule(*device, sSensingModule);
   if (!module) {
     const host::ModuleList colModules = ModulesFromLibrary(sSensingModule, device->get_ID());
-    if (addin::gDocument().get_Devices()->AddModules(colModules, device) == 0) return 0;
+    if (addin::gDocument().get_Devices()->AddModules(colModules, device) == 0) {
+      return addin::iNoDevice;
+    }
     module = FindModule(*device, sSensingModule);
   }
-  if (!module) return 0;
+  if (!module) return addin::iNoDevice;
   module->put_ShowInTree(false);
   module->put_SensorHandle(run.GetPowerSensorHandle());
   module->put_SensorFormat(sSensorFormat);

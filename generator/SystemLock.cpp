@@ -1,5 +1,6 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
+#include "generator/Devices.h"
 #include "generator/Generate.h"
 #include "generator/Names.h"
 #include "generator/Presets.h"
@@ -53,11 +54,11 @@ bool BuildLockPreset(Run& run, const LockNames& names) {
   const addin::IAddIn& settings = addin::gAddIn();
   preset->ClearSteps();
   if (preset->get_Comment().empty()) preset->put_Comment(names.sComment);
-  if (settings.get_ReceiverID() != 0) {
+  if (IsInSystem(settings.get_ReceiverID())) {
     AppendStep(*preset, Command(settings.get_ReceiverID(), names.sReceiverCommand));
   }
   static_cast<void>(AddInterfaceEnableSteps(names.bDisablePanels, preset));
-  if (settings.get_KestrumID() > 0) {
+  if (IsInSystem(settings.get_KestrumID())) {
     AppendStep(*preset, Level(settings.get_KestrumID(), names.sKestrumSignal, names.sKestrumLevel));
   }
   return true;

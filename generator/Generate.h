@@ -13,8 +13,7 @@ namespace generator {
 /// empties first, so that a run can be repeated; it never creates a named preset.
 ///
 /// One object for each run. An operation answers whether it succeeded; a failure may leave its text
-/// in GetLastError, where it stays for the rest of the run. Power operations take one of
-/// addin::enumPowerDiscrete.
+/// in GetLastError, where it stays for the rest of the run.
 class Generate : public addin::ProgramBuilder {
  public:
   /// Runs the ten parts in their order; the first that fails ends the run.

@@ -18,10 +18,6 @@ class PowerProgrammingTest : public testing::Test {
   forms::Application application{desktop, "\\program"};
 };
 
-std::string joined(const std::string& one, const std::string& other) {
-  return one + (one.empty() || other.empty() ? "" : "; ") + other;
-}
-
 TEST_F(PowerProgrammingTest, secondPowerOffNeedsFlagCommandAndTime) {
   struct Case {
     std::int16_t flag;
@@ -40,33 +36,6 @@ TEST_F(PowerProgrammingTest, secondPowerOffNeedsFlagCommandAndTime) {
     room.addIn().put_iSecondPowerOff(c.seconds);
     EXPECT_TRUE(room.build());
     EXPECT_EQ(room.at("Display Power Off"), "Display Device.Power_Off~10" + c.added);
-  }
-}
-
-TEST_F(PowerProgrammingTest, screenAndLiftMoveInTheSystemPresetsForTheirPulseTimes) {
-  constexpr std::int16_t taut = 2004, gravityScreen = 2005, lift = 2301, keyLift = 2305;
-  struct Case {
-    std::string name;
-    std::int16_t screen, lift;
-    bool kestrum;
-    std::string on, off;
-  };
-  const std::vector<Case> cases{
-      {"both and monitoring", taut, lift, true,
-       "Screen.Lower~150; Lift.Down~1000; Kestrum Interface.System_Powered_On",
-       "Screen.Raise~25; Lift.Up~0; Receiver.Power_Off; Kestrum Interface.System_Powered_Off"},
-      {"screen that only goes down", gravityScreen, 0, false, "Screen.Release~150",
-       "Receiver.Power_Off"},
-      {"lift that only goes up", 0, keyLift, false, "", "Lift.Retract~0; Receiver.Power_Off"},
-  };
-  for (const Case& c : cases) {
-    Room room;
-    if (c.screen != 0) room.givenScreen(c.screen, 1.5F, 0.25F);
-    if (c.lift != 0) room.givenLift(c.lift, 10, 0);
-    if (c.kestrum) room.addIn().AddKestrum();
-    EXPECT_TRUE(room.build()) << c.name;
-    EXPECT_EQ(room.at("System Power On"), joined("call Display Power On", c.on)) << c.name;
-    EXPECT_EQ(room.at("System Power Off"), joined("call Display Power Off", c.off)) << c.name;
   }
 }
 

@@ -18,55 +18,6 @@ class ProgramTest : public testing::Test {
   forms::Application application{desktop, "\\program"};
 };
 
-TEST_F(ProgramTest, panelsWithoutAProjectAreDisabledWhileTheRoomIsNotReady) {
-  Room room;
-  room.givenPanel();
-  room.givenDisplay(host::powerDiscrete);
-  room.addIn().put_PowerOnLockoutTime(30);
-  room.addIn().put_PowerContactClosureOption(addin::contactContinue);
-  room.addIn().AddKestrum();
-  room.addIn().AddFenlet();  // a project panel, which has no such step
-  ASSERT_TRUE(room.build()) << room.builder().GetLastError();
-  const std::string panel = room.document().get_Touchpanels()->Items().front()->get_Name();
-  const std::string off = panel + ".Enabled~-2", on = panel + ".Enabled~-1";
-  const std::string state = "Kestrum Interface.Display_Power_State=";
-  EXPECT_EQ(room.at("PWRTIMEOUT.Warming_Up 0"), state + "2d; " + off);
-  EXPECT_TRUE(room.at("PWRTIMEOUT.Warming_Up 1").ends_with("}; " + on));
-  EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 0"), state + "3d; Receiver.Lock; " + off);
-  EXPECT_EQ(room.at("PWRTIMEOUT.Cooling_Down 1"),
-            state +
-                "0d; if Digital Input 2.dig_input_1 Is Closed=1 { "
-                "if Kestrum Interface.System_Lock=0 { Receiver.Unlock; " +
-                on + " } }");
-  EXPECT_EQ(room.at("System Lock"),
-            "Receiver.Lock; " + off + "; Kestrum Interface.System_Locked~-1");
-  EXPECT_EQ(room.at("System Unlock"),
-            "Receiver.Unlock; " + on + "; Kestrum Interface.System_Unlocked~-2");
-}
-
-TEST_F(ProgramTest, eachInputReportsItsErrorsOnTheReceiverWithThreeInputs) {
-  Room room;
-  room.addIn().AddKestrum();
-  for (const std::int16_t model :
-       {host::modelReceiverOneInput, host::modelReceiverThreeInputs, host::modelReceiverOneInput}) {
-    std::string message;
-    room.document().ChangeControlSystem(model, "", 0, message);
-    ASSERT_TRUE(room.build());
-    EXPECT_TRUE(room.errors().empty()) << model;
-    for (const std::string input : {"Input1", "Input2", "Input3"}) {
-      const auto text = [&](const std::string& severity, const std::string& what) {
-        return model == host::modelReceiverOneInput
-                   ? ""
-                   : "Kestrum Interface.Set_Error_Message_Severity=" + severity +
-                         "; Kestrum Interface.Send_Error_Message=\"" + input + " Error " + what +
-                         "\"";
-      };
-      EXPECT_EQ(room.at("Receiver." + input + "_Error 0"), text("3", "Detected")) << model;
-      EXPECT_EQ(room.at("Receiver." + input + "_Error 1"), text("0", "Corrected")) << model;
-    }
-  }
-}
-
 TEST_F(ProgramTest, lampHoursComeFromTheFirstOutputThatTheDisplayHas) {
   struct Case {
     std::int16_t display;
@@ -99,22 +50,6 @@ TEST_F(ProgramTest, sourceWhoseCommandTheDisplayLacksIsNeitherSentNorLogged) {
   EXPECT_EQ(room.builder().GetLastError(), "Cannot find command Dance on device Display Device");
   EXPECT_EQ(room.at("Receiver.RGB_Selected 0"), "");
   EXPECT_EQ(room.errors().size(), 1U) << "the branch in Display Power On names it all the same";
-}
-
-TEST_F(ProgramTest, audioAnswersBecomePropertiesAndMutingStaysOnTheInput) {
-  Room room;
-  room.addIn().put_VolumeKnobControl(true);
-  room.addIn().put_bMuteOnDigInp3(1);
-  ASSERT_TRUE(room.build());
-  EXPECT_EQ(room.at("Receiver is Volume Knob Control"), "1d");
-  EXPECT_EQ(room.at("Receiver is Mic Mode Control"), "0d");
-  EXPECT_EQ(room.at("Digital Input 3.dig_input_1 0"), "Receiver.Volume_Mute_On");
-  EXPECT_EQ(room.at("Digital Input 3.dig_input_1 1"), "Receiver.Volume_Mute_Off");
-  room.addIn().put_VolumeKnobControl(false);
-  room.addIn().put_bMuteOnDigInp3(0);
-  ASSERT_TRUE(room.build());
-  EXPECT_EQ(room.at("Receiver is Volume Knob Control"), "0d");
-  EXPECT_EQ(room.at("Digital Input 3.dig_input_1 0"), "Receiver.Volume_Mute_On");
 }
 
 TEST_F(ProgramTest, presetsKeepTheCommentsOfAUser) {

@@ -1,5 +1,6 @@
 #include "steps/TabDisplay.h"
 
+#include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -16,6 +17,7 @@ namespace {
 using addin::gAddIn;
 using addin::gDocument;
 using addin::gOwnerForm;
+using addin::IsInSystem;
 
 constexpr std::int16_t iRowOn = 0;  // the rows of the relay's delays
 constexpr std::int16_t iRowOff = 1;
@@ -79,8 +81,8 @@ bool TabDisplay::SetData() {
   ctlCommands(0).SetImages(images);
   ctlCommands(1).SetImages(images);
   RefreshDeviceInfo();
-  const bool bDevice = gAddIn().get_DisplayDeviceID() != 0;
-  SetPowerRelayControls(bDevice && gAddIn().get_PowerRelayID() >= 1);
+  const bool bDevice = IsInSystem(gAddIn().get_DisplayDeviceID());
+  SetPowerRelayControls(bDevice && IsInSystem(gAddIn().get_PowerRelayID()));
   ShowDeviceControls(bDevice);
   ShowInfoFrame(!bDevice);
   return false;
@@ -151,7 +153,7 @@ void TabDisplay::cmdChoose_Click() {
   arguments.iParentID = gDocument().get_ControlSystem()->get_ID();
   arguments.lDialogContext = gDocument().get_Reports()->get_DialogContext();
   arguments.iDeviceID = gAddIn().get_DisplayDeviceID();
-  arguments.strName = "Display Device";
+  arguments.strName = addin::strDisplayDevice;
   arguments.strTitle = "Select a Display Device";
   arguments.iNumber7 = 4;
   arguments.bFlag10 = true;
@@ -196,7 +198,7 @@ void TabDisplay::chkPowerRelay_Click() {
     return;
   }
   gAddIn().AddPowerRelay();
-  if (gAddIn().get_PowerRelayID() == 0) {
+  if (!IsInSystem(gAddIn().get_PowerRelayID())) {
     const forms::Guard loading(m_bLoading);
     chkPowerRelay.setChecked(false);
     return;

@@ -1,5 +1,6 @@
 #include "steps/TabDisplayOptions.h"
 
+#include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -13,6 +14,7 @@ namespace {
 
 using addin::gAddIn;
 using addin::gDocument;
+using addin::IsInSystem;
 
 constexpr std::int16_t iScreen = 0;
 constexpr std::int16_t iLift = 1;
@@ -122,7 +124,7 @@ void TabDisplayOptions::SetPageData(std::int16_t Index) {
                                                  : gAddIn().HasLiftControl());
   // The click of the box, where it changes, shows or hides the button.
   const std::int16_t iDeviceID = get_DeviceID(Index);
-  const bool bDevice = iDeviceID >= 1;
+  const bool bDevice = IsInSystem(iDeviceID);
   chkInclude(Index).setChecked(bDevice);
   ShowDeviceFields(Index, bDevice);
   if (bDevice) {
@@ -167,7 +169,7 @@ void TabDisplayOptions::ShowDeviceLabels(std::int16_t Index, std::int16_t iDevic
 }
 
 void TabDisplayOptions::LoadDeviceCommands(std::int16_t Index) {
-  if (get_DeviceID(Index) <= 0) return;
+  if (!IsInSystem(get_DeviceID(Index))) return;
   const auto oDevice = FindDevice(get_DeviceID(Index));
   if (!oDevice) return;
   LoadStandardCommand(rowOn.ctlPower(Index), *oDevice);
@@ -177,7 +179,7 @@ void TabDisplayOptions::LoadDeviceCommands(std::int16_t Index) {
 void TabDisplayOptions::chkInclude_Click(std::int16_t Index) {
   const bool bIncluded = chkInclude(Index).isChecked();
   cmdChoose(Index).setVisible(bIncluded);
-  ShowDeviceFields(Index, bIncluded && get_DeviceID(Index) >= 1);
+  ShowDeviceFields(Index, bIncluded && IsInSystem(get_DeviceID(Index)));
   if (bIncluded) return;
   frameInfo.at(static_cast<std::size_t>(Index)).Show(false);
   RemoveAuxiliaryDevice(Index);
@@ -186,7 +188,7 @@ void TabDisplayOptions::chkInclude_Click(std::int16_t Index) {
 /// A removal that fails is told to nobody, and the page has no device then all the same. The pulse
 /// times stay until the step is left.
 void TabDisplayOptions::RemoveAuxiliaryDevice(std::int16_t Index) {
-  if (get_DeviceID(Index) < 1) return;
+  if (!IsInSystem(get_DeviceID(Index))) return;
   static_cast<void>(gDocument().RemoveDevice(get_DeviceID(Index), host::removalOfDevice));
   put_DeviceID(Index, 0);
 }

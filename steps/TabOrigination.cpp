@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -17,6 +18,7 @@ namespace {
 
 using addin::gAddIn;
 using addin::gDocument;
+using addin::IsInSystem;
 
 constexpr std::int32_t lPorts = 3;
 constexpr std::int32_t lLabelColumn = 0;
@@ -282,7 +284,7 @@ void TabOrigination::SaveOriginationPoints() {
 void TabOrigination::SavePort(std::int16_t iPort) const {
   const std::int32_t lRow = iPort - 1;
   if (lRow >= lvwTransmitters.rowCount()) {
-    if (gAddIn().get_OriginationPointID(iPort) != 0) gAddIn().RemoveOriginationPoint(iPort);
+    if (IsInSystem(gAddIn().get_OriginationPointID(iPort))) gAddIn().RemoveOriginationPoint(iPort);
     return;
   }
   const std::string& strType = lvwTransmitters.text(lRow, lTypeColumn);

@@ -1,5 +1,6 @@
 #include "steps/TabPower.h"
 
+#include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "forms/Guard.h"
@@ -13,6 +14,7 @@ namespace {
 
 using addin::gAddIn;
 using addin::gDocument;
+using addin::IsInSystem;
 using host::powerDiscrete;
 using host::powerNone;
 using host::powerSensing;
@@ -114,7 +116,7 @@ void TabPower::iTab_TabClicked() {
 
 void TabPower::UpdatePowerSensing() {
   const auto oDevice = FindDisplay();
-  if (!oDevice || oDevice->get_ID() < 1) return;
+  if (!oDevice || !IsInSystem(oDevice->get_ID())) return;
   const bool bToggles = oDevice->GetCommandList(host::directionInput, host::signalDigital)
                             ->Exists(host::commandPowerToggle);
   lblPower(powerSensing).setCaption(bToggles ? strSensingText : strNoSensingText);
@@ -212,7 +214,7 @@ void TabPower::WarnOfCommands(std::int16_t Index) const {
 
 void TabPower::StoreCommand(std::int16_t Index) {
   const auto oDevice = FindDisplay();
-  if (!oDevice || oDevice->get_ID() < 1) return;
+  if (!oDevice || !IsInSystem(oDevice->get_ID())) return;
   bool bChanged = false;
   oDevice->SetCommandName(forms::decimal(gAddIn().GetStandardCommandIDForPowerControl(Index)),
                           ctlCommands(Index).get_SelectedCommand(), bChanged);
@@ -222,7 +224,9 @@ void TabPower::StoreCommand(std::int16_t Index) {
 void TabPower::optPower_Click(std::int16_t Index) {
   ShowPowerCommands();
   const auto oDevice = FindDisplay();
-  if (!oDevice || oDevice->get_ID() < 1 || oDevice->get_PowerControlType() == Index) return;
+  if (!oDevice || !IsInSystem(oDevice->get_ID()) || oDevice->get_PowerControlType() == Index) {
+    return;
+  }
   oDevice->put_PowerControlType(Index);
   gDocument().MarkChanged();
 }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "common/CommonFunctions.h"
@@ -17,6 +18,7 @@ namespace {
 using addin::gAddIn;
 using addin::gDocument;
 using addin::gOwnerForm;
+using addin::IsInSystem;
 
 constexpr std::int16_t iKestrum = 0;  // the indexes of the inclusions
 constexpr std::int16_t iFenlet = 1;
@@ -92,14 +94,14 @@ bool TabRoomOptions::SetData() {
 }
 
 void TabRoomOptions::SetKestrumData() {
-  const bool bIncluded = gAddIn().get_KestrumID() > 0;
+  const bool bIncluded = IsInSystem(gAddIn().get_KestrumID());
   chkInclude(iKestrum).setChecked(bIncluded);
   cmdAdvanced.setEnabled(bIncluded);
   ShowIPID();
 }
 
 void TabRoomOptions::SetOccupancyData() {
-  const bool bIncluded = gAddIn().get_OccupancySensorID() >= 1;
+  const bool bIncluded = IsInSystem(gAddIn().get_OccupancySensorID());
   const bool bTimeout = bIncluded && gAddIn().get_MotionSensorTimeout() >= 1;
   chkOccupancy.setChecked(bIncluded);
   ShowPort();
@@ -110,7 +112,7 @@ void TabRoomOptions::SetOccupancyData() {
 }
 
 void TabRoomOptions::SetFenletData() {
-  const bool bIncluded = gAddIn().get_FenletID() >= 1;
+  const bool bIncluded = IsInSystem(gAddIn().get_FenletID());
   chkInclude(iFenlet).setChecked(bIncluded);
   chkEnablePwd.setEnabled(bIncluded);
   const bool bPassword = !gAddIn().get_FenletPassword().empty();
@@ -122,15 +124,17 @@ void TabRoomOptions::SetFenletData() {
 /// Empty also after an interface that could not be added.
 void TabRoomOptions::ShowIPID() {
   const std::int16_t iDeviceID = gAddIn().get_KestrumID();
-  lblIPID.setCaption(iDeviceID > 0 ? "IP-ID: " + gOwnerForm().GetDeviceIPID(HandleOf(iDeviceID))
-                                   : std::string());
+  lblIPID.setCaption(IsInSystem(iDeviceID)
+                         ? "IP-ID: " + gOwnerForm().GetDeviceIPID(HandleOf(iDeviceID))
+                         : std::string());
 }
 
 /// Empty also after a sensor that could not be added.
 void TabRoomOptions::ShowPort() {
   const std::int16_t iDeviceID = gAddIn().get_OccupancySensorID();
-  lblPort.setCaption(iDeviceID >= 1 ? "Port: " + gOwnerForm().GetDevicePort(HandleOf(iDeviceID))
-                                    : std::string());
+  lblPort.setCaption(IsInSystem(iDeviceID)
+                         ? "Port: " + gOwnerForm().GetDevicePort(HandleOf(iDeviceID))
+                         : std::string());
 }
 
 void TabRoomOptions::EnablePassword(bool bEnabled) {
@@ -165,11 +169,11 @@ void TabRoomOptions::IncludeKestrum(bool bInclude) {
   cmdAdvanced.setEnabled(bInclude);
   if (bInclude) {
     gAddIn().AddKestrum();
-    if (m_strTakenTimeout && gAddIn().get_KestrumID() > 0) chkOccupancy.setChecked(true);
+    if (m_strTakenTimeout && IsInSystem(gAddIn().get_KestrumID())) chkOccupancy.setChecked(true);
   } else {
-    const bool bSensor = gAddIn().get_OccupancySensorID() >= 1;
+    const bool bSensor = IsInSystem(gAddIn().get_OccupancySensorID());
     gAddIn().RemoveKestrum();
-    if (bSensor && gAddIn().get_OccupancySensorID() == 0) ShowSensorTakenAlong();
+    if (bSensor && !IsInSystem(gAddIn().get_OccupancySensorID())) ShowSensorTakenAlong();
   }
   ShowIPID();
 }

@@ -23,6 +23,10 @@ auto FindByShortName(const Modules& modules, const std::string& sShortName) {
 
 }  // namespace
 
+DevicePtr FindDisplay() {
+  return addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+}
+
 std::string GetDeviceCommandName(std::int16_t iDeviceID, std::int16_t iStandardCommand) {
   const auto device = addin::gDocument().get_Devices()->ItemByID(iDeviceID);
   return device ? device->GetCommandName(forms::decimal(iStandardCommand)) : "";

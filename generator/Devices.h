@@ -17,6 +17,9 @@ using addin::IsInSystem;
 
 using DevicePtr = std::shared_ptr<host::Device>;
 
+/// Nothing in a room without a display.
+DevicePtr FindDisplay();
+
 // Commands by the standard id of the driver; empty when there is no such device or command.
 std::string GetDeviceCommandName(std::int16_t iDeviceID, std::int16_t iStandardCommand);
 std::string GetSourceCommandName(std::int16_t iStandardCommand);

@@ -104,8 +104,7 @@ bool BuildLinkSystemToDisplayPower(Run& run, std::int16_t ePowerOnOrOff) {
 
 bool BuildDisplayPowerControl(Run& run, std::int16_t ePowerOnOrOff) {
   addin::IAddIn& settings = addin::gAddIn();
-  const std::int16_t iDisplayID = settings.get_DisplayDeviceID();
-  const auto display = addin::gDocument().get_Devices()->ItemByID(iDisplayID);
+  const auto display = FindDisplay();
   if (!display) return BuildLinkSystemToDisplayPower(run, ePowerOnOrOff);
 
   bool bOK = true;
@@ -117,7 +116,7 @@ bool BuildDisplayPowerControl(Run& run, std::int16_t ePowerOnOrOff) {
       break;
     case host::powerDiscrete:
       RemovePowerSensorPart();
-      bOK = AddDiscretePowerSteps(run, ePowerOnOrOff, iDisplayID);
+      bOK = AddDiscretePowerSteps(run, ePowerOnOrOff, display->get_ID());
       break;
     default:
       RemovePowerSensorPart();

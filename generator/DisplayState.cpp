@@ -101,7 +101,7 @@ bool BuildCoolingDown(Run& run, std::int16_t iModuleID) {
 }  // namespace
 
 bool Generate::BuildDisplayStateProgramming() {
-  auto display = addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+  auto display = FindDisplay();
   if (!display || !NeedsLockout(*display)) return true;
   const auto module = GetPowerLockoutModule(m_run, display);
   if (!module) return false;

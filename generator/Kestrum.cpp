@@ -96,8 +96,7 @@ bool BuildKestrumErrors(std::int16_t iKestrumID) {
 }
 
 bool BuildKestrumLampHours(Run& run, std::int16_t iKestrumID) {
-  const auto display =
-      addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+  const auto display = FindDisplay();
   if (!display) return true;
   const auto output =
       std::find_if(lampHourOutputs.begin(), lampHourOutputs.end(), [&](const char* sName) {

@@ -54,7 +54,7 @@ bool SetPowerLockoutCommands(const host::Device& module, const std::string& sOnC
   const auto slots = module.get_CommandSlots();
   if (slots.empty()) return false;
   const std::int16_t iDisplayID = addin::gAddIn().get_DisplayDeviceID();
-  const auto display = addin::gDocument().get_Devices()->ItemByID(iDisplayID);
+  const auto display = FindDisplay();
   const auto sensing = display ? FindModule(*display, sSensingModule) : nullptr;
   const std::int16_t iSensorID = sensing ? sensing->get_ID() : addin::iNoDevice;
   const auto target = [&](const std::string& sCommand, std::int16_t iStandardCommand) {
@@ -90,7 +90,7 @@ DevicePtr GetPowerLockoutModule(Run& run, DevicePtr& display) {
 //    Warm Up Time, Cool Down Time    the two lockout times in seconds
 //    slots Power_On, Power_Off       the sensing module's commands, or the display's own
 bool Generate::BuildPowerOnOffLockout() {
-  auto display = addin::gDocument().get_Devices()->ItemByID(addin::gAddIn().get_DisplayDeviceID());
+  auto display = FindDisplay();
   if (!display || !NeedsLockout(*display)) return true;
   const auto module = GetPowerLockoutModule(m_run, display);
   if (!module) return false;

@@ -3,7 +3,6 @@
 #include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
-#include "common/CommonFunctions.h"
 #include "common/modHTMLHelp.h"
 #include "forms/Guard.h"
 #include "forms/Numbers.h"
@@ -33,10 +32,27 @@ TabDisplay::TabDisplay(forms::Container& container, std::string strName)
   lblDisplayHelp.setLink(true);
   SetStandardID(ctlCommands(0), host::scRGB1);
   SetStandardID(ctlCommands(1), host::scVideo1);
-  txtDelay.each([](std::int16_t, forms::TextBox& box) { box.setMaxLength(lDelayLength); });
-
+  HoldDelays();
   ConnectEvents();
   LayOut();
+}
+
+void TabDisplay::HoldDelays() {
+  txtDelay.each([](std::int16_t, NumberBox& box) { box.setMaxLength(lDelayLength); });
+  txtDelay(iRowOn).Hold({
+      .Get = [] { return gAddIn().get_PowerRelayOnDelay(); },
+      .Put = [](float sng) { gAddIn().put_PowerRelayOnDelay(forms::toInt16(sng)); },
+      .range = {{.strLabel = "The time value for the power relay power on delay",
+                 .iMax = lLongestDelay,
+                 .pSaving = &m_bSaving}},
+  });
+  txtDelay(iRowOff).Hold({
+      .Get = [] { return gAddIn().get_PowerRelayOffDelay(); },
+      .Put = [](float sng) { gAddIn().put_PowerRelayOffDelay(forms::toInt16(sng)); },
+      .range = {{.strLabel = "The time value for the power relay power off delay",
+                 .iMax = lLongestDelay,
+                 .pSaving = &m_bSaving}},
+  });
 }
 
 void TabDisplay::ConnectEvents() {
@@ -46,9 +62,6 @@ void TabDisplay::ConnectEvents() {
   lblDisplayHelp.click.connect([this] { lblDisplayHelp_Click(); });
   ctlCommands.each([this](std::int16_t Index, host::DeviceCommands& ctlSelector) {
     ctlSelector.CommandChanged.connect([this, Index] { ctlCommands_CommandChanged(Index); });
-  });
-  txtDelay.each([this](std::int16_t Index, forms::TextBox& box) {
-    box.validate.connect([this, Index](bool& Cancel) { txtDelay_Validate(Index, Cancel); });
   });
   offer("SetData", [this] { SetData(); });
   offer("OtherTabClicked", [this] { OtherTabClicked(); });
@@ -184,7 +197,11 @@ void TabDisplay::SetPowerRelayControls(bool bEnabled) {
 
 void TabDisplay::ShowDelayRow(std::int16_t Index, bool bEnabled) {
   lblDelay(Index).setEnabled(bEnabled);
-  txtDelay(Index).setText(bEnabled ? forms::decimal(get_Delay(Index)) : "");
+  if (bEnabled) {
+    txtDelay(Index).ShowStored();
+  } else {
+    txtDelay(Index).setText("");
+  }
   txtDelay(Index).setEnabled(bEnabled);
   lblDelaySeconds(Index).setEnabled(bEnabled);
 }
@@ -205,34 +222,6 @@ void TabDisplay::chkPowerRelay_Click() {
   }
   ShowDelayRow(iRowOn, true);
   ShowDelayRow(iRowOff, true);
-}
-
-void TabDisplay::txtDelay_Validate(std::int16_t Index, bool& Cancel) {
-  common::ValueRange range;
-  range.sLabel = std::string("The time value for the power relay power ") +
-                 (Index == iRowOn ? "on" : "off") + " delay";
-  range.iMax = lLongestDelay;
-  range.bReset = activeControl() != &txtDelay(Index) || m_bSaving;
-  txtDelay(Index).setText(common::CheckValueRange(txtDelay(Index).text(), range, Cancel));
-  if (Cancel) return;
-  const std::int16_t iSeconds = forms::toInt16(forms::leadingNumber(txtDelay(Index).text()));
-  if (iSeconds != get_Delay(Index)) {
-    put_Delay(Index, iSeconds);
-    gDocument().MarkChanged();
-  }
-  txtDelay(Index).setText(forms::decimal(get_Delay(Index)));
-}
-
-std::int16_t TabDisplay::get_Delay(std::int16_t Index) const {
-  return Index == iRowOn ? gAddIn().get_PowerRelayOnDelay() : gAddIn().get_PowerRelayOffDelay();
-}
-
-void TabDisplay::put_Delay(std::int16_t Index, std::int16_t iSeconds) {
-  if (Index == iRowOn) {
-    gAddIn().put_PowerRelayOnDelay(iSeconds);
-  } else {
-    gAddIn().put_PowerRelayOffDelay(iSeconds);
-  }
 }
 
 void TabDisplay::lblDisplayHelp_Click() {

@@ -9,10 +9,10 @@
 #include "forms/ControlArray.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
 #include "host/ctlImage.h"
 #include "steps/HintFrame.h"
+#include "steps/NumberBox.h"
 #include "steps/WizardStep.h"
 
 namespace steps {
@@ -38,8 +38,8 @@ class TabDisplay : public WizardStep {
   void chkPowerRelay_Click();
   void lblDisplayHelp_Click();
   void ctlCommands_CommandChanged(std::int16_t Index);
-  void txtDelay_Validate(std::int16_t Index, bool& Cancel);
 
+  void HoldDelays();
   void ConnectEvents();
   void SetTabStops(bool bValue);
   void RefreshDeviceInfo();
@@ -50,8 +50,6 @@ class TabDisplay : public WizardStep {
   void ShowDeviceProperties(std::int16_t iDeviceID);
   void SetPowerRelayControls(bool bEnabled);
   void ShowDelayRow(std::int16_t Index, bool bEnabled);
-  std::int16_t get_Delay(std::int16_t Index) const;
-  void put_Delay(std::int16_t Index, std::int16_t iSeconds);
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " Display Device"};
@@ -78,12 +76,11 @@ class TabDisplay : public WizardStep {
       "lblDelay",
       {{0, *this, "Delay between Relay Closure and Display Power On:"},
        {1, *this, "Delay between Display Power Off and Relay Release:"}}};
-  forms::ControlArray<forms::TextBox> txtDelay{"txtDelay", {{0, *this}, {1, *this}}};
+  forms::ControlArray<NumberBox> txtDelay{"txtDelay", {{0, *this}, {1, *this}}};
   forms::ControlArray<forms::Label> lblDelaySeconds{"lblDelaySeconds",
                                                     {{0, *this, "seconds"}, {1, *this, "seconds"}}};
 
   bool m_bLoading = false;
-  bool m_bSaving = false;
 };
 
 }  // namespace steps

@@ -3,8 +3,6 @@
 #include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
-#include "common/CommonFunctions.h"
-#include "forms/Numbers.h"
 #include "forms/Rows.h"
 #include "host/Numbers.h"
 #include "steps/StandardCommands.h"
@@ -96,11 +94,14 @@ void TabDisplayOptions::ConnectEvents() {
 void TabDisplayOptions::ConnectRow(const PowerRow& powerRow, std::int16_t Index) {
   powerRow.ctlPower(Index).CommandChanged.connect(
       [this, &powerRow, Index] { CommandChanged(powerRow, Index); });
-  powerRow.txtPulseTime(Index).validate.connect(
-      [this, &powerRow, Index](bool& Cancel) { txtPulseTime_Validate(powerRow, Index, Cancel); });
-  OnEnter(powerRow.txtPulseTime(Index), [this, &powerRow, Index] {
-    bool Cancel = false;  // Enter moves no focus, so there is nothing to refuse
-    txtPulseTime_Validate(powerRow, Index, Cancel);
+  powerRow.txtPulseTime(Index).Hold({
+      .Get = [this, &powerRow, Index] { return get_PulseTime(powerRow, Index); },
+      .Put = [this, &powerRow, Index](float sng) { put_PulseTime(powerRow, Index, sng); },
+      .range = {{.strLabel = std::string("The pulse time value for the ") + PageOf(Index).strField +
+                             (powerRow.bOn ? " On" : " Off") + " command",
+                 .iMax = lLongestPulse,
+                 .pSaving = &m_bSaving}},
+      .bStoredByEnter = true,
   });
 }
 
@@ -134,7 +135,7 @@ void TabDisplayOptions::SetPageData(std::int16_t Index) {
   }
   for (const PowerRow* powerRow : {&rowOn, &rowOff}) {
     powerRow->ctlPower(Index).SetImages(addin::frmImages().get_ImageList());
-    ShowStoredPulseTime(*powerRow, Index);
+    powerRow->txtPulseTime(Index).ShowStored();
   }
   LoadDeviceCommands(Index);
 }
@@ -228,24 +229,6 @@ void TabDisplayOptions::CommandChanged(const PowerRow& powerRow, std::int16_t In
   ShowPulseTime(powerRow, Index, oCommand && oCommand->get_CommandType() == host::commandPulse);
 }
 
-void TabDisplayOptions::txtPulseTime_Validate(const PowerRow& powerRow, std::int16_t Index,
-                                              bool& Cancel) {
-  forms::TextBox& box = powerRow.txtPulseTime(Index);
-  common::ValueRange range;
-  range.sLabel = std::string("The pulse time value for the ") + PageOf(Index).strField +
-                 (powerRow.bOn ? " On" : " Off") + " command";
-  range.iMax = lLongestPulse;
-  range.bReset = activeControl() != &box || m_bSaving;
-  box.setText(common::CheckValueRange(box.text(), range, Cancel));
-  if (Cancel) return;
-  const auto sngSeconds = static_cast<float>(forms::leadingNumber(box.text()));
-  if (sngSeconds != get_PulseTime(powerRow, Index)) {
-    put_PulseTime(powerRow, Index, sngSeconds);
-    gDocument().MarkChanged();
-  }
-  ShowStoredPulseTime(powerRow, Index);
-}
-
 void TabDisplayOptions::OtherTabClicked() {
   validateActiveControl();
   SetTabStops(false);
@@ -294,11 +277,7 @@ void TabDisplayOptions::put_PulseTime(const PowerRow& powerRow, std::int16_t Ind
   } else {
     gAddIn().put_PowerOffPulseTime(Index, sngSeconds);
   }
-  ShowStoredPulseTime(powerRow, Index);
-}
-
-void TabDisplayOptions::ShowStoredPulseTime(const PowerRow& powerRow, std::int16_t Index) {
-  powerRow.txtPulseTime(Index).setText(forms::decimal(get_PulseTime(powerRow, Index)));
+  powerRow.txtPulseTime(Index).ShowStored();
 }
 
 /// The pages stand side by side, each as wide as the other.

@@ -8,10 +8,10 @@
 #include "forms/ControlArray.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
-#include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
 #include "host/ctlImage.h"
 #include "steps/HintFrame.h"
+#include "steps/NumberBox.h"
 #include "steps/WizardStep.h"
 
 namespace steps {
@@ -45,14 +45,13 @@ class TabDisplayOptions : public WizardStep {
     forms::ControlArray<forms::Label> lblCommand;
     forms::ControlArray<host::DeviceCommands> ctlPower;
     forms::ControlArray<forms::Label> lblFor;
-    forms::ControlArray<forms::TextBox> txtPulseTime;
+    forms::ControlArray<NumberBox> txtPulseTime;
     forms::ControlArray<forms::Label> lblSeconds;
   };
 
   void chkInclude_Click(std::int16_t Index);
   void cmdChoose_Click(std::int16_t Index);
   void CommandChanged(const PowerRow& powerRow, std::int16_t Index);
-  void txtPulseTime_Validate(const PowerRow& powerRow, std::int16_t Index, bool& Cancel);
 
   void ConnectEvents();
   void ConnectRow(const PowerRow& powerRow, std::int16_t Index);
@@ -70,7 +69,6 @@ class TabDisplayOptions : public WizardStep {
   /// The box shows the setting.
   void put_PulseTime(const PowerRow& powerRow, std::int16_t Index, float sngSeconds);
   void GiveUpHiddenPulseTimes();
-  void ShowStoredPulseTime(const PowerRow& powerRow, std::int16_t Index);
   void LayOut();
   forms::Piece PlacePage(std::int16_t Index);
   static forms::Piece PlaceRow(const PowerRow& powerRow, std::int16_t Index);
@@ -101,8 +99,6 @@ class TabDisplayOptions : public WizardStep {
                                                {.strSign = "ctlInfoImage", .strIndex = "(0)"}),
                                      HintFrame(frameDevice(1), HintToChoose("Lift"),
                                                {.strSign = "ctlInfoImage", .strIndex = "(1)"})};
-
-  bool m_bSaving = false;
 };
 
 }  // namespace steps

@@ -49,6 +49,11 @@ TabPower::TabPower(forms::Container& container, std::string strName)
   fraAll.setBorder(false);
   lblDiagram.setLink(true);
   txtSecondOff.setMaxLength(lDelayLength);
+  txtSecondOff.Hold({
+      .Get = [] { return gAddIn().get_iSecondPowerOff(); },
+      .Put = [](float sng) { gAddIn().put_iSecondPowerOff(forms::toInt16(sng)); },
+      .bStoredByEnter = true,
+  });
 
   ConnectEvents();
   LayOut();
@@ -65,8 +70,6 @@ void TabPower::ConnectEvents() {
     ctlSelector.CommandChanged.connect([this, Index] { ctlCommands_CommandChanged(Index); });
   });
   chkSecondOff.click.connect([this] { chkSecondOff_Click(); });
-  txtSecondOff.validate.connect([this](bool&) { txtSecondOff_Validate(); });
-  OnEnter(txtSecondOff, [this] { txtSecondOff_Validate(); });
   lblDiagram.click.connect([this] { lblDiagram_Click(); });
   offer("SetData", [this] { SetData(); });
   offer("OtherTabClicked", [this] { OtherTabClicked(); });
@@ -77,14 +80,14 @@ bool TabPower::SetData() {
   ctlCommands.each(
       [&](std::int16_t, host::DeviceCommands& selector) { selector.SetImages(images); });
   // Leaving the page reads the box, which must not hold what another system left in it.
-  txtSecondOff.setText(forms::decimal(gAddIn().get_iSecondPowerOff()));
+  txtSecondOff.ShowStored();
   return false;
 }
 
 /// The box is read whatever the page shows, so that an emptied one stores 0.
 void TabPower::OtherTabClicked() {
   SetTabStops(false);
-  txtSecondOff_Validate();
+  txtSecondOff.Store();
 }
 
 void TabPower::SetTabStops(bool bValue) {
@@ -172,7 +175,7 @@ void TabPower::LoadPowerCommands() {
   if (!m_bSecondOff) return;
   chkSecondOff.setValue(gAddIn().get_bSecondPowerOff());
   Load(iSecondOffCommand, gAddIn().get_sSecondPowerOff());
-  txtSecondOff.setText(forms::decimal(gAddIn().get_iSecondPowerOff()));
+  txtSecondOff.ShowStored();
 }
 
 void TabPower::ctlCommands_CommandChanged(std::int16_t Index) {
@@ -251,15 +254,6 @@ void TabPower::chkSecondOff_Click() {
   gAddIn().put_sSecondPowerOff(ctlCommands(iSecondOffCommand).get_SelectedCommand());
   gAddIn().put_bSecondPowerOff(chkSecondOff.value());
   gDocument().MarkChanged();
-}
-
-void TabPower::txtSecondOff_Validate() {
-  const double dSeconds = forms::leadingNumber(txtSecondOff.text());
-  if (dSeconds != gAddIn().get_iSecondPowerOff()) {
-    gAddIn().put_iSecondPowerOff(forms::toInt16(dSeconds));
-    gDocument().MarkChanged();
-  }
-  txtSecondOff.setText(forms::decimal(gAddIn().get_iSecondPowerOff()));
 }
 
 void TabPower::lblDiagram_Click() {

@@ -8,9 +8,9 @@
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/OptionButton.h"
-#include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
 #include "steps/HintFrame.h"
+#include "steps/NumberBox.h"
 #include "steps/WizardStep.h"
 
 namespace steps {
@@ -35,7 +35,6 @@ class TabPower : public WizardStep {
   void lblPower_Click(std::int16_t Index);
   void chkSecondOff_Click();
   void ctlCommands_CommandChanged(std::int16_t Index);
-  void txtSecondOff_Validate();
   void lblDiagram_Click();
 
   void ConnectEvents();
@@ -68,7 +67,7 @@ class TabPower : public WizardStep {
   forms::CheckBox chkSecondOff{fraAll, "chkSecondOff", "Send second        Power Off command"};
   forms::ControlArray<forms::Label> lblSecondOff{"lblSecondOff",
                                                  {{0, fraAll, "after"}, {1, fraAll, "seconds"}}};
-  forms::TextBox txtSecondOff{fraAll, "txtSecondOff"};
+  NumberBox txtSecondOff{fraAll, "txtSecondOff"};
   forms::Label lblDiagram{fraAll, "lblDiagram", "Show Diagram..."};
   HintFrame frameInfo{*this, HintToAddDisplay("Power Control")};
 

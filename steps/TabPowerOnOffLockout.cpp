@@ -38,18 +38,28 @@ TabPowerOnOffLockout::TabPowerOnOffLockout(forms::Container& container, std::str
     : WizardStep(container, std::move(strName), "Power On/Off Lockout",
                  host::helpPowerOnOffLockout) {
   MakeBanner(lblBanner);
-  txtPowerLockoutTime.each(
-      [](std::int16_t, forms::TextBox& box) { box.setMaxLength(lTimeLength); });
+  HoldTimes();
   frameInfo.SetText(strNoPowerText);  // the longer one, which its place is made for
   ConnectEvents();
   LayOut();
 }
 
-void TabPowerOnOffLockout::ConnectEvents() {
-  txtPowerLockoutTime.each([this](std::int16_t Index, forms::TextBox& box) {
-    box.validate.connect([this, Index](bool&) { txtPowerLockoutTime_Validate(Index); });
-    OnEnter(box, [this, Index] { txtPowerLockoutTime_Validate(Index); });
+/// Three characters are the upper bound, and the setting keeps the absolute value.
+void TabPowerOnOffLockout::HoldTimes() {
+  txtPowerLockoutTime.each([](std::int16_t, NumberBox& box) { box.setMaxLength(lTimeLength); });
+  txtPowerLockoutTime(iOnTime).Hold({
+      .Get = [] { return gAddIn().get_PowerOnLockoutTime(); },
+      .Put = [](float sng) { gAddIn().put_PowerOnLockoutTime(forms::toInt16(sng)); },
+      .bStoredByEnter = true,
   });
+  txtPowerLockoutTime(iOffTime).Hold({
+      .Get = [] { return gAddIn().get_PowerOffLockoutTime(); },
+      .Put = [](float sng) { gAddIn().put_PowerOffLockoutTime(forms::toInt16(sng)); },
+      .bStoredByEnter = true,
+  });
+}
+
+void TabPowerOnOffLockout::ConnectEvents() {
   chkContact.click.connect([this] { chkContact_Click(); });
   optContact.each([this](std::int16_t, forms::OptionButton& option) {
     option.click.connect([this] { optContact_Click(); });
@@ -62,8 +72,8 @@ void TabPowerOnOffLockout::ConnectEvents() {
 bool TabPowerOnOffLockout::SetData() {
   ctlImage(0).put_Picture(LargePicture(host::pictureLockout));
   ctlImage(1).put_Picture(LargePicture(host::pictureContact));
-  txtPowerLockoutTime(iOnTime).setText(forms::decimal(get_LockoutTime(iOnTime)));
-  txtPowerLockoutTime(iOffTime).setText(forms::decimal(get_LockoutTime(iOffTime)));
+  txtPowerLockoutTime(iOnTime).ShowStored();
+  txtPowerLockoutTime(iOffTime).ShowStored();
 
   const forms::Guard loading(m_bLoading);
   const std::int16_t iOption = gAddIn().get_PowerContactClosureOption();
@@ -85,8 +95,8 @@ void TabPowerOnOffLockout::iTab_TabClicked() {
 
 /// A time that is typed still when the page is left is stored, whatever moved the focus.
 void TabPowerOnOffLockout::OtherTabClicked() {
-  txtPowerLockoutTime_Validate(iOffTime);
-  txtPowerLockoutTime_Validate(iOnTime);
+  txtPowerLockoutTime(iOffTime).Store();
+  txtPowerLockoutTime(iOnTime).Store();
 }
 
 bool TabPowerOnOffLockout::iTab_SaveData() {
@@ -125,29 +135,6 @@ void TabPowerOnOffLockout::SaveContactOption() {
   if (iOption == gAddIn().get_PowerContactClosureOption()) return;
   gAddIn().put_PowerContactClosureOption(iOption);
   gDocument().MarkChanged();
-}
-
-/// Any number is taken: three characters are the upper bound, and the setting keeps the absolute
-/// value.
-void TabPowerOnOffLockout::txtPowerLockoutTime_Validate(std::int16_t Index) {
-  const double dSeconds = forms::leadingNumber(txtPowerLockoutTime(Index).text());
-  if (dSeconds != get_LockoutTime(Index)) {
-    put_LockoutTime(Index, forms::toInt16(dSeconds));
-    gDocument().MarkChanged();
-  }
-  txtPowerLockoutTime(Index).setText(forms::decimal(get_LockoutTime(Index)));
-}
-
-std::int16_t TabPowerOnOffLockout::get_LockoutTime(std::int16_t Index) const {
-  return Index == iOnTime ? gAddIn().get_PowerOnLockoutTime() : gAddIn().get_PowerOffLockoutTime();
-}
-
-void TabPowerOnOffLockout::put_LockoutTime(std::int16_t Index, std::int16_t iSeconds) {
-  if (Index == iOnTime) {
-    gAddIn().put_PowerOnLockoutTime(iSeconds);
-  } else {
-    gAddIn().put_PowerOffLockoutTime(iSeconds);
-  }
 }
 
 void TabPowerOnOffLockout::LayOut() {

@@ -7,9 +7,9 @@
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/OptionButton.h"
-#include "forms/TextBox.h"
 #include "host/ctlImage.h"
 #include "steps/HintFrame.h"
+#include "steps/NumberBox.h"
 #include "steps/WizardStep.h"
 
 namespace steps {
@@ -34,13 +34,11 @@ class TabPowerOnOffLockout : public WizardStep {
  private:
   void chkContact_Click();
   void optContact_Click();
-  void txtPowerLockoutTime_Validate(std::int16_t Index);
 
+  void HoldTimes();
   void ConnectEvents();
   void EnableContactOptions(bool bEnabled);
   void SaveContactOption();
-  std::int16_t get_LockoutTime(std::int16_t Index) const;
-  void put_LockoutTime(std::int16_t Index, std::int16_t iSeconds);
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " Power Lockout"};
@@ -55,8 +53,8 @@ class TabPowerOnOffLockout : public WizardStep {
                                                 {0, frameDevice, "seconds"},
                                                 {2, frameDevice, "Power Off Lockout for"},
                                                 {1, frameDevice, "seconds"}}};
-  forms::ControlArray<forms::TextBox> txtPowerLockoutTime{"txtPowerLockoutTime",
-                                                          {{1, frameDevice}, {2, frameDevice}}};
+  forms::ControlArray<NumberBox> txtPowerLockoutTime{"txtPowerLockoutTime",
+                                                     {{1, frameDevice}, {2, frameDevice}}};
   forms::CheckBox chkContact{
       fraContact, "chkContact",
       "Only allow System Power On if a contact closure is detected on digital input 2."};

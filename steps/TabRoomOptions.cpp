@@ -5,7 +5,6 @@
 #include "addin/Cast.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
-#include "common/CommonFunctions.h"
 #include "common/modHTMLHelp.h"
 #include "forms/Guard.h"
 #include "forms/Numbers.h"
@@ -46,6 +45,17 @@ TabRoomOptions::TabRoomOptions(forms::Container& container, std::string strName)
   txtFenletPassword.setSelectsAllOnFocus(true);
   txtPowerOffTimeout.setMaxLength(lTimeoutLength);
   txtPowerOffTimeout.setAccessibleName("Minutes without motion");
+  txtPowerOffTimeout.Hold({
+      .Get = StoredMinutes,
+      .Put =
+          [](float sngMinutes) {
+            gAddIn().put_MotionSensorTimeout(forms::toInt16(sngMinutes * sngSecondsPerMinute));
+          },
+      .range = {{.strLabel = "The timeout value for the occupancy sensor",
+                 .iMax = lLongestTimeout,
+                 .pSaving = &m_bSaving}},
+      .Stored = ApplyTimeout,
+  });
   ConnectEvents();
   LayOut();
 }
@@ -61,8 +71,6 @@ void TabRoomOptions::ConnectEvents() {
   lblKestrum.click.connect([this] { lblKestrum_Click(); });
   txtFenletPassword.validate.connect([this](bool&) { txtFenletPassword_Validate(); });
   OnEnter(txtFenletPassword, [this] { txtFenletPassword_Validate(); });
-  txtPowerOffTimeout.validate.connect(
-      [this](bool& Cancel) { txtPowerOffTimeout_Validate(Cancel); });
   offer("SetData", [this] { SetData(); });
   offer<bool&>("BeforeTabChange", [this](bool& bCancel) { BeforeTabChange(bCancel); });
   offer("OtherTabClicked", [this] { OtherTabClicked(); });
@@ -108,7 +116,7 @@ void TabRoomOptions::SetOccupancyData() {
   EnableOccupancyOptions(bIncluded);
   chkPowerTimeout.setChecked(bTimeout);
   EnableTimeout(bTimeout);
-  if (bTimeout) txtPowerOffTimeout.setText(forms::decimal(StoredMinutes()));
+  if (bTimeout) txtPowerOffTimeout.ShowStored();
 }
 
 void TabRoomOptions::SetFenletData() {
@@ -253,23 +261,8 @@ void TabRoomOptions::txtFenletPassword_Validate() {
   txtFenletPassword.setText(gAddIn().get_FenletPassword());
 }
 
-void TabRoomOptions::txtPowerOffTimeout_Validate(bool& Cancel) {
-  common::ValueRange range;
-  range.sLabel = "The timeout value for the occupancy sensor";
-  range.iMax = lLongestTimeout;
-  range.bReset = activeControl() != &txtPowerOffTimeout || m_bSaving;
-  txtPowerOffTimeout.setText(common::CheckValueRange(txtPowerOffTimeout.text(), range, Cancel));
-  if (Cancel) return;
-  const auto sngMinutes = static_cast<float>(forms::leadingNumber(txtPowerOffTimeout.text()));
-  if (sngMinutes != StoredMinutes()) {
-    gAddIn().put_MotionSensorTimeout(forms::toInt16(sngMinutes * sngSecondsPerMinute));
-    gDocument().MarkChanged();
-  }
-  ApplyTimeout();
-}
-
 /// A value that the sensor does not take is told to nobody.
-void TabRoomOptions::ApplyTimeout() const {
+void TabRoomOptions::ApplyTimeout() {
   const auto oDevice = gDocument().get_Devices()->ItemByID(gAddIn().get_OccupancySensorID());
   if (!oDevice) return;
   if (const auto oTimeout = oDevice->GetProperty("Timeout")) {
@@ -294,8 +287,7 @@ void TabRoomOptions::OtherTabClicked() {
 
 void TabRoomOptions::ValidateBoxes() {
   txtFenletPassword_Validate();
-  bool Cancel = false;  // nothing is refused, whatever the box holds
-  txtPowerOffTimeout_Validate(Cancel);
+  txtPowerOffTimeout.Store();
 }
 
 /// What the page shows is saved as it is when the page is left, so that a box that was unticked

@@ -12,6 +12,7 @@
 #include "forms/TextBox.h"
 #include "host/Device.h"
 #include "host/ctlImage.h"
+#include "steps/NumberBox.h"
 #include "steps/WizardStep.h"
 
 namespace steps {
@@ -39,7 +40,6 @@ class TabRoomOptions : public WizardStep {
   void cmdAdvanced_Click();
   void lblKestrum_Click();
   void txtFenletPassword_Validate();
-  void txtPowerOffTimeout_Validate(bool& Cancel);
 
   void ConnectEvents();
   void SetTabStops(bool bValue);
@@ -58,7 +58,7 @@ class TabRoomOptions : public WizardStep {
   void EnableTimeout(bool bEnabled);
   void EnableOccupancyOptions(bool bEnabled);
   void ValidateBoxes();
-  void ApplyTimeout() const;
+  static void ApplyTimeout();
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " Room Options"};
@@ -88,11 +88,10 @@ class TabRoomOptions : public WizardStep {
   forms::Label lblPort{fraOccupancySensing, "lblPort"};
   forms::CheckBox chkPowerTimeout{fraOccupancySensing, "chkPowerTimeout",
                                   "Power system off if no motion detected in"};
-  forms::TextBox txtPowerOffTimeout{fraOccupancySensing, "txtPowerOffTimeout"};
+  NumberBox txtPowerOffTimeout{fraOccupancySensing, "txtPowerOffTimeout"};
   forms::Label lblMinutes{fraOccupancySensing, "lblMinutes", "minutes."};
 
   bool m_bLoading = false;
-  bool m_bSaving = false;
   /// The minutes of the sensor that the monitoring interface took along in this visit of the page;
   /// empty without a power off.
   std::optional<std::string> m_strTakenTimeout;

@@ -36,6 +36,9 @@ class WizardStep : public forms::UserControl, public host::iTab {
   std::int16_t iTab_GetHelpContextID() const override { return m_iHelpContextID; }
   void iTab_SetID(std::int32_t) override {}
 
+  /// What Enter does in a box; the key still does what it does elsewhere.
+  static void OnEnter(forms::TextBox& box, const std::function<void()>& action);
+
  protected:
   /// The heading at the top of a page.
   static void MakeBanner(forms::Label& lblBanner);
@@ -47,14 +50,14 @@ class WizardStep : public forms::UserControl, public host::iTab {
   /// A picture of the large list by its number.
   static const forms::Picture& LargePicture(std::int32_t iPicture);
 
-  /// What Enter does in a box; the key still does what it does elsewhere.
-  static void OnEnter(forms::TextBox& box, const std::function<void()>& action);
-
   /// A message that informs and refuses nothing.
   static void Inform(const std::string& strText);
 
   /// The display; nothing while none is chosen.
   static std::shared_ptr<host::Device> FindDisplay();
+
+  /// From a save until the step is filled again.
+  bool m_bSaving = false;
 
  private:
   std::string m_strTabName;

@@ -1,6 +1,7 @@
 #include "qt/Spoken.h"
 
 #include <QtWidgets/QAccessibleWidget>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QWidget>
 
 namespace qt {
@@ -19,20 +20,36 @@ class SpokenWidget : public QAccessibleWidget {
     return state;
   }
 
+  int childCount() const override {
+    return spoken_.sideMenu() ? 1 : QAccessibleWidget::childCount();
+  }
+
+  QAccessibleInterface* child(int place) const override {
+    if (!spoken_.sideMenu()) return QAccessibleWidget::child(place);
+    return place == 0 ? QAccessible::queryAccessibleInterface(spoken_.sideMenu()) : nullptr;
+  }
+
   QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
-    if (widget()->isEnabled()) names.prepend(pressAction());
+    if (!widget()->isEnabled()) return names;
+    if (spoken_.sideMenu()) names.prepend(showMenuAction());
+    names.prepend(pressAction());
     return names;
   }
 
-  /// Later, since a press may open a window and the screen reader waits for the answer.
   void doAction(const QString& action) override {
-    if (action != pressAction()) return QAccessibleWidget::doAction(action);
-    QMetaObject::invokeMethod(
-        widget(), [&spoken = spoken_] { spoken.press(); }, Qt::QueuedConnection);
+    if (action == pressAction()) return later(&Spoken::press);
+    if (action == showMenuAction()) return later(&Spoken::openSideMenu);
+    QAccessibleWidget::doAction(action);
   }
 
  private:
+  /// Since it may open a window and the screen reader waits for the answer.
+  void later(void (Spoken::*act)()) {
+    QMetaObject::invokeMethod(
+        widget(), [&spoken = spoken_, act] { (spoken.*act)(); }, Qt::QueuedConnection);
+  }
+
   Spoken& spoken_;
 };
 

@@ -2,6 +2,8 @@
 
 #include <QtGui/QAccessible>
 
+class QMenu;
+
 namespace qt {
 
 /// A widget that is to screen readers something else than its class is in Qt.
@@ -14,6 +16,9 @@ class Spoken {
   virtual void describe(QAccessible::State&) const {}
   /// What a screen reader's "press" does.
   virtual void press() = 0;
+  /// What opens at its side; null where nothing does.
+  virtual QMenu* sideMenu() const { return nullptr; }
+  virtual void openSideMenu() {}
 };
 
 /// From now on screen readers are told what is spoken as the widgets say.

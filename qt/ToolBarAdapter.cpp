@@ -4,6 +4,7 @@
 
 #include "qt/Conversions.h"
 #include "qt/Pictures.h"
+#include "qt/Spoken.h"
 
 namespace qt {
 namespace {
@@ -11,10 +12,24 @@ namespace {
 constexpr int pictureMargin = 4;
 constexpr int arrowWidth = 14;
 
+/// To screen readers one button that is pressed and has a menu; Qt's own tells them of the menu
+/// alone.
+class MenuButton : public QToolButton, public Spoken {
+ public:
+  using QToolButton::QToolButton;
+
+  QAccessible::Role role() const override {
+    return menu() ? QAccessible::ButtonMenu : QAccessible::Button;
+  }
+  void press() override { click(); }
+  QMenu* sideMenu() const override { return menu(); }
+  void openSideMenu() override { showMenu(); }
+};
+
 }  // namespace
 
 ToolBarAdapter::ToolBarAdapter(forms::ToolBar& toolBar, const Place& place)
-    : ClickedAdapter(toolBar, place, new QToolButton(&place.parent)),
+    : ClickedAdapter(toolBar, place, new MenuButton(&place.parent)),
       toolBar_(toolBar),
       button_(static_cast<QToolButton*>(widget())) {
   button_->setToolButtonStyle(Qt::ToolButtonIconOnly);
@@ -37,9 +52,13 @@ void ToolBarAdapter::showMenu() {
   for (const forms::MenuEntry& entry : shown_) {
     QAction* action = menu_.addAction(toQt(entry.text));
     action->setEnabled(entry.enabled);
-    connect(action, &QAction::triggered, this, [this, tag = entry.tag] {
-      if (hasControl()) act([&](forms::User& user) { user.choose(toolBar_, tag); });
-    });
+    // Later, since it may open a window and a screen reader waits for the answer.
+    connect(
+        action, &QAction::triggered, this,
+        [this, tag = entry.tag] {
+          if (hasControl()) act([&](forms::User& user) { user.choose(toolBar_, tag); });
+        },
+        Qt::QueuedConnection);
   }
 }
 

@@ -5,6 +5,7 @@ Every control that takes the focus has a name, no two of one kind have the same 
 and links are told as such, and each step of the wizard is told once. Needs a session bus of its own (dbus-run-session).
 """
 import os
+import socket
 import subprocess
 import sys
 import tempfile
@@ -32,7 +33,7 @@ def wait_for(what, find):
         if found:
             return found
         time.sleep(0.05)
-    raise SystemExit(f"{what} did not come within {PATIENCE} seconds")
+    raise SystemExit(f"{what} did not come within {PATIENCE} seconds, but {words()}")
 
 
 def has(node, state):
@@ -50,16 +51,18 @@ def seen(node, path=()):
             yield from seen(child, path + (child.name,))
 
 
+def windows():
+    return [one for application in pyatspi.Registry.getDesktop(0) if application and application.name == "orlena"
+            for one in application if one and has(one, pyatspi.STATE_SHOWING)]
+
+
 def window(title):
-    def find():
-        desktop = pyatspi.Registry.getDesktop(0)
-        for application in desktop:
-            if application and application.name == "orlena":
-                for one in application:
-                    if one and one.name == title and has(one, pyatspi.STATE_SHOWING):
-                        return one
-        return None
-    return wait_for(f'the window "{title}"', find)
+    return wait_for(f'the window "{title}"', lambda: next((one for one in windows() if one.name == title), None))
+
+
+def words():
+    """What is said in each window, for a failure."""
+    return [(one.name, [node.name for node, _ in seen(one) if node.getRole() == LABEL]) for one in windows()]
 
 
 def find(place, role, name):
@@ -72,12 +75,17 @@ def find(place, role, name):
     return wait_for(f'the {role} "{name}" of "{place.name}"', look)
 
 
-def press(place, name, role="push button"):
-    button = find(place, role, name)
-    wait_for(f'"{name}" to be enabled', lambda: has(button, pyatspi.STATE_ENABLED))
-    action = button.queryAction()
+def act(node, wanted):
+    wait_for(f'"{node.name}" to be enabled', lambda: has(node, pyatspi.STATE_ENABLED))
+    action = node.queryAction()
     names = [action.getName(i) for i in range(action.nActions)]
-    action.doAction(names.index("Press"))
+    if wanted not in names:
+        raise SystemExit(f'"{node.name}" offers no "{wanted}", but {names}')
+    action.doAction(names.index(wanted))
+
+
+def press(place, name, role="push button"):
+    act(find(place, role, name), "Press")
 
 
 def check(place, state=""):
@@ -96,11 +104,15 @@ def check(place, state=""):
     return [(role, name) for role, name, _ in told]
 
 
+def close(opened, button):
+    press(opened, button)
+    wait_for(f'"{opened.name}" to close', lambda: not has(opened, pyatspi.STATE_SHOWING))
+
+
 def check_and_close(title, button):
     opened = window(title)
     check(opened)
-    press(opened, button)
-    wait_for(f'"{title}" to close', lambda: not has(opened, pyatspi.STATE_SHOWING))
+    close(opened, button)
 
 
 def expect(told, role, name):
@@ -116,11 +128,80 @@ def choose_device(title, words):
     dialog = window(title)
     check(dialog)
     type_into(dialog, "Find:", words)
-    press(dialog, "OK")
-    wait_for(f'"{title}" to close', lambda: not has(dialog, pyatspi.STATE_SHOWING))
+    close(dialog, "OK")
 
 
-def walk_wizard():
+def walk_properties(wizard):
+    press(wizard, "Properties...")
+    dialog = window("Properties of Display Device")
+    for page in ("IO Assignment", "Properties", "Basic"):
+        press(dialog, page, "page tab")
+        check(dialog, page)
+    close(dialog, "Cancel")
+
+
+def menu_entry(button, name):
+    """The entry of a button's menu, which need not be open."""
+    for menu in button:
+        for entry in menu:
+            if entry.name == name:
+                return entry
+    return None
+
+
+def walk_communication(wizard, address):
+    """The address book, which gets a receiver to send to, and what else the button's menu opens."""
+    button = find(wizard, "push button", "Communication Settings")
+    act(button, "Press")
+    book = window("Communication Settings")
+    check(book)
+    type_into(book, "Name:", "Lecture Hall")
+    type_into(book, "Address:", address)
+    press(book, "Add")
+    close(book, "OK")
+    act(menu_entry(button, "Set IP Information..."), "Press")
+    check_and_close("IP Information", "Cancel")
+
+
+def choose_display(wizard, words):
+    """With the page's button, and goes on to the last page but one."""
+    press(wizard, "Display Device")
+    press(wizard, "Choose...")
+    choose_device("Select a Display Device", words)
+    press(wizard, "Room Options")
+
+
+def walk_faults(wizard):
+    """A display whose second Power Off the former one's command is still sent for."""
+    choose_display(wizard, "x31 orvistel")
+    press(wizard, "Next >")
+    press(wizard, "Upload System")
+    build = window("Build Program")
+    find(build, "push button", "Go to Page")
+    check(build, "with an error")
+    close(build, "Go to Page")
+    find(wizard, "radio button", "Discrete")
+
+
+def walk_upload(wizard, address):
+    """With a display that lacks commands, which the panels tell of, to a receiver that never answers."""
+    choose_display(wizard, "k55 hotel")
+    press(wizard, "Include Fenlet Interface", "check box")
+    press(wizard, "Next >")
+    press(wizard, "Upload System")
+    find(window("Touchpanel Creation"), "push button", "Continue")
+    check_and_close("Touchpanel Creation", "Continue")
+    transfer = window("Upload")
+    check(transfer)
+    bars = [node.name for node, _ in seen(transfer) if node.getRole() == pyatspi.ROLE_PROGRESS_BAR]
+    if bars != [f'Sending "My Orlena System" to the receiver at {address.removeprefix("tcp ")}...']:
+        failures.append(f"the progress bars of the transfer are {bars}")
+    close(transfer, "Cancel")
+    press(wizard, "Audio Settings", "link")
+    check_and_close("Audio Settings", "Close")
+
+
+def walk_wizard(address):
     wizard = window("Orlena")
     for number, (step, title) in enumerate(STEPS.items()):
         wait_for(f'the page "{title}"', lambda: any(title in n.name for n, _ in seen(wizard) if n.getRole() == LABEL))
@@ -128,10 +209,16 @@ def walk_wizard():
             press(wizard, "Choose...")
             choose_device("Select a Display Device", "p2200 bravonne")
             find(wizard, "check box", "Enable power triggered relay:")
+            walk_properties(wizard)
+        elif step == "Power Control":
+            press(wizard, "Send second Power Off command", "check box")
+            type_into(wizard, "Send second Power Off command after seconds", "3")
         elif step == "Display Options":
             press(wizard, "Include Screen control", "check box")
             press(wizard, "Choose...")
             choose_device("Select a Device", "mixed 240")
+        elif step == "Orlena Transmitters":
+            press(wizard, "Add to System")
         told = check(wizard, f"{number} {step}")
         for other in STEPS:
             times = sum(name == other and role in ("push button", "page tab") for role, name in told)
@@ -139,12 +226,18 @@ def walk_wizard():
                 failures.append(f'"{other}" is told {times} times on {step}')
         if step == "Audio Control":
             expect(told, "radio button", "Master volume")
+            press(wizard, "Master volume", "radio button")
+            option = find(wizard, "radio button", "Master volume")
+            wait_for("the option to be chosen", lambda: has(option, pyatspi.STATE_CHECKED))
         if step == "Power On/Off Lockout":
             expect(told, "text", "Power On Lockout for seconds")
         if step != "Finish":
             press(wizard, "Next >")
     press(wizard, "Documentation")
     check_and_close("System Documentation", "Close")
+    walk_communication(wizard, address)
+    walk_faults(wizard)
+    walk_upload(wizard, address)
 
 
 def main():
@@ -154,6 +247,7 @@ def main():
     environment = dict(os.environ, DISPLAY=":" + display.stdout.readline().strip(), QT_QPA_PLATFORM="xcb",
                        QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", XDG_CONFIG_HOME=folder.name,
                        TRELLISAR_SYSTEMS=folder.name + "/systems")
+    silent = socket.create_server(("127.0.0.1", 0))
     program = subprocess.Popen([sys.argv[1]], env=environment)
     try:
         host = window("Trellisar")
@@ -161,12 +255,13 @@ def main():
         press(host, "Preferences...")
         check_and_close("Preferences", "Cancel")
         press(host, "New System...")
-        walk_wizard()
+        walk_wizard(f"tcp 127.0.0.1:{silent.getsockname()[1]}")
     finally:
         program.kill()
         program.wait()
         display.kill()
         display.wait()
+        silent.close()
     for failure in failures:
         print(failure)
     return 1 if failures else 0

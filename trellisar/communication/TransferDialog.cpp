@@ -16,6 +16,7 @@ TransferDialog::TransferDialog(const receiver::Address& address, const receiver:
                 {.progress = [this](std::uint64_t sent,
                                     std::uint64_t total) { showProgress(sent, total); },
                  .ended = [this](const receiver::Outcome& outcome) { outcome_ = outcome; }}) {
+  prgProgress.nameBy(lblState);
   lblState.setCaption("Sending \"" + program.name + "\" to the receiver at " + address.text() +
                       "...");
   layOutAbove({&cmdCancel}, dialogWidth,

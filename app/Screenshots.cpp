@@ -26,9 +26,6 @@
 #include "receiver/Server.h"
 #include "trellisar/communication/PasswordDialog.h"
 #include "trellisar/communication/TransferDialog.h"
-#include "trellisar/dialogs/CompileDialog.h"
-#include "trellisar/document/SystemFile.h"
-#include "trellisar/objects/Document.h"
 #include "trellisar/window/AddIns.h"
 #include "trellisar/window/MainForm.h"
 
@@ -224,15 +221,18 @@ class Walk {
     }
   }
 
-  /// The saved system, with nothing at its receiver any more that its program is for.
+  /// A display whose second Power Off the former one's command is still sent for.
   void drawCompileErrors() {
-    const auto broken =
-        trellisar::readSystemFile(host_.document()->data().ownFile, host_.library());
-    while (broken->devices.size() > 1) {
-      broken->forget(broken->devices.back());
-      broken->devices.pop_back();
-    }
-    trellisar::CompileDialog(broken).run();
+    enterStep(display);
+    chooseDisplay("Bravonne P2200");
+    enterStep(power);
+    click(power, "optPower(2)");
+    click(power, "chkSecondOff");
+    user_.type(dynamic_cast<forms::TextBox&>(page(power).control("txtSecondOff")), "3");
+    enterStep(display);
+    chooseDisplay("Orvistel X31");
+    enterStep(finish);
+    click(finish, "cmdUpload");
   }
 
   forms::UserControl& tabs() const {

@@ -8,6 +8,7 @@
 #include "forms/Guard.h"
 #include "qt/Conversions.h"
 #include "qt/Keyboard.h"
+#include "qt/Painting.h"
 
 namespace qt {
 namespace {
@@ -37,10 +38,24 @@ bool isMoving(const QKeyEvent& event) {
          event.key() == Qt::Key_Home || event.key() == Qt::Key_End;
 }
 
+/// The style draws the outline darker than the window, which a dark one leaves unseen.
+class LineEdit : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLineEdit::paintEvent(event);
+    if (hasFocus() || !isDark(palette().color(QPalette::Window))) return;
+    QPainter painter(this);
+    drawBorder(painter, rect(), lineColor(palette()));
+  }
+};
+
 }  // namespace
 
 TextBoxAdapter::TextBoxAdapter(forms::TextBox& box, const Place& place)
-    : Adapter(box, place, new QLineEdit(&place.parent)),
+    : Adapter(box, place, new LineEdit(&place.parent)),
       box_(box),
       edit_(static_cast<QLineEdit*>(widget())) {
   connect(edit_, &QLineEdit::textChanged, this, [this] { edited(); });  // also by a screen reader

@@ -230,6 +230,9 @@ void TabDisplay::lblDisplayHelp_Click() {
 
 void TabDisplay::LayOut() {
   using namespace forms;
+  constexpr Twips lLine = 195;
+  constexpr Twips lDescription = 4 * lLine;
+  const Size tagSize{naturalSize(lblDescriptionTag).width, lDescription};  // beside the first line
   layOut(pageArea, {
                        rest(lblBanner),
                        row({item(Label1), spring(), item(lblDisplayHelp)}),
@@ -239,8 +242,9 @@ void TabDisplay::LayOut() {
                                    item(ctlImageDisplay, sizeOfPicture),
                                    either({
                                        columns({
-                                           {item(lblDescriptionTag), rest(lblDescription, 780)},
-                                           {item(lblIOAssignmentTag), rest(lblIOAssignment, 195)},
+                                           {item(lblDescriptionTag, tagSize),
+                                            rest(lblDescription, lDescription)},
+                                           {item(lblIOAssignmentTag), rest(lblIOAssignment, lLine)},
                                        }),
                                        frameInfo.Place(),
                                    }),

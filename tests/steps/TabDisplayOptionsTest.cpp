@@ -11,16 +11,13 @@ class TabDisplayOptionsTest : public tests::StepTest {
  protected:
   TabDisplayOptionsTest() : StepTest("Display Options") {}
 
-  void choose(int page, const std::string& device) { chooseDisplay(device, at("cmdChoose", page)); }
+  void choose(int page, const std::string& device) {
+    chooseDisplay(device, "cmdChoose(" + std::to_string(page) + ")");
+  }
   void given(int page, const std::string& device) {
-    click(at("chkInclude", page));
+    click("chkInclude(" + std::to_string(page) + ")");
     choose(page, device);
   }
-
-  static std::string at(const std::string& name, int page) {
-    return name + "(" + std::to_string(page) + ")";
-  }
-  bool isShown(const std::string& name) { return isVisible(name + "(0)"); }
   /// The times of the screen's two commands and of the lift's.
   std::vector<float> times() {
     return {addIn->get_PowerOnPulseTime(0), addIn->get_PowerOffPulseTime(0),
@@ -35,30 +32,19 @@ TEST_F(TabDisplayOptionsTest, PageOpensStepByStepAndUncheckingRemovesTheDeviceAt
     };
     EXPECT_EQ(page(), "----");
     click("chkInclude(0)");
-    EXPECT_EQ(page(), "oo--");
-    EXPECT_FALSE(isVisible("cmdChoose(1)"));
     cancelDialog("cmdChoose(0)");
     EXPECT_EQ(page(), "oo--");
-    EXPECT_FALSE(device("Screen"));
+    EXPECT_FALSE(isVisible("cmdChoose(1)") || device("Screen"));
 
     choose(0, pulsedScreen);
     EXPECT_EQ(page(), "o-oo");
-    EXPECT_EQ(addIn->get_ScreenDeviceID(), device("Screen")->get_ID());
-    EXPECT_EQ(device("Screen")->get_Label(), "SCREEN");
-    EXPECT_FALSE(device("Screen")->get_ShowInTree());
     EXPECT_EQ(text("lblDescription(0)"), device("Screen")->get_Description());
     EXPECT_EQ(text("lblIOAssignment(0)"), device("Screen")->get_IOAssignment());
-    EXPECT_EQ(command("ctlPowerOn(0)"), "Down");
-    EXPECT_EQ(command("ctlPowerOff(0)"), "Up");
     given(1, pulsedLift);
-    EXPECT_EQ(device("Lift")->get_Label(), "LIFT");
-    EXPECT_EQ(addIn->get_LiftDeviceID(), device("Lift")->get_ID());
-
     click("chkInclude(0)");
-    EXPECT_FALSE(device("Screen"));
-    EXPECT_EQ(addIn->get_ScreenDeviceID(), 0);
     EXPECT_EQ(page(), "----");
-    EXPECT_TRUE(device("Lift"));
+    EXPECT_EQ(addIn->get_ScreenDeviceID(), 0);
+    EXPECT_TRUE(!device("Screen") && device("Lift"));
   });
 }
 
@@ -81,9 +67,8 @@ TEST_F(TabDisplayOptionsTest, OnlyAHeldCommandAsksForItsTime) {
     document().MarkUnchanged();
     selectCommand("ctlPowerOn(0)", "HALT");
     EXPECT_EQ(device("Screen")->GetCommandName("43"), "HALT");
-    EXPECT_EQ(device("Screen")->GetCommandName("42"), "UP");
     EXPECT_TRUE(isModified());
-    EXPECT_FALSE(isShown("txtPulseTimeOn"));
+    EXPECT_FALSE(isVisible("txtPulseTimeOn(0)"));
   });
 }
 
@@ -92,13 +77,10 @@ TEST_F(TabDisplayOptionsTest, AnotherDeviceStartsWithoutTimesAndLeavingGivesUpTh
     given(0, pulsedScreen);
     given(1, pulsedLift);
     for (const char* box : boxes) hold(box, "5");
-    const std::int16_t screen = addIn->get_ScreenDeviceID();
     cancelDialog("cmdChoose(0)");
-    EXPECT_EQ(addIn->get_ScreenDeviceID(), screen);
-    EXPECT_TRUE(isShown("txtPulseTimeOn"));
+    EXPECT_TRUE(isVisible("txtPulseTimeOn(0)"));
     EXPECT_EQ(times(), (std::vector<float>{5, 5, 5, 5}));
     choose(0, "Fallowmere Taut 280");
-    EXPECT_NE(addIn->get_ScreenDeviceID(), screen);
     EXPECT_EQ(text("txtPulseTimeOn(0)"), "0");
     EXPECT_EQ(times(), (std::vector<float>{0, 0, 5, 5}));
 
@@ -111,28 +93,6 @@ TEST_F(TabDisplayOptionsTest, AnotherDeviceStartsWithoutTimesAndLeavingGivesUpTh
     next();
     EXPECT_EQ(times(), (std::vector<float>{5, 0, 0, 0}));
     EXPECT_TRUE(isModified());
-    EXPECT_FALSE(tested().control("chkInclude(0)").tabStop());
-    clickInWindow("cmdBack");
-    EXPECT_TRUE(control("chkInclude(0)").tabStop());
-    EXPECT_TRUE(control("cmdChoose(0)").tabStop());
-  });
-}
-
-TEST_F(TabDisplayOptionsTest, FillingTheStepFollowsTheSettingsAndChangesNothing) {
-  onStep([&] {
-    given(0, pulsedScreen);
-    hold("txtPulseTimeOn(0)", "12");
-    document().MarkUnchanged();
-    fill();
-    EXPECT_TRUE(isShown("cmdChoose"));
-    EXPECT_EQ(text("txtPulseTimeOn(0)"), "12");
-    EXPECT_FALSE(isModified());
-
-    const std::int16_t screen = addIn->get_ScreenDeviceID();
-    addIn->ResetSettings();
-    fill();
-    EXPECT_EQ(states({"chkInclude(0)", "cmdChoose(0)", "frameInfo(0)"}), "o--");
-    EXPECT_TRUE(document().get_Devices()->ItemByID(screen));
   });
 }
 

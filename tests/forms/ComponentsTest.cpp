@@ -93,26 +93,6 @@ TEST_F(ComponentsTest, PropertyStore) {
   EXPECT_EQ(bag.read<bool>("Style", true), true) << "stored as another type";
 }
 
-TEST_F(ComponentsTest, ViewsAreTakenOffControlsBeforeTheForm) {
-  struct Watch : forms::FormView {
-    Watch(std::string watched, Journal& events) : name(std::move(watched)), journal(events) {}
-    void update() override {}
-    void detach() override { journal.push_back(name); }
-    void childAdded(forms::Control& control) override { journal.push_back("+" + control.name()); }
-    std::string name;
-    Journal& journal;
-  };
-  Journal journal;
-  Watch stepView("ctl0", journal);
-  Watch formView("window", journal);
-  {
-    forms::Form window("window");
-    window.attach(&formView);
-    window.addControl("tests.Step", "ctl0").attach(&stepView);
-  }
-  EXPECT_EQ(journal, (Journal{"+ctl0", "ctl0", "window"}));
-}
-
 TEST_F(ComponentsTest, SizeAndContainer) {
   Step step(form, "step");
   step.setBounds({100, 350, 4000, 3000});
@@ -128,18 +108,6 @@ TEST_F(ComponentsTest, SizeAndContainer) {
   EXPECT_EQ(raisedBy([&] { inner.setContainer(inner); }).number(), 5);
   EXPECT_EQ(raisedBy([&] { box.setContainer(step); }).number(), 5) << "another root";
   EXPECT_EQ(&box.container(), &inner);
-}
-
-TEST_F(ComponentsTest, ChildOfAContainerThatGoesBelongsToTheRoot) {
-  forms::TextBox box(form, "box");
-  {
-    forms::Frame frame(form, "frame");
-    frame.setVisible(false);
-    box.setContainer(frame);
-    EXPECT_FALSE(box.isShown());
-  }
-  EXPECT_EQ(&box.container(), &form);
-  EXPECT_TRUE(box.isShown());
 }
 
 TEST_F(ComponentsTest, ControlArraysAndTheListingOfAPage) {

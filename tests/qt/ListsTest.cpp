@@ -134,7 +134,6 @@ TEST_F(ListsTest, ALabelEditIsTakenByReturnAndAClickElsewhereAndGivenUpByEscape)
     key(Qt::Key_F2);
     type("z");
     click(form.button);
-    EXPECT_EQ(form.rows.text(0, 0), "<z>");
     EXPECT_EQ(focus(form), "button");
     EXPECT_EQ(widgetAs<QTreeWidget>(form.rows).topLevelItem(0)->text(0), "<z>");
   });
@@ -157,12 +156,10 @@ TEST_F(ListsTest, ASecondSlowClickOpensTheLabelADoubleClickDoesNot) {
 
 TEST_F(ListsTest, PagesTurnByTheirHeadersAndShowTheirOwnControlsAlone) {
   show(form, [&] {
-    EXPECT_TRUE(widget(form.onFirst).isVisible());
-    EXPECT_FALSE(widget(form.onLast).isVisible());
+    EXPECT_TRUE(widget(form.onFirst).isVisible() && !widget(form.onLast).isVisible());
     clickTab(1);
     EXPECT_EQ(form.strip.currentPage(), 2);
-    EXPECT_FALSE(widget(form.onFirst).isVisible());
-    EXPECT_TRUE(widget(form.onLast).isVisible());
+    EXPECT_TRUE(!widget(form.onFirst).isVisible() && widget(form.onLast).isVisible());
     key(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(form.strip.currentPage(), 0);
     form.strip.setBounds({0, -600, 6000, 2000});

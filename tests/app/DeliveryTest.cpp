@@ -11,18 +11,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string example =
-    (fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "meeting-room.json").string();
+const std::string example = ORLENA_SOURCE_FOLDER "/examples/meeting-room.json";
 
-class Delivery : public testing::Test {
+class Delivery : public ProgramTest {
  protected:
   Outcome build(std::vector<std::string> arguments, const std::string& answers = example) {
     arguments.insert(arguments.begin(), {"build", answers, "--out", "rooms"});
     return program.run(arguments);
   }
-
-  TemporaryFolder folder;
-  Program program{folder};
+  /// The saved system of a shipped example.
+  std::string systemOf(const std::string& name) {
+    const Outcome outcome =
+        build({}, std::string(ORLENA_SOURCE_FOLDER "/examples/") + name + ".json");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    return outcome.firstLine();
+  }
 };
 
 TEST_F(Delivery, exportsAndUploadsAfterTheSave) {
@@ -35,10 +38,10 @@ TEST_F(Delivery, exportsAndUploadsAfterTheSave) {
   ASSERT_TRUE(receiver::query(running.address(), held));
   EXPECT_EQ(held.program->name, "Meeting Room");
 
-  const std::string first = readWhole(folder / "archives/room.tsa");
+  const std::string first = fileText(folder / "archives/room.tsa");
   const Outcome again = build({"--export", "archives/room.tsa", "--replace"});
   EXPECT_EQ(again.status, 0) << again.errors;
-  EXPECT_EQ(readWhole(folder / "archives/room.tsa"), first) << "the same room, the same bytes";
+  EXPECT_EQ(fileText(folder / "archives/room.tsa"), first) << "the same room, the same bytes";
 }
 
 TEST_F(Delivery, failureIsToldAndTheSystemStaysSaved) {
@@ -57,10 +60,10 @@ TEST_F(Delivery, failureIsToldAndTheSystemStaysSaved) {
     fs::remove_all(folder / "rooms");
     const Outcome built = build(c.arguments, c.answers);
     EXPECT_EQ(built.status, 1) << c.name;
-    EXPECT_NE(built.errors.find(c.told), std::string::npos) << c.name << ": " << built.errors;
+    expectHas(built.errors, c.told);
     EXPECT_FALSE(fs::is_empty(folder / "rooms")) << c.name;
   }
-  EXPECT_EQ(readWhole(folder / "taken.tsa"), "mine");
+  EXPECT_EQ(fileText(folder / "taken.tsa"), "mine");
   EXPECT_FALSE(fs::exists(folder / "a.tsa"));
 }
 
@@ -75,10 +78,9 @@ TEST_F(Delivery, wrongCommandLineStartsNothing) {
 }
 
 TEST_F(Delivery, panelBearsTheLabelsInCapitalsAndTheRoomsCommands) {
-  const fs::path hall = fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "lecture-hall.json";
-  const Outcome built = build({"--export", "hall.tsa"}, hall.string());
-  ASSERT_EQ(built.status, 0) << built.errors;
-  const fs::path system = built.output.substr(0, built.output.find('\n'));
+  const fs::path system =
+      build({"--export", "hall.tsa"}, ORLENA_SOURCE_FOLDER "/examples/lecture-hall.json")
+          .firstLine();
   std::map<std::string, std::string> commands;
   for (const auto& page : trellisar::readPanelProject(system.parent_path() / "Fenlet.tpj").pages) {
     for (const auto& object : page.objects) commands[object.text] = object.command;
@@ -92,13 +94,10 @@ TEST_F(Delivery, panelBearsTheLabelsInCapitalsAndTheRoomsCommands) {
 /// The drawing of the largest room stands below the sheet's head, the table on the next page. A
 /// program without a window writes no PDF.
 TEST_F(Delivery, drawingOfAFullRoomHasItsPlaceOnTheFirstPage) {
-  const fs::path hall = fs::path(ORLENA_SOURCE_FOLDER) / "examples" / "lecture-hall.json";
-  const Outcome built = build({}, hall.string());
-  const std::string system = built.output.substr(0, built.output.find('\n'));
-  ASSERT_EQ(program.run({"report", system, "--out", "papers"}).status, 0);
+  ASSERT_EQ(program.run({"report", systemOf("lecture-hall"), "--out", "papers"}).status, 0);
   const fs::path sheet = folder / "papers/Lecture Hall - Connection Sheet.pdf";
   if (!fs::exists(sheet)) GTEST_SKIP();
-  const std::string bytes = readWhole(sheet);
+  const std::string bytes = fileText(sheet);
   const std::string page = "/Type /Page\n";
   int pages = 0;
   for (auto at = bytes.find(page); at != std::string::npos; at = bytes.find(page, at + 1)) ++pages;
@@ -106,20 +105,16 @@ TEST_F(Delivery, drawingOfAFullRoomHasItsPlaceOnTheFirstPage) {
 }
 
 TEST_F(Delivery, reportsAreWrittenFromASavedSystem) {
-  const Outcome built = build({});
-  ASSERT_EQ(built.status, 0) << built.errors;
-  const std::string system = built.output.substr(0, built.output.find('\n'));
+  const std::string system = systemOf("meeting-room");
   EXPECT_EQ(program.run({"report", system, "--out", "papers"}).status, 0);
   const fs::path sheet = folder / "papers/Meeting Room - Connection Sheet.html";
-  EXPECT_NE(readWhole(sheet).find("Wall Plate Transmitter"), std::string::npos);
+  expectHas(fileText(sheet), "Wall Plate Transmitter");
   EXPECT_EQ(program.run({"report", system, "--out", "papers"}).status, 0) << "its own are replaced";
   fs::create_directory(folder / "other");
   fs::copy_file(system, folder / "other/Meeting Room.tsy");
   const Outcome refused = program.run({"report", "other/Meeting Room.tsy", "--out", "papers"});
   EXPECT_EQ(refused.status, 1);
-  EXPECT_NE(refused.errors.find("Meeting Room - Bill of Materials.html\" is there already"),
-            std::string::npos)
-      << refused.errors;
+  expectHas(refused.errors, "Meeting Room - Bill of Materials.html\" is there already");
   EXPECT_EQ(
       program.run({"report", "other/Meeting Room.tsy", "--out", "papers", "--replace"}).status, 0);
   EXPECT_EQ(program.run({"report", "nowhere.tsy"}).status, 2);

@@ -24,7 +24,7 @@ TEST(Documents, ofTheAnswersSayWhatIsLeftWhereOneIsLeftOut) {
     folder.write("answers.json", room.dump());
     const Outcome outcome = program.run({"build", "answers.json", "--replace"});
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
-    return readWhole(folder / "systems/Hall/Hall.tsy");
+    return fileText(folder / "systems/Hall/Hall.tsy");
   };
   const std::string leftOut = built();
   for (const answers::Step& step : answers::table()) {
@@ -57,8 +57,7 @@ TEST(Documents, letTheShellOfferCommandsOptionsAndFiles) {
   EXPECT_EQ(offered("orlena show h", 2), "hall.tsy\n");
   EXPECT_EQ(offered("orlena build --out s", 3), "share\n");
   EXPECT_EQ(offered("orlena build --upload \"\"", 3), "\n");
-  EXPECT_NE(readWhole(folder / "share/man/man1/orlena.1").find("\\fB\\-\\-replace\\fR"),
-            std::string::npos);
+  expectHas(fileText(folder / "share/man/man1/orlena.1"), "\\fB\\-\\-replace\\fR");
 }
 
 }  // namespace

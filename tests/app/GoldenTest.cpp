@@ -45,7 +45,7 @@ std::string difference(const fs::path& expected, const std::string& built) {
   const fs::path actual = folder.write("built.json", built);
   const std::string command = "diff -Nu --label expected --label built '" + expected.string() +
                               "' '" + actual.string() + "' > '" + (folder / "diff").string() + "'";
-  return std::system(command.c_str()) == 0 ? "" : readWhole(folder / "diff");
+  return std::system(command.c_str()) == 0 ? "" : fileText(folder / "diff");
 }
 
 TEST(GoldenRooms, areCompleteAndHoldNothingElse) {
@@ -60,7 +60,7 @@ TEST(GoldenRooms, areCompleteAndHoldNothingElse) {
       EXPECT_GT(fs::file_size(entry.path()), 0U) << entry.path();
     }
     EXPECT_EQ(files, (std::set<std::string>{"README", "answers.json", "expected.json"})) << golden;
-    const std::string why = readWhole(golden / "README");
+    const std::string why = fileText(golden / "README");
     EXPECT_EQ(why.find('\n'), why.size() - 1) << golden << ": README must be one line";
   }
 }

@@ -7,28 +7,25 @@ namespace {
 
 using Listing = std::vector<std::string>;
 
-class OrlenaOutput : public testing::Test {
+class OrlenaOutput : public ProgramTest {
  protected:
   void SetUp() override {
     for (const std::string name : {"A", "B"}) {
-      folder_.write(name + ".json", R"({"name": "Room )" + name + "\"}");
+      folder.write(name + ".json", R"({"name": "Room )" + name + "\"}");
     }
   }
-
-  TemporaryFolder folder_;
-  Program program_{folder_};
 };
 
 TEST_F(OrlenaOutput, thatCanNotBeWrittenIsToldAndTheRoomsStaySaved) {
   for (const std::string to : {" > /dev/full", " >&-"}) {
-    const Outcome built = program_.shell("orlena build --replace A.json B.json" + to);
+    const Outcome built = program.shell("orlena build --replace A.json B.json" + to);
     EXPECT_EQ(built.status, 1) << to;
     EXPECT_TRUE(built.errors.starts_with("orlena: standard output can't be written: "))
         << built.errors;
     for (const std::string command :
          {"show 'systems/Room B/Room B.tsy'", "report --out papers 'systems/Room A/Room A.tsy'",
           "--help", "build --help", "--version"}) {
-      const Outcome outcome = program_.shell("orlena " + command + to);
+      const Outcome outcome = program.shell("orlena " + command + to);
       EXPECT_EQ(outcome.status, 1) << command << to;
       EXPECT_TRUE(outcome.errors.ends_with(built.errors)) << command << outcome.errors;
     }
@@ -37,11 +34,11 @@ TEST_F(OrlenaOutput, thatCanNotBeWrittenIsToldAndTheRoomsStaySaved) {
 
 TEST_F(OrlenaOutput, thatNobodyReadsEndsTheProgramSilently) {
   const auto unread = [&](const std::string& arguments) {
-    return program_.shell("{ sleep 0.2; orlena " + arguments + "; echo $? >&2; } | true").errors;
+    return program.shell("{ sleep 0.2; orlena " + arguments + "; echo $? >&2; } | true").errors;
   };
   EXPECT_EQ(unread("build A.json B.json"), "141\n");
-  EXPECT_EQ(folder_.listing(), (Listing{"A.json", "B.json", "systems/", "systems/Room A/",
-                                        "systems/Room A/Room A.tsy"}));
+  EXPECT_EQ(folder.listing(), (Listing{"A.json", "B.json", "systems/", "systems/Room A/",
+                                       "systems/Room A/Room A.tsy"}));
   EXPECT_EQ(unread("show 'systems/Room A/Room A.tsy'"), "141\n");
 }
 

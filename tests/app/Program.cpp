@@ -4,47 +4,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <utility>
 
 namespace app {
 
 namespace fs = std::filesystem;
-
-TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (fs::temp_directory_path() / "orlena-test-XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder: " + pattern);
-  path_ = fs::canonical(pattern);
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code failure;
-  fs::remove_all(path_, failure);
-}
-
-fs::path writeFile(const fs::path& file, const std::string& content) {
-  fs::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << content;
-  return file;
-}
-
-std::vector<std::string> TemporaryFolder::listing() const {
-  std::vector<std::string> found;
-  for (const auto& entry : fs::recursive_directory_iterator(path_)) {
-    found.push_back(fs::relative(entry.path(), path_).string() + (entry.is_directory() ? "/" : ""));
-  }
-  std::sort(found.begin(), found.end());
-  return found;
-}
-
-std::string readWhole(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 Outcome Program::run(const std::vector<std::string>& arguments) {
   start(arguments);
@@ -89,7 +55,7 @@ Outcome Program::wait() {
   int state = 0;
   waitpid(processId_, &state, 0);
   const int status = WIFEXITED(state) ? WEXITSTATUS(state) : -WTERMSIG(state);
-  return {status, readWhole(streams_ / "output"), readWhole(streams_ / "errors")};
+  return {status, fileText(streams_ / "output"), fileText(streams_ / "errors")};
 }
 
 }  // namespace app

@@ -1,45 +1,29 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/types.h>
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "tests/support/Files.h"
+#include "tests/support/Texts.h"
+
 namespace app {
+
+using tests::expectHas;
+using tests::fileText;
+using tests::TemporaryFolder;
+using tests::writeFile;
 
 /// What a run of the program left.
 struct Outcome {
   int status = -1;  // negative: the signal that ended it
   std::string output;
   std::string errors;
+
+  std::string firstLine() const { return output.substr(0, output.find('\n')); }
 };
-
-/// Writes a file and the folders that it needs, and answers its path.
-std::filesystem::path writeFile(const std::filesystem::path& file, const std::string& content);
-
-/// A folder of its own for a test, gone with it.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  const std::filesystem::path& path() const { return path_; }
-  std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
-
-  std::filesystem::path write(const std::string& name, const std::string& content) const {
-    return writeFile(path_ / name, content);
-  }
-  /// Everything in the folder, with paths relative to it, in order. Folders end with "/".
-  std::vector<std::string> listing() const;
-
- private:
-  std::filesystem::path path_;
-};
-
-std::string readWhole(const std::filesystem::path& file);
 
 /// The program as a process, run in a folder, which also holds its systems where nothing else is
 /// said.
@@ -66,6 +50,19 @@ class Program {
   TemporaryFolder streams_;
   std::string platform_;
   pid_t processId_ = 0;
+};
+
+/// Runs the program in a folder of its own.
+class ProgramTest : public testing::Test {
+ protected:
+  Outcome build(const std::string& answers, std::vector<std::string> options = {}) {
+    folder.write("answers.json", answers);
+    options.insert(options.begin(), {"build", "answers.json"});
+    return program.run(options);
+  }
+
+  TemporaryFolder folder;
+  Program program{folder};
 };
 
 }  // namespace app

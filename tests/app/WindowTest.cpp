@@ -11,8 +11,7 @@ TEST(OrlenaWindow, withoutADisplayIsRefusedWithTheWayAround) {
   for (const auto& arguments : {std::vector<std::string>{}, {"wizard"}, {"wizard", "Hall.tsy"}}) {
     const Outcome outcome = program.run(arguments);
     EXPECT_EQ(outcome.status, 2);
-    EXPECT_NE(outcome.errors.find("\"orlena build\" works without one"), std::string::npos)
-        << outcome.errors;
+    expectHas(outcome.errors, "\"orlena build\" works without one");
   }
 }
 
@@ -24,7 +23,7 @@ TEST(OrlenaWindow, onASystemThatIsNotThereDoesNotOpen) {
   program.setPlatform("offscreen");
   const Outcome outcome = program.run({"wizard", "Hall.tsy"});
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_NE(outcome.errors.find("\"Hall.tsy\""), std::string::npos) << outcome.errors;
+  expectHas(outcome.errors, "\"Hall.tsy\"");
 }
 
 TEST(OrlenaWindow, isDrawnOnEveryStep) {
@@ -34,7 +33,7 @@ TEST(OrlenaWindow, isDrawnOnEveryStep) {
   EXPECT_EQ(outcome.status, 0) << outcome.errors;
   int drawn = 0;
   for (const auto& entry : std::filesystem::directory_iterator(folder / "pictures")) {
-    EXPECT_EQ(readWhole(entry.path()).substr(1, 3), "PNG") << entry.path();
+    EXPECT_EQ(fileText(entry.path()).substr(1, 3), "PNG") << entry.path();
     ++drawn;
   }
   EXPECT_GE(drawn, 10);

@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include "tests/fuzz/Targets.h"
+#include "tests/support/Files.h"
 
 namespace {
 
@@ -17,9 +16,7 @@ TEST(KeptCases, areTakenOrRefusedAndNothingElse) {
     const fs::path cases = fs::path(ORLENA_SOURCE_FOLDER) / "tests/fuzz/cases" / name;
     ASSERT_TRUE(fs::is_directory(cases)) << cases;
     for (const auto& entry : fs::directory_iterator(cases)) {
-      std::stringstream bytes;
-      bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-      EXPECT_NO_THROW(target(bytes.str())) << entry.path();
+      EXPECT_NO_THROW(target(tests::fileText(entry.path()))) << entry.path();
     }
   }
 }

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "trellisar/archive/ArchiveHandle.h"
+#include "tests/support/Zip.h"
 
 namespace tests {
 namespace {
@@ -43,14 +43,9 @@ void takeAway(const Place& place) {
 
 /// What a reader that expects another type must refuse.
 const std::array<Json, 8>& ofEveryType() {
-  static const std::array<Json, 8> values = {nullptr,
-                                             true,
-                                             0,
-                                             -1.5,
-                                             "other",
-                                             Json::array(),
-                                             Json::object(),
-                                             Json::array({Json::object()})};
+  static const auto values = [](auto... value) {
+    return std::array{Json(value)...};
+  }(nullptr, true, 0, -1.5, "other", Json::array(), Json::object(), Json::array({Json::object()}));
   return values;
 }
 
@@ -89,11 +84,6 @@ void makeHuge(Json& value, Decisions& decisions) {
 }
 
 void empty(Json& value) { value = Json(value.type()); }
-
-la_ssize_t append(struct archive*, void* bytes, const void* block, std::size_t size) {
-  static_cast<std::string*>(bytes)->append(static_cast<const char*>(block), size);
-  return static_cast<la_ssize_t>(size);
-}
 
 /// What the zip writer takes: its own memory ends a name of 64 KB.
 constexpr std::size_t longestName = 1000;
@@ -152,24 +142,13 @@ Json archiveStructure(const std::filesystem::path& file) {
 }
 
 std::string archiveBytes(const Json& entries) {
-  std::string bytes;
-  const trellisar::Utf8Names names;
-  const trellisar::ArchiveHandle zip(archive_write_new());
-  archive_write_set_format_zip(zip.get());
-  archive_write_open(zip.get(), &bytes, nullptr, append, nullptr);
+  std::vector<ZipEntry> zipped;
   for (const Json& item : entries) {
-    const trellisar::ArchiveEntry entry(archive_entry_new());
-    const std::string content = textOr(item, "content", "");
-    const std::string name = textOr(item, "name", "none").substr(0, longestName);
-    archive_entry_set_pathname_utf8(entry.get(), name.c_str());
-    archive_entry_set_size(entry.get(), static_cast<la_int64_t>(content.size()));
-    archive_entry_set_filetype(entry.get(), item.is_object() ? AE_IFREG : AE_IFDIR);
-    archive_entry_set_perm(entry.get(), 0644);
-    archive_write_header(zip.get(), entry.get());
-    archive_write_data(zip.get(), content.data(), content.size());
+    zipped.push_back({.name = textOr(item, "name", "none").substr(0, longestName),
+                      .content = textOr(item, "content", ""),
+                      .isFolder = !item.is_object()});
   }
-  archive_write_close(zip.get());
-  return bytes;
+  return zipOf(zipped);
 }
 
 }  // namespace tests

@@ -1,8 +1,6 @@
 #include "tests/fuzz/Targets.h"
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 
 #include "addin/IAddIn.h"
@@ -20,11 +18,12 @@
 #include "receiver/Frame.h"
 #include "receiver/Messages.h"
 #include "tests/fuzz/Structure.h"
+#include "tests/support/Files.h"
+#include "tests/support/Shipped.h"
 #include "trellisar/archive/Archive.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/compile/ProgramCheck.h"
 #include "trellisar/document/SystemFile.h"
-#include "trellisar/library/DeviceLibrary.h"
 #include "trellisar/panels/PanelProject.h"
 #include "trellisar/settings/Preferences.h"
 #include "trellisar/window/Host.h"
@@ -34,35 +33,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path data = fs::path(ORLENA_SOURCE_FOLDER) / "data";
-
 void require(bool holds, const char* what) {
   if (!holds) throw std::logic_error(what);
 }
 
-/// A folder for the files of one process, which goes with it.
-class Folder {
- public:
-  Folder() {
-    std::string pattern = (fs::temp_directory_path() / "orlena-fuzz-XXXXXX").string();
-    path_ = ::mkdtemp(pattern.data());
-  }
-  ~Folder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
-  fs::path write(const std::string& name, std::string_view bytes) const {
-    std::ofstream(path_ / name, std::ios::binary) << bytes;
-    return path_ / name;
-  }
-  const fs::path& path() const { return path_; }
-
- private:
-  fs::path path_;
-};
-
-const Folder& folder() {
-  static const Folder made;
+/// For the files of one process.
+const TemporaryFolder& folder() {
+  static const TemporaryFolder made;
   return made;
 }
 
@@ -70,12 +47,12 @@ const Folder& folder() {
 struct World {
   app::RunReport report{"fuzzing"};
   answers::UnattendedDesktop desktop{report};
-  forms::Application application{desktop, forms::fromMachinePath(data)};
-  trellisar::Host host{{.dataFolder = data}};
+  forms::Application application{desktop, forms::fromMachinePath(dataFolder())};
+  trellisar::Host host{{.dataFolder = dataFolder()}};
   std::shared_ptr<addin::IAddIn> addIn = std::make_shared<addin::IAddIn>();
 
   World() {
-    const auto file = data / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
+    const auto file = dataFolder() / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
     addin::SetAddIn(addIn);
     addin::SetDocument(host.mainWindow()->FileOpen(forms::fromMachinePath(file), false));
     addin::SetLibraryManager(host.libraryManager());
@@ -127,7 +104,7 @@ void answers(std::string_view bytes) {
 }
 
 void archive(std::string_view bytes) {
-  const fs::path parent = folder().path() / "unpacked";
+  const fs::path parent = folder() / "unpacked";
   fs::create_directories(parent);
   try {
     trellisar::unpackArchive(folder().write("system.tsa", bytes), parent);
@@ -159,7 +136,7 @@ void project(std::string_view bytes) {
 
 /// A file that can't be read is kept beside; one that can be keeps what was not changed.
 void preferences(std::string_view bytes) {
-  const fs::path parent = folder().path() / "preferences";
+  const fs::path parent = folder() / "preferences";
   fs::create_directories(parent);
   const fs::path file = folder().write("preferences/preferences.json", bytes);
   bool isAside = false;
@@ -180,7 +157,7 @@ constexpr std::pair<const char*, FuzzTarget> structured[] = {
     {"preferences", preferences}, {"archive", archive}, {"answers", answers}};
 
 base::Json wholeFile(const std::string& kind) {
-  const fs::path file = fs::path(ORLENA_SOURCE_FOLDER) / "tests/fuzz/cases" / kind / "whole";
+  const fs::path file = fs::path(ORLENA_SOURCE_FOLDER "/tests/fuzz/cases") / kind / "whole";
   if (kind == "archive") return archiveStructure(file);
   return base::parseJson(base::readFile(file), kind);
 }

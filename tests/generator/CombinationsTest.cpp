@@ -9,9 +9,7 @@
 #include <set>
 #include <sstream>
 
-#include "forms/Application.h"
 #include "tests/generator/Combination.h"
-#include "tests/support/ScriptedDesktop.h"
 
 namespace {
 
@@ -20,12 +18,6 @@ using tests::Program;
 using tests::Room;
 
 const std::string file = std::string(ORLENA_SOURCE_FOLDER) + "/tests/generator/combinations.txt";
-
-class CombinationsTest : public testing::Test {
- protected:
-  tests::ScriptedDesktop desktop;
-  forms::Application application{desktop, "\\program"};
-};
 
 /// The programs of all combinations in a form that can be read. What a place can hold is told once,
 /// under a number; a line for each combination names the numbers, each behind the letters of its
@@ -124,7 +116,7 @@ void expectSound(Room& room, const std::string& name) {
   EXPECT_EQ(room.program(), program) << name << ": another second run";
 }
 
-TEST_F(CombinationsTest, haveTheirProgramsWithNothingUnknownAndCanBeBuiltAgain) {
+TEST(CombinationsTest, haveTheirProgramsWithNothingUnknownAndCanBeBuiltAgain) {
   Book book;
   for (const Combination& combination : tests::variedCombinations()) {
     Room room;
@@ -245,7 +237,7 @@ std::string textAt(const Program& program, const std::string& place) {
   return found == program.end() ? "" : found->second;
 }
 
-TEST_F(CombinationsTest, answeredAnewGiveTheProgramOfAFreshRoomButForKnownPlaces) {
+TEST(CombinationsTest, answeredAnewGiveTheProgramOfAFreshRoomButForKnownPlaces) {
   std::set<const KeptPlace*> met;
   std::minstd_rand random;  // the same pairs every time
   for (int pair = 0; pair < 1000; ++pair) {

@@ -16,9 +16,10 @@ namespace tests {
 ///     "Receiver.RGB_Selected 0"             -> "Display Device.RGB_1~10"
 ///     "Receiver.RGB_Selected events"        -> "7", those that are enabled
 ///     "Kestrum Interface.Display_Usage <-"  -> "Display Device.Lamp_Hours"
-///     "PWRSENSE"                            -> "hidden, Power Sensing, sensor 1 of model 844 as
-///     i4" "PWRSENSE slot Power_Toggle"          -> "Display Device.POWER" "Motion Detector is
-///     Timeout"          -> "600" "Receiver bill"                       -> "1 x 20701 + 1 x 366"
+///     "PWRSENSE"                   -> "hidden, Power Sensing, sensor 1 of model 844 as i4"
+///     "PWRSENSE slot Power_Toggle" -> "Display Device.POWER"
+///     "Motion Detector is Timeout" -> "600"
+///     "Receiver bill"              -> "1 x 20701 + 1 x 366"
 ///
 /// Steps are separated by "; ":
 ///

@@ -3,22 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "forms/Application.h"
 #include "forms/Components.h"
 #include "tests/generator/Room.h"
-#include "tests/support/ScriptedDesktop.h"
 
 namespace {
 
 using tests::Room;
 
-class ProgramTest : public testing::Test {
- protected:
-  tests::ScriptedDesktop desktop;
-  forms::Application application{desktop, "\\program"};
-};
-
-TEST_F(ProgramTest, lampHoursComeFromTheFirstOutputThatTheDisplayHas) {
+TEST(ProgramTest, lampHoursComeFromTheFirstOutputThatTheDisplayHas) {
   struct Case {
     std::int16_t display;
     std::string source;
@@ -40,7 +32,7 @@ TEST_F(ProgramTest, lampHoursComeFromTheFirstOutputThatTheDisplayHas) {
   }
 }
 
-TEST_F(ProgramTest, sourceWhoseCommandTheDisplayLacksIsNeitherSentNorLogged) {
+TEST(ProgramTest, sourceWhoseCommandTheDisplayLacksIsNeitherSentNorLogged) {
   Room room;
   room.givenDisplay(host::powerDiscrete);
   room.addIn().AddKestrum();
@@ -52,7 +44,7 @@ TEST_F(ProgramTest, sourceWhoseCommandTheDisplayLacksIsNeitherSentNorLogged) {
   EXPECT_EQ(room.errors().size(), 1U) << "the branch in Display Power On names it all the same";
 }
 
-TEST_F(ProgramTest, presetsKeepTheCommentsOfAUser) {
+TEST(ProgramTest, presetsKeepTheCommentsOfAUser) {
   Room room;
   for (const auto& preset : room.document().get_Presets()->Items()) preset->put_Comment("Mine.");
   room.preset("System Lock")->InsertStep(1, forms::createObject<host::Step>(host::progIDStep));
@@ -63,7 +55,7 @@ TEST_F(ProgramTest, presetsKeepTheCommentsOfAUser) {
   EXPECT_EQ(room.at("System Lock"), "Receiver.Lock") << "a user's steps go";
 }
 
-TEST_F(ProgramTest, outputThatWasFedIsDrivenByItsEventsAgain) {
+TEST(ProgramTest, outputThatWasFedIsDrivenByItsEventsAgain) {
   Room room;
   room.addIn().AddKestrum();
   const auto lock = room.document().get_Signals()->Find(room.addIn().get_KestrumID(), "System_Lock",
@@ -73,7 +65,7 @@ TEST_F(ProgramTest, outputThatWasFedIsDrivenByItsEventsAgain) {
   EXPECT_EQ(lock->get_SourceType(), host::sourceEvents);
 }
 
-TEST_F(ProgramTest, lockoutModuleOfAnEarlierRunIsFoundAndHidden) {
+TEST(ProgramTest, lockoutModuleOfAnEarlierRunIsFoundAndHidden) {
   Room room;
   room.givenDisplay(host::powerDiscrete);
   room.addIn().put_PowerOffLockoutTime(90);
@@ -87,7 +79,7 @@ TEST_F(ProgramTest, lockoutModuleOfAnEarlierRunIsFoundAndHidden) {
   EXPECT_EQ(room.at("PWRTIMEOUT is Warm Up Time"), "0");
 }
 
-TEST_F(ProgramTest, lockoutWithoutItsModuleStopsTheRun) {
+TEST(ProgramTest, lockoutWithoutItsModuleStopsTheRun) {
   Room room;
   room.givenDisplay(host::powerDiscrete);
   room.addIn().put_PowerOnLockoutTime(30);

@@ -6,27 +6,11 @@
 
 #include "addin/modGlobals.h"
 #include "forms/Paths.h"
+#include "forms/Text.h"
 #include "tests/support/Files.h"
-#include "trellisar/library/DeviceLibrary.h"
 
 namespace tests {
 namespace {
-
-/// The shipped one is read once for all rooms of the program.
-std::shared_ptr<const trellisar::DeviceLibrary> libraryOf(const std::filesystem::path& data) {
-  static const auto shipped =
-      std::make_shared<const trellisar::DeviceLibrary>(shippedData() / "library");
-  if (data == shippedData()) return shipped;
-  return std::make_shared<const trellisar::DeviceLibrary>(data / "library");
-}
-
-std::string replaced(std::string text, const std::string& part, const std::string& replacement) {
-  for (auto at = text.find(part); at != std::string::npos;
-       at = text.find(part, at + replacement.size())) {
-    text.replace(at, part.size(), replacement);
-  }
-  return text;
-}
 
 class NoModules : public host::LibraryManager {
  public:
@@ -38,26 +22,27 @@ class NoModules : public host::LibraryManager {
 
 }  // namespace
 
-std::filesystem::path shippedData() { return std::filesystem::path(ORLENA_SOURCE_FOLDER) / "data"; }
-
 void copyData(const std::filesystem::path& folder, const std::string& text,
               const std::string& replacement) {
   bool isThere = false;
   for (const std::string part : {"library", "TemplateSystems"}) {
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(shippedData() / part)) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(dataFolder() / part)) {
       if (!entry.is_regular_file()) continue;
-      const auto copy = folder / std::filesystem::relative(entry.path(), shippedData());
-      std::filesystem::create_directories(copy.parent_path());
+      const auto copy = folder / std::filesystem::relative(entry.path(), dataFolder());
       const std::string original = fileText(entry.path());
       isThere |= original.find(text) != std::string::npos;
-      writeFile(copy, replaced(original, text, replacement));
+      writeFile(copy, forms::replacedAll(original, text, replacement));
     }
   }
   EXPECT_TRUE(isThere) << text << " is not in the data";
 }
 
 Room::Room(const std::filesystem::path& data)
-    : host_({.dataFolder = data, .library = libraryOf(data), .preferencesFile = {}}) {
+    : host_({.dataFolder = data,
+             .library = data == dataFolder()
+                            ? shippedLibrary()
+                            : std::make_shared<const trellisar::DeviceLibrary>(data / "library"),
+             .preferencesFile = {}}) {
   const auto system = data / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
   const auto document = host_.mainWindow()->FileOpen(forms::fromMachinePath(system), false);
   if (!document) throw std::runtime_error("The system could not be opened: " + system.string());

@@ -1,23 +1,23 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "addin/IAddIn.h"
+#include "forms/Application.h"
 #include "generator/Generate.h"
 #include "host/Numbers.h"
 #include "tests/generator/Program.h"
+#include "tests/support/ScriptedDesktop.h"
+#include "tests/support/Shipped.h"
 #include "trellisar/compile/ProgramCheck.h"
 #include "trellisar/window/Host.h"
 
 namespace tests {
 
-/// What the host ships: the template system, the example and the device library.
-std::filesystem::path shippedData();
-/// Copies it, with a text replaced in all files, one of which must hold it.
+/// Copies what the host ships, with a text replaced in all files, one of which must hold it.
 void copyData(const std::filesystem::path& folder, const std::string& text,
               const std::string& replacement);
 
@@ -26,7 +26,7 @@ void copyData(const std::filesystem::path& folder, const std::string& text,
 /// it is made.
 class Room {
  public:
-  explicit Room(const std::filesystem::path& data = shippedData());
+  explicit Room(const std::filesystem::path& data = dataFolder());
   ~Room();
 
   // What is there already under the name of a display, screen or lift is removed before.
@@ -60,12 +60,13 @@ class Room {
 
   addin::IAddIn& addIn() { return *addIn_; }
   host::Document& document() const { return *host_.document(); }
-  trellisar::Host& host() { return host_; }
   std::shared_ptr<host::Device> display() const;
 
  private:
   std::int16_t addDevice(const std::string& name, std::int16_t controlEntry);
 
+  ScriptedDesktop desktop_;
+  forms::Application application_{desktop_, "\\program"};
   trellisar::Host host_;
   std::shared_ptr<addin::IAddIn> addIn_ = std::make_shared<addin::IAddIn>();
   std::unique_ptr<generator::Generate> builder_ = std::make_unique<generator::Generate>();

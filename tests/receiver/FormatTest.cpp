@@ -33,7 +33,7 @@ TEST(AddressTest, BadOneIsNamedWithItsFault) {
       Address::parse(text);
       ADD_FAILURE() << text;
     } catch (const receiver::Error& error) {
-      EXPECT_NE(std::string(error.what()).find(fault), std::string::npos) << error.what();
+      expectHas(std::string(error.what()), fault);
     }
   }
 }

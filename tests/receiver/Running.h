@@ -12,6 +12,7 @@
 #include "receiver/Server.h"
 #include "receiver/Transfer.h"
 #include "tests/support/Files.h"
+#include "tests/support/Texts.h"
 
 namespace tests {
 
@@ -71,6 +72,12 @@ class Wire {
   receiver::Message ask(const receiver::Message& message) {
     send(message);
     return answer();
+  }
+  /// Sends the first of them; each must be accepted.
+  void askFirst(const std::vector<receiver::Message>& messages, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+      EXPECT_EQ(ask(messages[i]), receiver::Message(receiver::Accepted()));
+    }
   }
   /// The reason of the refusal that is answered; empty for another answer.
   std::string refusal() {

@@ -121,8 +121,7 @@ class Stranger {
 TEST_F(TransferTest, OneThatDoesNotAnswerEndsTheWait) {
   Stranger silent("");
   const receiver::TimeLimits limits{.answer = 100ms};
-  EXPECT_NE(sent(silent.address(), program, limits).message.find("within 100 milliseconds"),
-            std::string::npos);
+  expectHas(sent(silent.address(), program, limits).message, "within 100 milliseconds");
 }
 
 TEST_F(TransferTest, OneThatIsNoReceiverIsToldApart) {
@@ -135,7 +134,7 @@ TEST_F(TransferTest, OneThatIsNoReceiverIsToldApart) {
         Case{receiver::Frame{receiver::FrameType::holdings, "{}"}.encode(), "not understood"}}) {
     Stranger stranger(words);
     const std::string message = sent(stranger.address(), program).message;
-    EXPECT_NE(message.find(expected), std::string::npos) << message;
+    expectHas(message, expected);
   }
 }
 

@@ -1,13 +1,10 @@
-#include <archive.h>
-#include <archive_entry.h>
-
 #include <cstdlib>
 #include <ctime>
-#include <functional>
 
 #include "base/FileIO.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
+#include "tests/support/Zip.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/archive/Archive.h"
 #include "trellisar/compile/CompiledProgram.h"
@@ -17,41 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using base::readFile;
-
-struct Entry {
-  std::string name;
-  std::string content;
-  std::string linkTo = {};
-};
-
-/// A zip file with exactly these entries.
-std::string zipOf(const std::vector<Entry>& entries) {
-  std::string bytes;
-  archive* zip = archive_write_new();
-  archive_write_set_format_zip(zip);
-  archive_write_set_bytes_in_last_block(zip, 1);
-  archive_write_open(
-      zip, &bytes, nullptr,
-      [](archive*, void* to, const void* block, std::size_t size) {
-        static_cast<std::string*>(to)->append(static_cast<const char*>(block), size);
-        return static_cast<la_ssize_t>(size);
-      },
-      nullptr);
-  for (const Entry& one : entries) {
-    archive_entry* entry = archive_entry_new();
-    archive_entry_set_pathname(entry, one.name.c_str());
-    archive_entry_set_filetype(entry, one.linkTo.empty() ? AE_IFREG : AE_IFLNK);
-    if (!one.linkTo.empty()) archive_entry_set_symlink(entry, one.linkTo.c_str());
-    archive_entry_set_perm(entry, 0644);
-    archive_entry_set_size(entry, static_cast<la_int64_t>(one.content.size()));
-    archive_write_header(zip, entry);
-    archive_write_data(zip, one.content.data(), one.content.size());
-    archive_entry_free(entry);
-  }
-  archive_write_close(zip);
-  archive_write_free(zip);
-  return bytes;
-}
 
 class ArchiveTest : public HostTest {
  protected:
@@ -68,8 +30,8 @@ class ArchiveTest : public HostTest {
     fs::create_directory(place());
   }
 
-  fs::path place() const { return folder.path() / "place"; }
-  fs::path inRoom(const std::string& name) const { return folder.path() / "Büro" / name; }
+  fs::path place() const { return folder / "place"; }
+  fs::path inRoom(const std::string& name) const { return folder / "Büro" / name; }
   void exportTo(const std::string& name) {
     desktop.expectSaveDialog("Export System", folder.inside(name));
     std::int32_t hwnd = 0;
@@ -78,7 +40,7 @@ class ArchiveTest : public HostTest {
 
   /// What unpacking says of the bytes; empty when it takes them. A refusal leaves nothing behind.
   std::string refusalOf(const std::string& bytes) {
-    const fs::path file = folder.path() / "Other.tsa";
+    const fs::path file = folder / "Other.tsa";
     writeFile(file, bytes);
     const std::string refusal =
         raisedBy([&] { trellisar::unpackArchive(file, place()); }).description();
@@ -91,7 +53,7 @@ class ArchiveTest : public HostTest {
 
 TEST_F(ArchiveTest, HoldsTheWholeSystemAndGivesItBack) {
   exportTo("Room");
-  const fs::path archive = folder.path() / "Room.tsa";
+  const fs::path archive = folder / "Room.tsa";
   ASSERT_TRUE(fs::exists(archive)) << "the extension is added";
   EXPECT_EQ(host.exportedFile(), archive);
 
@@ -127,11 +89,11 @@ TEST_F(ArchiveTest, SameRoomGivesTheSameBytesInEveryTimeZone) {
 TEST_F(ArchiveTest, ExportThatCantBeIsToldAndReplacesNothing) {
   desktop.expectMessageWith(forms::Icon::critical, "its folder does not exist");
   exportTo("none\\Room.tsa");
-  writeFile(folder.path() / "Old.tsa", "old");
+  folder.write("Old.tsa", "old");
   fs::remove(inRoom("Büro.tsp"));
   desktop.expectMessageWith(forms::Icon::critical, "The system could not be exported.");
   exportTo("Old.tsa");
-  EXPECT_EQ(readFile(folder.path() / "Old.tsa"), "old");
+  EXPECT_EQ(readFile(folder / "Old.tsa"), "old");
   EXPECT_TRUE(host.exportedFile().empty());
 }
 
@@ -148,7 +110,7 @@ TEST_F(ArchiveTest, NamesOfAnyLettersComeBack) {
     ASSERT_TRUE(window().CreateTouchpanels(panel));
     bool cancelled = false;
     ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
-    const fs::path file = folder.path() / "names.tsa";
+    const fs::path file = folder / "names.tsa";
     writeFile(file, trellisar::archiveOf(data()));
     const fs::path system = trellisar::unpackArchive(file, place());
     EXPECT_EQ(system, place() / unpacked / (unpacked + ".tsy"));
@@ -159,10 +121,10 @@ TEST_F(ArchiveTest, NamesOfAnyLettersComeBack) {
 }
 
 TEST_F(ArchiveTest, HostileArchivesAreRefused) {
-  const Entry system{"Room.tsy", readFile(inRoom("Büro.tsy"))};
-  std::vector<Entry> many(1001, system);
+  const ZipEntry system{"Room.tsy", readFile(inRoom("Büro.tsy"))};
+  std::vector<ZipEntry> many(1001, system);
   for (std::size_t i = 1; i < many.size(); ++i) many[i] = {"f" + std::to_string(i), ""};
-  const std::pair<std::vector<Entry>, const char*> cases[] = {
+  const std::pair<std::vector<ZipEntry>, const char*> cases[] = {
       {{system, {"../evil", "x"}}, "\"../evil\" leads out of the system's folder"},
       {{system, {"a/../../evil", "x"}}, "leads out of the system's folder"},
       {{system, {"/tmp/evil", "x"}}, "leads out of the system's folder"},
@@ -183,9 +145,9 @@ TEST_F(ArchiveTest, HostileArchivesAreRefused) {
   };
   for (const auto& [entries, why] : cases) {
     const std::string refusal = refusalOf(zipOf(entries));
-    EXPECT_NE(refusal.find(why), std::string::npos) << why << "\nsaid: " << refusal;
+    expectHas(refusal, why);
   }
-  EXPECT_NE(refusalOf("no zip at all").find("it is damaged or no archive"), std::string::npos);
+  expectHas(refusalOf("no zip at all"), "it is damaged or no archive");
 }
 
 TEST_F(ArchiveTest, DamagedAnywhereIsRefusedOrHarmless) {

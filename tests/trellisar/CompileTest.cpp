@@ -32,7 +32,7 @@ class CompileTest : public HostTest {
     saveAsRoom();
   }
 
-  fs::path inRoom(const std::string& name) const { return folder.path() / "Room" / name; }
+  fs::path inRoom(const std::string& name) const { return folder / "Room" / name; }
   bool build() { return window().ShowCreateProgramDialog(cancelled); }
 
   std::int16_t display = 0;
@@ -156,7 +156,7 @@ TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {
   const std::string old = readFile(inRoom("Room.tsy"));
   std::vector<std::string> shown;
   desktop.whenShown("CompileDialog", [&](forms::Form& form) {
-    auto& list = dynamic_cast<forms::ListBox&>(form.control("lstErrors"));
+    auto& list = in<forms::ListBox>(form, "lstErrors");
     for (std::int32_t i = 0; i < list.count(); ++i) shown.push_back(list.text(i));
     user.click(form.control("cmdClose"));
   });
@@ -182,7 +182,7 @@ TEST_F(CompileTest, AnErrorNamesThePageThatMendsItAndLeadsThere) {
     if (one->name == "System Lock") one->steps.back()->target = 999;
   }
   desktop.whenShown("CompileDialog", [&](forms::Form& form) {
-    auto& list = dynamic_cast<forms::ListBox&>(form.control("lstErrors"));
+    auto& list = in<forms::ListBox>(form, "lstErrors");
     const std::string first =
         "preset \"System Lock\", step 1: the device \"Display Device\" has no command \"Dance\". "
         "It "
@@ -212,10 +212,7 @@ TEST_F(CompileTest, CancelAndAFailedWriteLeaveEverythingAsItWas) {
   fs::rename(inRoom("Room.tsy"), inRoom("Room.old"));
   fs::create_directory(inRoom("Room.tsy"));
   desktop.whenShown("CompileDialog", [&](forms::Form& form) {
-    EXPECT_NE(dynamic_cast<forms::ListBox&>(form.control("lstErrors"))
-                  .text(0)
-                  .find("a folder stands where the file"),
-              std::string::npos);
+    expectHas(in<forms::ListBox>(form, "lstErrors").text(0), "a folder stands where the file");
     user.press(forms::keys::escape);
   });
   EXPECT_FALSE(build());

@@ -20,7 +20,7 @@ class ComponentTest : public HostTest {
   ComponentTest() { setenv("TRELLISAR_SYSTEMS", folder.path().c_str(), 1); }
   ~ComponentTest() override { unsetenv("TRELLISAR_SYSTEMS"); }
 
-  std::filesystem::path registration() const { return folder.path() / "components.json"; }
+  std::filesystem::path registration() const { return folder / "components.json"; }
 
   void givenRegistered(const std::string& className, const std::string& library) {
     givenRegistration(R"({"class": ")" + className + R"(", "library": ")" + library + "\"}");
@@ -34,7 +34,7 @@ class ComponentTest : public HostTest {
   void expectFailure(const std::string& part, const std::string& className = addInClass) {
     const std::string failure =
         raisedBy([&] { trellisar::createAddIn(registration(), className); }).description();
-    EXPECT_NE(failure.find(part), std::string::npos) << failure;
+    expectHas(failure, part);
   }
 
   /// Whether the component is in the process's memory.
@@ -64,7 +64,7 @@ TEST_F(ComponentTest, WhatCantBeUsedAndADamagedRegistrationAreToldWithTheReason)
   expectFailure("No component is registered for the class \"AddInOrlena.IAddIn\"");
   givenRegistered(addInClass, "missing.so");
   expectFailure("missing.so\" can't be used: there is no such file");
-  writeFile(folder.path() / "text.so", "no library");
+  folder.write("text.so", "no library");
   givenRegistered(addInClass, "text.so");
   expectFailure("text.so\" can't be used: it can't be loaded (");
   givenRegistered(addInClass, ORLENA_PLAIN_LIBRARY);

@@ -33,7 +33,7 @@ TEST_F(DeviceCommandsTest, LoadingTellsOnceAtItsEndWhateverItSelected) {
   selector.LoadCommands(*display, "No_Such_Command", host::commandsWithEmpty);
   EXPECT_EQ(selector.get_SelectedCommand(), "No_Such_Command");
   selector.LoadCommands(*display, "Menu", host::commandsForPower);
-  const auto& list = dynamic_cast<forms::DropDownList&>(selector.control("cboCommands"));
+  const auto& list = in<forms::DropDownList>(selector, "cboCommands");
   EXPECT_EQ(list.find("No_Such_Command"), -1) << "the next loading forgets it";
 }
 
@@ -47,7 +47,7 @@ TEST_F(DeviceCommandsTest, OnlyTheUserAndLoadingAreHeard) {
   EXPECT_EQ(selector.get_SelectedCommand(), "");
   EXPECT_EQ(changes, 0);
 
-  auto& list = dynamic_cast<forms::DropDownList&>(selector.control("cboCommands"));
+  auto& list = in<forms::DropDownList>(selector, "cboCommands");
   EXPECT_EQ(list.text(0), "[ None ]");
   desktop.whenShown("Form", [&](forms::Form& shown) {
     user.select(list, 1);

@@ -36,12 +36,13 @@ class DocumentTest : public HostTest {
 };
 
 TEST_F(DocumentTest, MarksWhatWasChanged) {
-  EXPECT_EQ(marksAfter([] {}), "unmodified, current");
+  const std::string nothing = "unmodified, current", label = "modified, current",
+                    program = "unmodified, not current", structure = "modified, not current";
   std::int16_t display = 0;
-  EXPECT_EQ(marksAfter([&] { display = addDisplay(); }), "modified, not current");
+  EXPECT_EQ(marksAfter([&] { display = addDisplay(); }), structure);
   const auto device = document().get_Devices()->Item(display);
-  EXPECT_EQ(marksAfter([&] { device->put_Label("LABEL"); }), "modified, current");
-  EXPECT_EQ(marksAfter([&] { device->put_Label("LABEL"); }), "unmodified, current");
+  EXPECT_EQ(marksAfter([&] { device->put_Label("LABEL"); }), label);
+  EXPECT_EQ(marksAfter([&] { device->put_Label("LABEL"); }), nothing);
   EXPECT_EQ(marksAfter([&] {
               device->put_ShowInTree(false);
               device->put_PowerControlType(host::powerDiscrete);
@@ -53,34 +54,33 @@ TEST_F(DocumentTest, MarksWhatWasChanged) {
               signal(receiver(), "Powered_On")->get_Options()->EnableEvents(host::eventsAll, true);
               static_cast<void>(document().get_Reports()->get_BillOfMaterials()->RemoveItem(99));
             }),
-            "unmodified, current");
+            nothing);
 
   const auto on = preset("System Power On");
-  EXPECT_EQ(marksAfter([&] { on->ClearSteps(); }), "unmodified, current") << "it was empty";
-  EXPECT_EQ(marksAfter([&] { press(*on, display, "Power_On"); }), "unmodified, not current");
-  EXPECT_EQ(marksAfter([&] { on->ClearSteps(); }), "unmodified, not current");
+  EXPECT_EQ(marksAfter([&] { on->ClearSteps(); }), nothing) << "it was empty";
+  EXPECT_EQ(marksAfter([&] { press(*on, display, "Power_On"); }), program);
+  EXPECT_EQ(marksAfter([&] { on->ClearSteps(); }), program);
   const auto knob = document().get_ControlSystem()->get_Properties()->Item("Volume Knob Control");
-  EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("0d")); }), "unmodified, current");
-  EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("1d")); }), "unmodified, not current");
-  EXPECT_EQ(marksAfter([&] { EXPECT_FALSE(knob->SetValue("2d")); }), "unmodified, current");
-  EXPECT_EQ(marksAfter([&] { signal(receiver(), "Powered_On")->put_SourceType(4); }),
-            "unmodified, not current");
+  EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("0d")); }), nothing);
+  EXPECT_EQ(marksAfter([&] { EXPECT_TRUE(knob->SetValue("1d")); }), program);
+  EXPECT_EQ(marksAfter([&] { EXPECT_FALSE(knob->SetValue("2d")); }), nothing);
+  EXPECT_EQ(marksAfter([&] { signal(receiver(), "Powered_On")->put_SourceType(4); }), program);
 
   std::string message;
-  EXPECT_EQ(marksAfter([&] { document().ChangeControlSystem(841, "", 0, message); }),
-            "modified, not current");
-  EXPECT_EQ(marksAfter([&] { document().ChangeControlSystem(841, "", 0, message); }),
-            "unmodified, current");
-  EXPECT_EQ(
-      marksAfter([&] { EXPECT_TRUE(document().RemoveDevice(display, host::removalOfDevice)); }),
-      "modified, not current");
-  EXPECT_EQ(marksAfter([&] { document().SetModified(true, false, true); }), "modified, current");
-  EXPECT_EQ(marksAfter([&] { document().MarkChanged(); }), "modified, not current");
+  const auto change = [&] { document().ChangeControlSystem(841, "", 0, message); };
+  EXPECT_EQ(marksAfter(change), structure);
+  EXPECT_EQ(marksAfter(change), nothing);
+  EXPECT_EQ(marksAfter([&] {
+              static_cast<void>(document().RemoveDevice(display, host::removalOfDevice));
+            }),
+            structure);
+  EXPECT_EQ(marksAfter([&] { document().SetModified(true, false, true); }), label);
+  EXPECT_EQ(marksAfter([&] { document().MarkChanged(); }), structure);
   EXPECT_EQ(marksAfter([&] {
               document().MarkChanged();
               document().MarkUnchanged();
             }),
-            "unmodified, not current");
+            program);
 }
 
 TEST_F(DocumentTest, RemovedDeviceTakesAllThatNamesItAlong) {
@@ -214,7 +214,7 @@ TEST_F(DocumentTest, ControlSystemChangesItsModelAndNothingElse) {
   EXPECT_FALSE(before->HasSignal("Input3_Error", host::directionOutput, host::signalDigital));
 
   document().ChangeControlSystem(7, "", 0, message);
-  EXPECT_NE(message.find("no receiver of model 7"), std::string::npos);
+  expectHas(message, "no receiver of model 7");
   EXPECT_EQ(before->get_ModelID(), host::modelReceiverOneInput);
 }
 
@@ -238,14 +238,14 @@ TEST_F(DocumentTest, BillEntriesAreLive) {
     EXPECT_FALSE(bill->AddItem(0, 0, part, device));
     return document().GetLastError();
   };
-  EXPECT_NE(refusal(0, display).find("\"Display Device\" can't be added"), std::string::npos);
-  EXPECT_NE(refusal(20711, 999).find("there is no device 999"), std::string::npos);
+  expectHas(refusal(0, display), "\"Display Device\" can't be added");
+  expectHas(refusal(20711, 999), "there is no device 999");
   EXPECT_TRUE(bill->AddItem(0, 0, 20711, display));
   EXPECT_EQ(refusal(20711, display), "\"Display Device\" is in the bill of materials already.");
   EXPECT_EQ(window().AddInterface(7, receiver(), ""), nullptr);
   EXPECT_EQ(document().GetLastError(), "The device library has no user interface of model 7.");
   EXPECT_EQ(window().AddInterface(host::modelFenlet, 999, ""), nullptr);
-  EXPECT_NE(document().GetLastError().find("there is no device 999"), std::string::npos);
+  expectHas(document().GetLastError(), "there is no device 999");
   EXPECT_TRUE(bill->RemoveItem(-display));
 }
 

@@ -30,7 +30,7 @@ class PanelTest : public HostTest {
         });
   }
 
-  fs::path file() const { return folder.path() / "Fenlet.tpj"; }
+  fs::path file() const { return folder / "Fenlet.tpj"; }
   trellisar::DeviceData& panelData() { return *data().panels.front(); }
   /// Saves the system and asks another host with this data.
   bool isBuiltInHostOf(const fs::path& dataFolder) {
@@ -150,7 +150,7 @@ TEST_F(PanelTest, ProjectCountsAsBuiltWhileItWouldBeMadeTheSame) {
   tessra->SaveProject();
   EXPECT_TRUE(panel->get_ProjectBuilt());
   EXPECT_TRUE(isBuiltInHostOf(dataFolder())) << "where no add-in has asked for pages yet";
-  const fs::path other = folder.path() / "data";
+  const fs::path other = folder / "data";
   fs::create_directory(other);
   fs::copy(dataFolder() / "PanelTemplates", other / "PanelTemplates");
   const std::string text = base::readFile(other / "PanelTemplates/Fenlet.json");
@@ -170,13 +170,13 @@ TEST_F(PanelTest, ProjectThatCantBeMadeIsToldInTheList) {
   };
   ASSERT_TRUE(window().CreateTouchpanels(panel));
   manager->SetTemplatePrefix("[Other]");
-  EXPECT_NE(refusal().find("has no page whose name begins with \"[Other]\""), std::string::npos);
+  expectHas(refusal(), "has no page whose name begins with \"[Other]\"");
   manager->SetTemplatePrefix("[Orlena]");
   data().folder = folder.inside("none\\");
-  EXPECT_NE(refusal().find("its folder does not exist"), std::string::npos);
+  expectHas(refusal(), "its folder does not exist");
   constexpr std::int16_t plainTouchPanel = 52;
   panel = window().AddInterface(plainTouchPanel, data().controlSystem, "");
-  EXPECT_NE(refusal().find("has no project template for panels of model 52"), std::string::npos);
+  expectHas(refusal(), "has no project template for panels of model 52");
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ class PreferencesTest : public testing::Test {
   }
 
   TemporaryFolder folder;
-  fs::path file = folder.path() / "deep" / "preferences.json";
+  fs::path file = folder / "deep" / "preferences.json";
   std::vector<std::string> told;
 };
 
@@ -58,8 +58,8 @@ TEST_F(PreferencesTest, OnesThatCantBeReadAreKeptAsideAndToldOnce) {
     preferences.remember("\\Room.tsy");
     open();
     ASSERT_EQ(told.size(), 1u) << why;
-    EXPECT_NE(told[0].find(why), std::string::npos) << told[0];
-    EXPECT_NE(told[0].find("is kept in \"" + aside + "\""), std::string::npos) << told[0];
+    expectHas(told[0], why);
+    expectHas(told[0], "is kept in \"" + aside + "\"");
     EXPECT_EQ(base::readFile(aside), content);
     EXPECT_EQ(open().recentSystems(), std::vector<std::string>{"\\Room.tsy"});
     aside = file.string() + ".unreadable-" + (aside.ends_with("2") ? "3" : "2");
@@ -86,13 +86,13 @@ TEST_F(PreferencesTest, TwoWindowsKeepWhatTheOtherAdded) {
 }
 
 TEST_F(PreferencesTest, ChangesThatCantBeKeptAreToldOnceAndHoldMeanwhile) {
-  writeFile(folder.path() / "deep", "a file where the folder should be");
+  folder.write("deep", "a file where the folder should be");
   Preferences preferences = open();
   preferences.setDefaultFolder("\\rooms");
   preferences.remember("\\Room.tsy");
   EXPECT_EQ(preferences.defaultFolder(), "\\rooms");
   ASSERT_EQ(told.size(), 1u);
-  EXPECT_NE(told[0].find("a file stands where a folder should be"), std::string::npos) << told[0];
+  expectHas(told[0], "a file stands where a folder should be");
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ TEST_F(ReportTest, DrawingHasALevelLineForEachWireAndAPictureForEachDevice) {
   for (const char* text :
        {"Display Device", "serial, 9600 baud", "Serial Port 1", "Power Relay",
         "mains of the display", "Kestrum Interface", "10.0.0.9", "IP-ID 03", "Fenlet", "OL-RX1"}) {
-    EXPECT_NE(drawing.svg.find(text), std::string::npos) << text;
+    expectHas(drawing.svg, text);
   }
   EXPECT_EQ(drawing.svg.find("Digital Input 2"), std::string::npos) << "nothing uses it";
   EXPECT_EQ(numbers(drawing.svg, "<g transform=\"translate(").size(), 5u)
@@ -108,7 +108,7 @@ TEST_F(ReportTest, DrawingHasALevelLineForEachWireAndAPictureForEachDevice) {
   EXPECT_EQ(lines.size(), 2u) << "Kestrum and Fenlet on the left";
   EXPECT_EQ(std::adjacent_find(lines.begin(), lines.end()), lines.end()) << "no line over another";
   EXPECT_EQ(trellisar::drawWiring(data(), dataFolder() / "pictures").svg, drawing.svg);
-  EXPECT_NE(trellisar::drawWiring(data(), {}).svg.find("Serial Port 1"), std::string::npos);
+  expectHas(trellisar::drawWiring(data(), {}).svg, "Serial Port 1");
 }
 
 TEST_F(ReportTest, BillNamesEntriesAndTheirFurtherParts) {
@@ -125,17 +125,15 @@ TEST_F(ReportTest, BillNamesEntriesAndTheirFurtherParts) {
 }
 
 TEST_F(ReportTest, HtmlIsEscapedAndTheSameEachTime) {
-  const fs::path out = folder.path() / "out" / "reports";
+  const fs::path out = folder / "out" / "reports";
   const trellisar::ReportOptions options{.date = "2026-03-31"};
   const auto files = trellisar::writeReports(data(), out, options);
   ASSERT_EQ(files.size(), 2u);
   EXPECT_EQ(files[1], out / "R&D <1> - Connection Sheet.html");
   const std::string sheet = base::readFile(files[1]);
-  EXPECT_NE(sheet.find("<title>Connection Sheet - R&amp;D &lt;1&gt;</title>"), std::string::npos);
-  EXPECT_NE(sheet.find("<td>&quot;Big&quot; screen&#39;s</td>"), std::string::npos);
-  EXPECT_NE(
-      sheet.find("Date: 2026-03-31<br>Revision of the answers: " + trellisar::revisionOf(data())),
-      std::string::npos);
+  expectHas(sheet, "<title>Connection Sheet - R&amp;D &lt;1&gt;</title>");
+  expectHas(sheet, "<td>&quot;Big&quot; screen&#39;s</td>");
+  expectHas(sheet, "Date: 2026-03-31<br>Revision of the answers: " + trellisar::revisionOf(data()));
   trellisar::writeReports(data(), out, options);
   EXPECT_EQ(base::readFile(files[1]), sheet);
 }
@@ -158,9 +156,9 @@ TEST_F(ReportTest, ReportsReplaceThoseOfTheirOwnSystemAlone) {
 
 TEST_F(ReportTest, DialogShowsSavesAndTellsAFailure) {
   desktop.whenShown("ReportsDialog", [&](forms::Form& form) {
-    auto& list = dynamic_cast<forms::ListView&>(form.control("lvwReport"));
+    auto& list = in<forms::ListView>(form, "lvwReport");
     EXPECT_EQ(list.columns().front(), "Part");
-    user.select(dynamic_cast<forms::DropDownList&>(form.control("cboReport")), 1);
+    user.select(in<forms::DropDownList>(form, "cboReport"), 1);
     EXPECT_EQ(list.columns().front(), "Terminal");
     EXPECT_FALSE(form.control("cmdPrint").isVisible());
     desktop.expectSaveDialog("Save Report", folder.inside("Sheet.html"));
@@ -171,9 +169,9 @@ TEST_F(ReportTest, DialogShowsSavesAndTellsAFailure) {
     user.press(forms::keys::escape);
   });
   window().ShowReportsDialog(host::reportsAll);
-  const std::string saved = base::readFile(folder.path() / "Sheet.html");
-  EXPECT_NE(saved.find("<td>Serial Port 1</td>"), std::string::npos);
-  EXPECT_NE(saved.find("<br>Date: 2"), std::string::npos);
+  const std::string saved = base::readFile(folder / "Sheet.html");
+  expectHas(saved, "<td>Serial Port 1</td>");
+  expectHas(saved, "<br>Date: 2");
   window().ShowReportsDialog("Anything Else");
 }
 
@@ -188,7 +186,7 @@ struct NotingPrinter : trellisar::ReportPrinter {
 
 TEST_F(ReportTest, DialogWithAPrinterPrintsAndSavesPdf) {
   NotingPrinter printer;
-  writeFile(folder.path() / "Room.tsy", trellisar::systemFileText(data()));
+  folder.write("Room.tsy", trellisar::systemFileText(data()));
   trellisar::Host other(
       {.dataFolder = dataFolder(), .library = shippedLibrary(), .printer = &printer});
   ASSERT_TRUE(other.mainWindow()->FileOpen(folder.inside("Room.tsy"), false));
@@ -207,7 +205,7 @@ TEST_F(ReportTest, RealTimeDialogShowsTheAudioSettingsOfAReceiver) {
   host.document()->get_ControlSystem()->put_RealTimeProgID(host::progIDRealTimeAudio);
   *data().find(receiver)->findProperty("Mic Mode Control") = "1d";
   desktop.whenShown("RealTimeDialog", [&](forms::Form& form) {
-    const auto& list = dynamic_cast<forms::ListView&>(form.control("lvwSettings"));
+    const auto& list = in<forms::ListView>(form, "lvwSettings");
     EXPECT_EQ(list.text(0, 1) + ", " + list.text(1, 1), "Program volume, Always active");
     user.press(forms::keys::escape);
   });

@@ -19,10 +19,24 @@ using base::readFile;
 using trellisar::readSystemFile;
 using trellisar::systemFileText;
 
+/// A process of its own that ends with what the act answers.
+template <typename Act>
+pid_t inOwnProcess(Act&& act) {
+  const pid_t child = fork();
+  if (child == 0) _exit(act());
+  return child;
+}
+
+int statusOf(pid_t child) {
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
 /// A room in which everything is stored that a file can hold.
 class SystemFileTest : public HostTest {
  protected:
-  SystemFileTest() : file(folder.path() / "Room.tsy") {
+  SystemFileTest() : file(folder / "Room.tsy") {
     openTemplate();
     const std::int16_t display = addDisplay();
     auto on = preset("Display Power On");
@@ -49,7 +63,7 @@ class SystemFileTest : public HostTest {
 
   /// The text of the error that reading gives; empty when it gives none.
   std::string errorOf(const std::string& content) {
-    const fs::path other = folder.path() / "Other.tsy";
+    const fs::path other = folder / "Other.tsy";
     writeFile(other, content);
     return raisedBy([&] { readSystemFile(other, shippedLibrary()); }).description();
   }
@@ -71,12 +85,12 @@ TEST_F(SystemFileTest, OpenedAndSavedGivesTheSameBytesAndTheSameListing) {
 }
 
 TEST_F(SystemFileTest, LiesWhereItLiesAndIsNamedAsItsFile) {
-  fs::create_directory(folder.path() / "moved");
-  const fs::path moved = folder.path() / "moved" / "rOOM.tsy";
+  fs::create_directory(folder / "moved");
+  const fs::path moved = folder / "moved" / "rOOM.tsy";
   fs::copy_file(file, moved);
   EXPECT_EQ(readSystemFile(moved, nullptr)->folder, folder.inside("moved") + "\\");
   EXPECT_EQ(readSystemFile(moved, nullptr)->name, "Room") << "differs in case alone";
-  const fs::path renamed = folder.path() / "moved" / "Hall.tsy";
+  const fs::path renamed = folder / "moved" / "Hall.tsy";
   fs::copy_file(file, renamed);
   EXPECT_EQ(readSystemFile(renamed, nullptr)->name, "Hall");
 }
@@ -127,28 +141,20 @@ TEST_F(SystemFileTest, DamageIsToldWithItsPlace) {
   std::string twice = readFile(file);
   twice.insert(1, "\"name\": \"Room\",");
   EXPECT_EQ(errorOf(twice), "Other.tsy: name: the key stands twice");
-  EXPECT_NE(errorOf(std::string(200, '[')).find("is nested more than 100 deep"), std::string::npos);
-  EXPECT_NE(errorOf("\xff\xfe").find("The file is damaged"), std::string::npos);
+  expectHas(errorOf(std::string(200, '[')), "is nested more than 100 deep");
+  expectHas(errorOf("\xff\xfe"), "The file is damaged");
 }
 
 TEST_F(SystemFileTest, FullDiskKeepsTheOldFileAndSaysWhy) {
   const std::string old = readFile(file);
-  const pid_t child = fork();
-  if (child == 0) {
+  const pid_t child = inOwnProcess([&] {
     const rlimit limit{4096, 4096};
     setrlimit(RLIMIT_FSIZE, &limit);
     data().name = "Another";
-    try {
-      trellisar::saveSystemFile(data(), folder.inside("Room"));
-    } catch (const host::Error& error) {
-      const bool says = error.description().find("larger than the disk") != std::string::npos;
-      _exit(says ? 0 : 2);
-    }
-    _exit(1);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+    const auto save = [&] { trellisar::saveSystemFile(data(), folder.inside("Room")); };
+    return raisedBy(save).description().find("larger than the disk") != std::string::npos ? 7 : 1;
+  });
+  EXPECT_EQ(statusOf(child), 7);
   EXPECT_EQ(readFile(file), old);
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1) << "nothing is left over";
 }
@@ -160,13 +166,12 @@ TEST_F(SystemFileTest, KilledDuringASaveLeavesOneOfTheTwoWhole) {
   const std::string two = systemFileText(data());
   base::replaceFile(file, one);
   for (int round = 0; round < 40; ++round) {
-    const pid_t child = fork();
-    if (child == 0) {
+    const pid_t child = inOwnProcess([&]() -> int {
       while (true) {
         base::replaceFile(file, one);
         base::replaceFile(file, two);
       }
-    }
+    });
     usleep(static_cast<useconds_t>(1000 + round * 350));
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
@@ -183,43 +188,32 @@ TEST_F(SystemFileTest, OfTwoProgramsThatMakeOneSystemOneIsRefused) {
     fs::create_directory(place);
     int start[2];
     ASSERT_EQ(pipe(start), 0);
-    std::array<pid_t, 2> programs{};
-    for (pid_t& program : programs) {
-      program = fork();
-      if (program != 0) continue;
+    const auto save = [&] {
       data().name = "Made by " + std::to_string(getpid());
       char byte = 0;
       static_cast<void>(!read(start[0], &byte, 1));
-      const bool isRefused =
-          raisedBy([&] {
-            trellisar::saveSystemFile(data(), forms::fromMachinePath(place / "New"));
-          }).number() == host::errFile;
-      _exit(isRefused ? 1 : 0);
-    }
+      const std::string system = forms::fromMachinePath(place / "New");
+      return raisedBy([&] { trellisar::saveSystemFile(data(), system); }).number() == host::errFile;
+    };
+    const std::array<pid_t, 2> programs{inOwnProcess(save), inOwnProcess(save)};
     EXPECT_EQ(write(start[1], "go", 2), 2);
-    std::array<int, 2> refused{};
-    for (std::size_t i = 0; i < programs.size(); ++i) {
-      int status = 0;
-      ASSERT_EQ(waitpid(programs[i], &status, 0), programs[i]);
-      refused[i] = WEXITSTATUS(status);
-    }
+    const bool isFirstRefused = statusOf(programs[0]) == 1;
+    EXPECT_EQ(statusOf(programs[1]), isFirstRefused ? 0 : 1) << "pair " << pair;
     close(start[0]);
     close(start[1]);
-    EXPECT_NE(refused[0], refused[1]) << "pair " << pair;
-    const pid_t winner = programs[refused[0]];
-    EXPECT_NE(readFile(place / "New.tsy").find("Made by " + std::to_string(winner)),
-              std::string::npos);
+    const pid_t winner = programs[isFirstRefused ? 1 : 0];
+    expectHas(readFile(place / "New.tsy"), "Made by " + std::to_string(winner));
     EXPECT_EQ(std::distance(fs::directory_iterator(place), fs::directory_iterator()), 1);
   }
 }
 
 TEST_F(SystemFileTest, SavedThroughALinkKeepsTheLink) {
-  const fs::path link = folder.path() / "Link.tsy";
+  const fs::path link = folder / "Link.tsy";
   fs::create_symlink(file, link);
   data().application = "Linked";
   trellisar::saveSystemFile(data(), folder.inside("Link"));
   EXPECT_TRUE(fs::is_symlink(link));
-  EXPECT_NE(readFile(file).find("\"Linked\""), std::string::npos);
+  expectHas(readFile(file), "\"Linked\"");
 }
 
 }  // namespace

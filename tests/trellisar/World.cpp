@@ -2,19 +2,10 @@
 
 #include "forms/Components.h"
 #include "forms/Paths.h"
-#include "trellisar/library/DeviceLibrary.h"
 
 namespace tests {
 
 namespace fs = std::filesystem;
-
-fs::path dataFolder() { return fs::path(ORLENA_SOURCE_FOLDER) / "data"; }
-
-std::shared_ptr<const trellisar::DeviceLibrary> shippedLibrary() {
-  static const auto library =
-      std::make_shared<const trellisar::DeviceLibrary>(dataFolder() / "library");
-  return library;
-}
 
 HostTest::HostTest() : host({.dataFolder = dataFolder(), .library = shippedLibrary()}) {
   application.setTitle("Trellisar");

@@ -11,17 +11,19 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Files.h"
 #include "tests/support/ScriptedDesktop.h"
+#include "tests/support/Shipped.h"
+#include "tests/support/Texts.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/window/Host.h"
 
 namespace tests {
 
-/// The repository's folder of shipped data.
-std::filesystem::path dataFolder();
-
-/// The shipped device library, read once.
-std::shared_ptr<const trellisar::DeviceLibrary> shippedLibrary();
+/// A control of a form or of a user control, as what it is.
+template <typename Control, typename Container>
+Control& in(Container& container, const std::string& name) {
+  return dynamic_cast<Control&>(container.control(name));
+}
 
 /// A host with the shipped data, on a desktop that expects what a test says.
 class HostTest : public testing::Test {

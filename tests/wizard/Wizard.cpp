@@ -9,20 +9,12 @@
 #include "forms/TabStrip.h"
 #include "forms/TextBox.h"
 #include "host/iTab.h"
+#include "tests/support/Shipped.h"
 #include "trellisar/compile/CompiledProgram.h"
 #include "vmAOR/EntryPoints.h"
 
 namespace tests {
 namespace {
-
-std::filesystem::path dataFolder() { return std::filesystem::path(ORLENA_SOURCE_FOLDER) / "data"; }
-
-/// Read once for all wizards of the program.
-std::shared_ptr<const trellisar::DeviceLibrary> library() {
-  static const auto shared =
-      std::make_shared<const trellisar::DeviceLibrary>(dataFolder() / "library");
-  return shared;
-}
 
 std::shared_ptr<addin::IAddIn> createAddIn() {
   DllRegisterServer();
@@ -43,7 +35,7 @@ std::int32_t rowOf(const forms::ListView& list, const std::string& text) {
 Wizard::Wizard() : application(desktop, forms::fromMachinePath(dataFolder())) {
   setenv("TRELLISAR_SYSTEMS", systems_.path().c_str(), 1);
   host = std::make_unique<trellisar::Host>(trellisar::HostOptions{
-      .dataFolder = dataFolder(), .library = library(), .preferencesFile = {}});
+      .dataFolder = dataFolder(), .library = shippedLibrary(), .preferencesFile = {}});
   addIn = createAddIn();
   load(nullptr);
 }

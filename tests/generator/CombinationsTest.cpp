@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <functional>
 #include <map>
 #include <random>
@@ -10,6 +8,7 @@
 #include <sstream>
 
 #include "tests/generator/Combination.h"
+#include "tests/support/Golden.h"
 
 namespace {
 
@@ -88,26 +87,6 @@ class Book {
   std::vector<std::string> combinations_;
 };
 
-std::string wholeFile() {
-  std::stringstream text;
-  text << std::ifstream(file).rdbuf();
-  return text.str();
-}
-
-/// The first line in which two texts differ, of each.
-std::string firstDifference(const std::string& one, const std::string& other) {
-  std::istringstream left(one), right(other);
-  std::string leftLine, rightLine;
-  while (true) {
-    const bool more = static_cast<bool>(std::getline(left, leftLine));
-    const bool otherMore = static_cast<bool>(std::getline(right, rightLine));
-    if (!more && !otherMore) return "";
-    if (!more) leftLine = "(end)";
-    if (!otherMore) rightLine = "(end)";
-    if (leftLine != rightLine) return "expected " + leftLine + "\nbuilt    " + rightLine;
-  }
-}
-
 /// Builds again what was just built.
 void expectSound(Room& room, const std::string& name) {
   const Program program = room.program();
@@ -125,9 +104,7 @@ TEST(CombinationsTest, haveTheirProgramsWithNothingUnknownAndCanBeBuiltAgain) {
     book.enter(combination.name(), room.program());
     expectSound(room, combination.name());
   }
-  if (std::getenv("ORLENA_RENEW_GOLDENS")) std::ofstream(file) << book.text();
-  EXPECT_EQ(firstDifference(wholeFile(), book.text()), "")
-      << "renew with: tools/renew-goldens, and review the change";
+  tests::expectGolden("combinations", file, book.text());
 }
 
 /// A place that keeps what an earlier run wrote, less what the new answers took of it, when the

@@ -38,20 +38,21 @@ class ProgramText {
   }
 
   std::string words(const Step& step) const {
-    return std::visit(
-        ForStep{[&](const CommandStep& command) {
-                  const std::string target = targetOf(command.data);
-                  return target + ": " + command.data.signal + value(command);
-                },
-                [&](const DelayStep& delay) { return "wait " + seconds(delay.data.value); },
-                [&](const CallStep& call) {
-                  return "run " + inQuotes(document_.findPreset(call.preset())->name);
-                },
-                [&](const BranchStep& branch) {
-                  const std::string test = condition(branch);
-                  return "if " + test + ":";
-                }},
-        step);
+    return std::visit(ForStep{[&](const CommandStep& command) {
+                                const std::string target = targetOf(command.data);
+                                return target + ": " + command.data.signal + value(command);
+                              },
+                              [&](const DelayStep& delay) {
+                                return targetOf(delay.data) + ": wait " + seconds(delay.data.value);
+                              },
+                              [&](const CallStep& call) {
+                                return "run " + inQuotes(document_.findPreset(call.preset())->name);
+                              },
+                              [&](const BranchStep& branch) {
+                                const std::string test = condition(branch);
+                                return "if " + test + ":";
+                              }},
+                      step);
   }
 
  private:
@@ -142,10 +143,10 @@ class Reader {
   std::string slots(const DeviceData& module) const {
     std::string text;
     for (const auto& slot : module.slots) {
+      const std::string target = document_.shownName(slot->device);
+      const std::string command = target.empty() ? slot->command : target + ": " + slot->command;
       text += "            " + slot->name + " sends ";
-      text += slot->command.empty() ? "nothing"
-                                    : document_.shownName(slot->device) + ": " + slot->command;
-      text += "\n";
+      text += (slot->command.empty() ? "nothing" : command) + "\n";
     }
     return text;
   }

@@ -29,8 +29,8 @@ constexpr PageOfDialog pagesOfDialog[] = {{host::progIDPageBasic, "Basic"},
 std::string whatItTakes(const PropertyDefinition& property) {
   switch (property.type) {
     case PropertyDefinition::Type::text:
-      return property.hasMaxLength
-                 ? "A text of at most " + std::to_string(property.maxLength) + " characters."
+      return property.maxLength
+                 ? "A text of at most " + std::to_string(*property.maxLength) + " characters."
                  : "Any text.";
     case PropertyDefinition::Type::integer:
       return "A whole number from " + std::to_string(property.minimum) + " to " +

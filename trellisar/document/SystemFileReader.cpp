@@ -12,7 +12,7 @@
 #include "trellisar/document/StepRules.h"
 #include "trellisar/document/Steps.h"
 #include "trellisar/document/SystemFile.h"
-#include "trellisar/document/SystemFileFormat.h"
+#include "trellisar/document/SystemFileFields.h"
 #include "trellisar/library/DefinitionJson.h"
 #include "trellisar/library/HostErrors.h"
 
@@ -23,8 +23,7 @@ namespace fs = std::filesystem;
 using Kind = DeviceData::Kind;
 using Form = Definition::Form;
 
-constexpr std::int16_t least16 = std::numeric_limits<std::int16_t>::min();
-constexpr std::int32_t least32 = std::numeric_limits<std::int32_t>::min();
+using namespace systemFile;
 
 /// Fills a new document from a file. First everything that can be named is made, then what names
 /// it.
@@ -54,25 +53,20 @@ class Loader {
  private:
   void readHead() {
     const base::JsonReader format = root_.at("format");
-    if (format.text() != systemFileFormat) format.fail("is no Trellisar system");
-    const base::JsonReader version = root_.at("version");
-    if (const auto number = version.integer(1, INT32_MAX); number != systemFileVersion) {
-      version.fail("the file is of version " + std::to_string(number) +
-                   "; this program reads version " + std::to_string(systemFileVersion));
+    if (format.text() != systemFile::format) format.fail("is no Trellisar system");
+    const base::JsonReader stored = root_.at("version");
+    if (const auto number = stored.integer(1, INT32_MAX); number != version) {
+      stored.fail("the file is of version " + std::to_string(number) +
+                  "; this program reads version " + std::to_string(version));
     }
-    document_.name = root_.at("name").text();
-    document_.application = root_.at("application").text();
-    document_.programIsCurrent = root_.at("program_is_current").boolean();
-    const base::JsonReader compiled = root_.at("compiled_program");
-    document_.compiledProgram = compiled.text();
+    base::FieldReader fields(root_);
+    documentFields(fields, document_);
     if (document_.compiledProgram.find_first_of("/\\") != std::string::npos) {
-      compiled.fail("must be the name of a file in the system's folder");
+      root_.at("compiled_program").fail("must be the name of a file in the system's folder");
     }
     root_.at("settings").eachKey([&](const std::string& title, const base::JsonReader& text) {
       document_.settings.emplace_back(title, text.text());
     });
-    document_.nextId = root_.at("next_id").int16(1);
-    document_.nextHandle = root_.at("next_handle").int16(1);
   }
 
   void readDefinitionOf(base::JsonReader reader) {
@@ -95,42 +89,27 @@ class Loader {
     return definitions_[place];
   }
 
-  void readIdentity(base::JsonReader& reader, DeviceData& device) {
+  /// What devices, modules and panels have: an id, a handle and a definition.
+  void takeIdentity(base::JsonReader& reader, DeviceData& device) {
     const base::JsonReader id = reader.at("id");
-    device.id = id.int16(1);
     if (device.id >= document_.nextId) id.fail("must be below \"next_id\"");
     if (document_.find(device.id)) id.fail("the id stands twice");
-    device.name = reader.at("name").text();
     const base::JsonReader handle = reader.at("handle");
-    device.handle = handle.int16(0);
     if (device.handle >= document_.nextHandle) handle.fail("must be below \"next_handle\"");
     if (document_.findByHandle(device.handle)) handle.fail("the handle stands twice");
-    device.label = reader.at("label").text();
     takeDefinition(device, definition(reader.at("definition"), device.kind));
-    static_cast<void>(reader.at("signals"));
   }
 
   void readDevice(base::JsonReader reader, Kind kind, std::vector<DevicePtr>& list) {
     auto device = std::make_shared<DeviceData>();
     device->kind = kind;
-    readIdentity(reader, *device);
-    device->shortName = reader.at("short_name").text();
-    device->parent = reader.at("parent").int16(0);
-    device->libraryId = reader.at("library_id").int16(0);
-    device->port = reader.at("port").int16(0);
-    device->address = reader.at("address").text();
-    device->description = reader.at("description").text();
-    device->maker = reader.at("maker").text();
-    device->shown = reader.at("shown").boolean();
-    device->powerControl = reader.at("power_control").int16(host::powerNone, host::powerDiscrete);
-    device->realTimePage = reader.at("real_time_page").text();
-    device->sensorHandle = reader.at("sensor_handle").int16(least16);
-    device->sensorFormat = reader.at("sensor_format").text();
+    base::FieldReader fields(reader);
+    deviceFields(fields, *device);
+    takeIdentity(reader, *device);
     reader.at("standard_commands").each([&](const base::JsonReader& item) {
       readStandardCommand(item, *device);
     });
     readProperties(reader.at("properties"), *device);
-    static_cast<void>(reader.at("slots"));
     list.push_back(device);
     document_.enter(device);
     if (kind == Kind::device) {
@@ -143,27 +122,28 @@ class Loader {
   void readPanel(base::JsonReader reader) {
     auto panel = std::make_shared<DeviceData>();
     panel->kind = Kind::panel;
-    readIdentity(reader, *panel);
-    panel->parent = reader.at("parent").int16(0);
+    base::FieldReader fields(reader);
+    panelFields(fields, *panel);
+    takeIdentity(reader, *panel);
     panel->description = panel->definition->description;
     panel->maker = panel->definition->maker;
-    panel->connectSlot = reader.at("connect_slot").int16(0);
-    panel->projectBuilt = reader.at("project_built").boolean();
     reader.finish();
     document_.panels.push_back(panel);
     document_.enter(panel);
   }
 
   static void readStandardCommand(base::JsonReader reader, DeviceData& device) {
-    auto command = std::make_shared<host::StandardCommand>();
-    const base::JsonReader id = reader.at("id");
-    command->put_StandardID(id.int16(0));
-    if (device.findStandardCommand(command->get_StandardID())) id.fail("the id stands twice");
-    command->put_DeviceID(device.id);
-    command->put_Name(std::to_string(command->get_StandardID()));
-    command->put_CommandName(reader.at("command").text());
-    command->put_LibraryID(reader.at("library_id").int16(0));
+    StoredCommand stored;
+    base::FieldReader fields(reader);
+    commandFields(fields, stored);
+    if (device.findStandardCommand(stored.id)) reader.at("id").fail("the id stands twice");
     reader.finish();
+    auto command = std::make_shared<host::StandardCommand>();
+    command->put_StandardID(stored.id);
+    command->put_DeviceID(device.id);
+    command->put_Name(std::to_string(stored.id));
+    command->put_CommandName(stored.command);
+    command->put_LibraryID(stored.libraryId);
     device.standardCommands.push_back(std::move(command));
   }
 
@@ -180,7 +160,6 @@ class Loader {
 
   void readControlSystem() {
     const base::JsonReader reader = root_.at("control_system");
-    document_.controlSystem = reader.int16(1);
     const DevicePtr receiver = document_.find(document_.controlSystem, Kind::device);
     if (!receiver || receiver->definition->form != Form::receiver) {
       reader.fail("there is no receiver under this id");
@@ -189,26 +168,25 @@ class Loader {
 
   void readSensorHandle(base::JsonReader reader) {
     SensorHandle sensor;
-    sensor.model = reader.at("model").int16(1);
-    sensor.number = reader.at("number").int16(least16);
-    sensor.handle = reader.at("handle").int16(1);
+    base::FieldReader fields(reader);
+    sensorFields(fields, sensor);
     reader.finish();
     document_.sensorHandles.push_back(sensor);
   }
 
   static BillLine readBillLine(base::JsonReader reader) {
     BillLine line;
-    line.part = reader.at("part").int32(0);
-    line.quantity = reader.at("quantity").int32(0);
+    base::FieldReader fields(reader);
+    billLineFields(fields, line);
     reader.finish();
     return line;
   }
 
   void readBillEntry(base::JsonReader reader) {
     auto entry = std::make_shared<BillEntryData>();
-    const base::JsonReader key = reader.at("key");
-    entry->key = key.int32(least32);
-    if (document_.findBillEntry(entry->key)) key.fail("the key stands twice");
+    base::FieldReader fields(reader);
+    billEntryFields(fields, *entry);
+    if (document_.findBillEntry(entry->key)) reader.at("key").fail("the key stands twice");
     entry->main = readBillLine(reader.at("main"));
     reader.at("parts").each(
         [&](const base::JsonReader& item) { entry->parts.push_back(readBillLine(item)); });
@@ -218,10 +196,9 @@ class Loader {
 
   void readPresetHead(base::JsonReader reader) {
     const auto preset = document_.makePreset();
+    base::FieldReader fields(reader);
+    presetFields(fields, *preset);
     const base::JsonReader name = reader.at("name");
-    preset->name = name.text();
-    preset->comment = reader.at("comment").text();
-    static_cast<void>(reader.at("steps"));
     reader.finish();
     if (preset->name.empty()) name.fail("must not be empty");
     if (!document_.addNamedPreset(preset)) name.fail("the name stands twice");
@@ -252,11 +229,11 @@ class Loader {
     list.each([&](base::JsonReader reader) {
       if (place >= device.slots.size()) reader.fail("the module has no further slot");
       SlotData& slot = *device.slots[place++];
-      if (const base::JsonReader name = reader.at("name"); name.text() != slot.name) {
-        name.fail("must be \"" + slot.name + "\"");
-      }
+      const std::string known = slot.name;
+      base::FieldReader fields(reader);
+      slotFields(fields, slot);
+      if (slot.name != known) reader.at("name").fail("must be \"" + known + "\"");
       slot.device = knownDevice(reader.at("device"));
-      slot.command = reader.at("command").text();
       reader.finish();
     });
     if (place < device.slots.size()) list.fail("\"" + device.slots[place]->name + "\" is missing");
@@ -272,14 +249,9 @@ class Loader {
   void readSignal(base::JsonReader reader, DeviceData& device) {
     auto signal = std::make_shared<SignalData>();
     signal->deviceId = device.id;
-    signal->row.output = reader.at("output").text();
-    signal->row.input = reader.at("input").text();
-    signal->row.type = reader.at("type").int16(0);
-    signal->row.hasOptions = reader.at("options").boolean();
-    signal->enabledEvents = reader.at("enabled_events").int16(least16);
-    signal->sourceType = reader.at("source_type").int16(0);
+    base::FieldReader fields(reader);
+    signalFields(fields, *signal);
     signal->sourceDevice = knownDevice(reader.at("source_device"));
-    signal->sourceSignal = reader.at("source_signal").text();
     for (const auto& other : device.signals) {
       const SignalRow& row = other->row;
       if (row.output == signal->row.output && row.input == signal->row.input &&
@@ -334,13 +306,16 @@ class Loader {
     step.branch = document_.makePreset();
     step.branch->depth = step.preset->depth + 1;
     reader.ifPresent("when", [&](base::JsonReader when) {
+      StoredCondition stored;
+      base::FieldReader fields(when);
+      conditionFields(fields, stored);
       host::StepCondition condition;
       condition.put_DeviceID(knownDevice(when.at("device")));
-      condition.put_ConditionType(when.at("type").int32(least32));
-      condition.put_SignalName(when.at("signal").text());
-      condition.put_StateName(when.at("state").text());
-      condition.put_Compare(when.at("compare").int32(least32));
-      condition.put_Value(when.at("value").int16(least16));
+      condition.put_ConditionType(stored.type);
+      condition.put_SignalName(stored.signal);
+      condition.put_StateName(stored.state);
+      condition.put_Compare(stored.compare);
+      condition.put_Value(stored.value);
       when.finish();
       step.condition = condition;
     });
@@ -348,17 +323,11 @@ class Loader {
   }
 
   void readCommand(base::JsonReader& reader, StepData& step) {
-    step.targetType = reader.at("target_type").int16(host::targetDevice, host::targetTouchpanel);
-    const base::JsonReader target = reader.at("target");
-    step.target = target.int16(1);
+    base::FieldReader fields(reader);
+    sendingFields(fields, step);
     if (!isTargetThere(document_, step.targetType, step.target)) {
-      target.fail("there is no device under this id");
+      reader.at("target").fail("there is no device under this id");
     }
-    step.signal = reader.at("signal").text();
-    reader.ifPresent("value", [&](const base::JsonReader& value) { step.value = value.text(); });
-    reader.ifPresent("value_format", [&](const base::JsonReader& value) {
-      step.valueFormat = value.int16(least16);
-    });
   }
 
   DocumentData& document_;

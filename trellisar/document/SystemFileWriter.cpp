@@ -6,13 +6,14 @@
 #include "host/Numbers.h"
 #include "trellisar/document/Steps.h"
 #include "trellisar/document/SystemFile.h"
-#include "trellisar/document/SystemFileFormat.h"
+#include "trellisar/document/SystemFileFields.h"
 #include "trellisar/library/DefinitionJson.h"
 
 namespace trellisar {
 namespace {
 
 using Kind = DeviceData::Kind;
+using namespace systemFile;
 
 /// The definitions of a document, each once, in the order of their first use.
 class Definitions {
@@ -51,17 +52,12 @@ class Writer {
     base::Json devices = list(document_.devices);
     base::Json panels = list(document_.panels);
     base::Json json = base::emptyObject(16);
-    json["format"] = systemFileFormat;
-    json["version"] = systemFileVersion;
-    json["name"] = document_.name;
-    json["application"] = document_.application;
-    json["program_is_current"] = document_.programIsCurrent;
-    json["compiled_program"] = document_.compiledProgram;
+    base::FieldWriter fields(json);
+    documentFields(fields, document_);
+    json["format"] = format;
+    json["version"] = version;
     json["settings"] = base::Json::object();
     for (const auto& [title, text] : document_.settings) json["settings"][title] = text;
-    json["next_id"] = document_.nextId;
-    json["next_handle"] = document_.nextHandle;
-    json["control_system"] = document_.controlSystem;
     json["definitions"] = definitions_.json();
     json["devices"] = std::move(devices);
     json["touch_panels"] = std::move(panels);
@@ -84,24 +80,10 @@ class Writer {
   std::int16_t known(std::int16_t id) const { return document_.find(id) ? id : std::int16_t{0}; }
 
   base::Json device(const DeviceData& device) {
-    base::Json json = base::emptyObject(21);
-    json["id"] = device.id;
-    json["name"] = device.name;
-    json["short_name"] = device.shortName;
-    json["parent"] = device.parent;
+    base::Json json = base::emptyObject(22);
+    base::FieldWriter fields(json);
+    deviceFields(fields, device);
     json["definition"] = definitions_.place(device.definition);
-    json["library_id"] = device.libraryId;
-    json["handle"] = device.handle;
-    json["port"] = device.port;
-    json["address"] = device.address;
-    json["label"] = device.label;
-    json["description"] = device.description;
-    json["maker"] = device.maker;
-    json["shown"] = device.shown;
-    json["power_control"] = device.powerControl;
-    json["real_time_page"] = device.realTimePage;
-    json["sensor_handle"] = device.sensorHandle;
-    json["sensor_format"] = device.sensorFormat;
     json["standard_commands"] = standardCommands(device);
     json["properties"] = base::Json::object();
     for (const auto& [name, value] : device.properties) json["properties"][name] = value;
@@ -113,14 +95,9 @@ class Writer {
 
   base::Json panel(const DeviceData& panel) {
     base::Json json = base::emptyObject(9);
-    json["id"] = panel.id;
-    json["name"] = panel.name;
-    json["parent"] = panel.parent;
+    base::FieldWriter fields(json);
+    panelFields(fields, panel);
     json["definition"] = definitions_.place(panel.definition);
-    json["handle"] = panel.handle;
-    json["label"] = panel.label;
-    json["connect_slot"] = panel.connectSlot;
-    json["project_built"] = panel.projectBuilt;
     json["signals"] = signals(panel);
     return json;
   }
@@ -129,9 +106,9 @@ class Writer {
     base::Json list = base::Json::array();
     for (const auto& command : device.standardCommands) {
       base::Json item = base::emptyObject(3);
-      item["id"] = command->get_StandardID();
-      item["command"] = command->get_CommandName();
-      item["library_id"] = command->get_LibraryID();
+      base::FieldWriter fields(item);
+      commandFields(fields, StoredCommand{command->get_StandardID(), command->get_CommandName(),
+                                          command->get_LibraryID()});
       list.push_back(std::move(item));
     }
     return list;
@@ -140,8 +117,11 @@ class Writer {
   base::Json slots(const DeviceData& device) const {
     base::Json list = base::Json::array();
     for (const auto& slot : device.slots) {
-      list.push_back(
-          {{"name", slot->name}, {"device", known(slot->device)}, {"command", slot->command}});
+      base::Json item = base::emptyObject(3);
+      base::FieldWriter fields(item);
+      slotFields(fields, *slot);
+      item["device"] = known(slot->device);
+      list.push_back(std::move(item));
     }
     return list;
   }
@@ -155,14 +135,9 @@ class Writer {
 
   base::Json signal(const SignalData& signal) const {
     base::Json json = base::emptyObject(9);
-    json["output"] = signal.row.output;
-    json["input"] = signal.row.input;
-    json["type"] = signal.row.type;
-    json["options"] = signal.row.hasOptions;
-    json["enabled_events"] = signal.enabledEvents;
-    json["source_type"] = signal.sourceType;
+    base::FieldWriter fields(json);
+    signalFields(fields, signal);
     json["source_device"] = known(signal.sourceDevice);
-    json["source_signal"] = signal.sourceSignal;
     json["events"] = base::Json::array();
     for (const auto& event : signal.events) {
       json["events"].push_back(event ? steps(*event) : base::Json::array());
@@ -189,12 +164,11 @@ class Writer {
 
   base::Json condition(const host::StepCondition& condition) const {
     base::Json json = base::emptyObject(6);
+    base::FieldWriter fields(json);
+    conditionFields(fields, StoredCondition{condition.get_ConditionType(),
+                                            condition.get_SignalName(), condition.get_StateName(),
+                                            condition.get_Compare(), condition.get_Value()});
     json["device"] = known(condition.get_DeviceID());
-    json["type"] = condition.get_ConditionType();
-    json["signal"] = condition.get_SignalName();
-    json["state"] = condition.get_StateName();
-    json["compare"] = condition.get_Compare();
-    json["value"] = condition.get_Value();
     return json;
   }
 
@@ -215,11 +189,8 @@ class Writer {
   }
 
   static void addSending(base::Json& json, const StepData& step) {
-    json["target_type"] = step.targetType;
-    json["target"] = step.target;
-    json["signal"] = step.signal;
-    if (!step.value.empty()) json["value"] = step.value;
-    if (step.valueFormat != 0) json["value_format"] = step.valueFormat;
+    base::FieldWriter fields(json);
+    sendingFields(fields, step);
   }
 
   base::Json steps(const PresetData& preset) const {
@@ -230,21 +201,28 @@ class Writer {
 
   base::Json sensorHandles() const {
     base::Json list = base::Json::array();
-    for (const auto& [model, number, handle] : document_.sensorHandles) {
-      list.push_back({{"model", model}, {"number", number}, {"handle", handle}});
+    for (const SensorHandle& sensor : document_.sensorHandles) {
+      base::Json item = base::emptyObject(3);
+      base::FieldWriter fields(item);
+      sensorFields(fields, sensor);
+      list.push_back(std::move(item));
     }
     return list;
   }
 
   static base::Json billLine(const BillLine& line) {
-    return {{"part", line.part}, {"quantity", line.quantity}};
+    base::Json json = base::emptyObject(2);
+    base::FieldWriter fields(json);
+    billLineFields(fields, line);
+    return json;
   }
 
   base::Json bill() const {
     base::Json list = base::Json::array();
     for (const auto& entry : document_.bill) {
       base::Json item = base::emptyObject(3);
-      item["key"] = entry->key;
+      base::FieldWriter fields(item);
+      billEntryFields(fields, *entry);
       item["main"] = billLine(entry->main);
       item["parts"] = base::Json::array();
       for (const BillLine& line : entry->parts) item["parts"].push_back(billLine(line));
@@ -257,8 +235,8 @@ class Writer {
     base::Json list = base::Json::array();
     for (const auto& preset : document_.presets) {
       base::Json item = base::emptyObject(3);
-      item["name"] = preset->name;
-      item["comment"] = preset->comment;
+      base::FieldWriter fields(item);
+      presetFields(fields, *preset);
       item["steps"] = steps(*preset);
       list.push_back(std::move(item));
     }

@@ -31,7 +31,7 @@ SignalRow commandRow(const std::string& name) { return {"", name, host::signalDi
 bool PropertyDefinition::takes(std::string_view newValue) const {
   switch (type) {
     case Type::text:
-      return forms::length(newValue) <= maxLength;
+      return !maxLength || forms::length(newValue) <= *maxLength;
     case Type::integer:
       return isIntegerIn(newValue, minimum, maximum);
     case Type::constant:

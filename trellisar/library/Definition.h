@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -37,8 +37,7 @@ struct PropertyDefinition {
   std::string name;
   std::string value;
   Type type = Type::text;
-  std::int32_t maxLength = std::numeric_limits<std::int32_t>::max();  // code points, of a text
-  bool hasMaxLength = false;
+  std::optional<std::int32_t> maxLength;  // code points, of a text; nothing: any
   std::int32_t minimum = 0;  // of an integer
   std::int32_t maximum = 0;
   std::vector<std::string> choices;  // of a constant

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "base/Fields.h"
 #include "forms/Numbers.h"
 #include "host/Numbers.h"
 
@@ -11,8 +12,8 @@ namespace {
 using Form = Definition::Form;
 using Connection = Definition::Connection;
 
-template <typename T>
-using Choices = std::initializer_list<std::pair<const char*, T>>;
+using base::Choices;
+using base::nameOf;
 
 constexpr Choices<Form> definitionForms = {{"device", Form::device},
                                            {"module", Form::module},
@@ -46,25 +47,73 @@ constexpr Choices<PropertyType> propertyTypes = {{"text", PropertyType::text},
                                                  {"integer", PropertyType::integer},
                                                  {"constant", PropertyType::constant}};
 
-template <typename T>
-const char* nameOf(T value, Choices<T> choices) {
-  for (const auto& [name, candidate] : choices) {
-    if (candidate == value) return name;
+template <typename Fields, typename Property>
+void propertyFields(Fields& fields, Property& property) {
+  fields("name", property.name);
+  fields("value", property.value);
+  fields("type", property.type, propertyTypes);
+  if (property.type == PropertyType::text) {
+    fields.unless(std::nullopt, "max_length", property.maxLength, 0);
   }
-  return "";
+  if (property.type == PropertyType::integer) {
+    fields("minimum", property.minimum, INT32_MIN);
+    fields("maximum", property.maximum, property.minimum);
+  }
+  if (property.type == PropertyType::constant) fields.own("choices");
+  fields.unless(false, "advanced", property.advanced);
 }
 
-std::string nonEmptyText(const base::JsonReader& reader) {
-  std::string text = reader.text();
-  if (text.empty()) reader.fail("must not be empty");
-  return text;
+template <typename Fields, typename Device>
+void driverFields(Fields& fields, Device& device) {
+  fields("model", device.model);
+  fields("type", device.type, 0);
+  fields("connection", device.connection, connections);
+  fields.unless(false, "second_off", device.secondOff);
+}
+
+bool hasDriver(const Definition& definition) {
+  return definition.form == Form::device || definition.form == Form::receiver;
+}
+
+/// What a definition of each form is known by.
+template <typename Fields, typename Any>
+void definitionFields(Fields& fields, Any& definition) {
+  fields("name", definition.name);
+  fields("description", definition.description);
+  switch (definition.form) {
+    case Form::device:
+      fields("entry", definition.controlEntry, 1);
+      fields("model_id", definition.modelId, 0);
+      fields("category", definition.category);
+      fields("kind", definition.kind, 0);
+      fields("slot", definition.slot, 0);
+      return fields.unless(0, "part", definition.part, 1);
+    case Form::receiver:
+      fields("model_id", definition.modelId, 1);
+      return fields("part", definition.part, 1);
+    case Form::module:
+      fields("id", definition.id, 1);
+      fields("short_name", definition.shortName);
+      fields("maker", definition.maker);
+      return fields.own("slots");
+    case Form::interface:
+      fields("model_id", definition.modelId, 1);
+      fields("model", definition.model);
+      fields("project_panel", definition.projectPanel);
+      return fields.unless(0, "part", definition.part, 1);
+  }
+}
+
+void requireText(const base::JsonReader& reader) {
+  if (reader.text().empty()) reader.fail("must not be empty");
 }
 
 /// Refuses a second use of a name; names of inputs and of outputs are two worlds.
 class Names {
  public:
   std::string take(const base::JsonReader& reader) {
-    std::string name = nonEmptyText(reader);
+    requireText(reader);
+    std::string name = reader.text();
     if (!names_.insert(name).second) reader.fail("\"" + name + "\" stands twice");
     return name;
   }
@@ -75,21 +124,13 @@ class Names {
 
 PropertyDefinition readProperty(base::JsonReader reader, Names& names) {
   PropertyDefinition property;
-  property.name = names.take(reader.at("name"));
-  property.value = reader.at("value").text();
-  property.type = reader.at("type").choice(propertyTypes);
-  if (property.type == PropertyType::text) {
-    property.hasMaxLength = reader.ifPresent(
-        "max_length", [&](const base::JsonReader& value) { property.maxLength = value.int32(0); });
-  } else if (property.type == PropertyType::integer) {
-    property.minimum = reader.at("minimum").int32(INT32_MIN);
-    property.maximum = reader.at("maximum").int32(property.minimum);
-  } else {
+  base::FieldReader fields(reader);
+  propertyFields(fields, property);
+  names.take(reader.at("name"));
+  if (property.type == PropertyType::constant) {
     reader.at("choices").each(
         [&](const base::JsonReader& value) { property.choices.push_back(value.text()); });
   }
-  reader.ifPresent("advanced",
-                   [&](const base::JsonReader& value) { property.advanced = value.boolean(); });
   reader.finish();
   if (!property.takes(property.value)) {
     reader.at("value").fail("\"" + property.value + "\" is not what the property takes");
@@ -166,20 +207,6 @@ void readProperties(base::JsonReader& reader, Definition& definition) {
   });
 }
 
-void readPart(base::JsonReader& reader, Definition& definition) {
-  reader.ifPresent("part",
-                   [&](const base::JsonReader& value) { definition.part = value.int32(1); });
-}
-
-void readEntry(base::JsonReader& reader, Definition& definition) {
-  definition.controlEntry = reader.at("entry").int16(1);
-  definition.modelId = reader.at("model_id").int16(0);
-  definition.category = reader.at("category").text();
-  definition.kind = reader.at("kind").int16(0);
-  definition.slot = reader.at("slot").int16(0);
-  readPart(reader, definition);
-}
-
 /// The receiver's ports by connection. Sensors take the ports of contacts, and the network has as
 /// many places as devices ask for.
 void readPorts(const base::JsonReader& list, Definition& definition) {
@@ -193,18 +220,9 @@ void readPorts(const base::JsonReader& list, Definition& definition) {
   });
 }
 
-void readReceiver(base::JsonReader& reader, Definition& definition) {
-  definition.modelId = reader.at("model_id").int16(1);
-  definition.part = reader.at("part").int32(1);
-  reader.ifPresent("ports", [&](const base::JsonReader& list) { readPorts(list, definition); });
-}
-
 void readDriver(base::JsonReader& reader, Definition& definition) {
-  definition.model = reader.at("model").text();
-  definition.type = reader.at("type").int16(0);
-  definition.connection = reader.at("connection").choice(connections);
-  reader.ifPresent("second_off",
-                   [&](const base::JsonReader& value) { definition.secondOff = value.boolean(); });
+  base::FieldReader fields(reader);
+  driverFields(fields, definition);
   reader.ifPresent("terminals", [&](const base::JsonReader& list) {
     Names names;
     list.each(
@@ -214,19 +232,10 @@ void readDriver(base::JsonReader& reader, Definition& definition) {
 }
 
 void readModule(base::JsonReader& reader, Definition& definition) {
-  definition.id = reader.at("id").int16(1);
-  definition.shortName = nonEmptyText(reader.at("short_name"));
-  definition.maker = reader.at("maker").text();
+  requireText(reader.at("short_name"));
   Names names;
   reader.at("slots").each(
       [&](const base::JsonReader& slot) { definition.slots.push_back(names.take(slot)); });
-}
-
-void readInterface(base::JsonReader& reader, Definition& definition) {
-  definition.modelId = reader.at("model_id").int16(1);
-  definition.model = reader.at("model").text();
-  definition.projectPanel = reader.at("project_panel").boolean();
-  readPart(reader, definition);
 }
 
 base::Json signalRows(const std::vector<SignalRow>& rows) {
@@ -259,58 +268,10 @@ base::Json commandList(const std::vector<CommandDefinition>& commands) {
 
 base::Json propertyJson(const PropertyDefinition& property) {
   base::Json item = base::emptyObject(6);
-  item["name"] = property.name;
-  item["value"] = property.value;
-  item["type"] = nameOf(property.type, propertyTypes);
-  if (property.hasMaxLength) item["max_length"] = property.maxLength;
-  if (property.type == PropertyType::integer) {
-    item["minimum"] = property.minimum;
-    item["maximum"] = property.maximum;
-  }
+  base::FieldWriter fields(item);
+  propertyFields(fields, property);
   if (property.type == PropertyType::constant) item["choices"] = property.choices;
-  if (property.advanced) item["advanced"] = true;
   return item;
-}
-
-void addDriver(base::Json& json, const Definition& definition) {
-  json["model"] = definition.model;
-  json["type"] = definition.type;
-  json["connection"] = nameOf(definition.connection, connections);
-  if (definition.secondOff) json["second_off"] = true;
-  if (!definition.terminals.empty()) json["terminals"] = definition.terminals;
-}
-
-void addEntry(base::Json& json, const Definition& definition) {
-  json["entry"] = definition.controlEntry;
-  json["model_id"] = definition.modelId;
-  json["category"] = definition.category;
-  json["kind"] = definition.kind;
-  json["slot"] = definition.slot;
-  if (definition.part != 0) json["part"] = definition.part;
-  addDriver(json, definition);
-}
-
-void addReceiver(base::Json& json, const Definition& definition) {
-  json["model_id"] = definition.modelId;
-  json["part"] = definition.part;
-  for (const auto& [connection, count] : definition.ports) {
-    json["ports"][nameOf(connection, portConnections)] = count;
-  }
-  addDriver(json, definition);
-}
-
-void addModule(base::Json& json, const Definition& definition) {
-  json["id"] = definition.id;
-  json["short_name"] = definition.shortName;
-  json["maker"] = definition.maker;
-  json["slots"] = definition.slots;
-}
-
-void addInterface(base::Json& json, const Definition& definition) {
-  json["model_id"] = definition.modelId;
-  json["model"] = definition.model;
-  json["project_panel"] = definition.projectPanel;
-  if (definition.part != 0) json["part"] = definition.part;
 }
 
 void addSignals(base::Json& json, const Definition& definition) {
@@ -326,23 +287,14 @@ Definition readDefinition(base::JsonReader reader, Form form, const std::string&
   Definition definition;
   definition.form = form;
   definition.maker = maker;
-  definition.name = nonEmptyText(reader.at("name"));
-  definition.description = reader.at("description").text();
-  switch (form) {
-    case Form::device:
-      readEntry(reader, definition);
-      break;
-    case Form::receiver:
-      readReceiver(reader, definition);
-      break;
-    case Form::module:
-      readModule(reader, definition);
-      break;
-    case Form::interface:
-      readInterface(reader, definition);
-      break;
+  base::FieldReader fields(reader);
+  definitionFields(fields, definition);
+  requireText(reader.at("name"));
+  if (form == Form::module) readModule(reader, definition);
+  if (form == Form::receiver) {
+    reader.ifPresent("ports", [&](const base::JsonReader& list) { readPorts(list, definition); });
   }
-  if (form == Form::device || form == Form::receiver) readDriver(reader, definition);
+  if (hasDriver(definition)) readDriver(reader, definition);
   SignalNames names;
   readSignals(reader, definition, names);
   reader.ifPresent("standard_commands",
@@ -354,22 +306,14 @@ Definition readDefinition(base::JsonReader reader, Form form, const std::string&
 
 base::Json definitionJson(const Definition& definition) {
   base::Json json = base::emptyObject(18);
-  json["name"] = definition.name;
-  json["description"] = definition.description;
-  switch (definition.form) {
-    case Form::device:
-      addEntry(json, definition);
-      break;
-    case Form::receiver:
-      addReceiver(json, definition);
-      break;
-    case Form::module:
-      addModule(json, definition);
-      break;
-    case Form::interface:
-      addInterface(json, definition);
-      break;
+  base::FieldWriter fields(json);
+  definitionFields(fields, definition);
+  if (definition.form == Form::module) json["slots"] = definition.slots;
+  for (const auto& [connection, count] : definition.ports) {
+    json["ports"][nameOf(connection, portConnections)] = count;
   }
+  if (hasDriver(definition)) driverFields(fields, definition);
+  if (!definition.terminals.empty()) json["terminals"] = definition.terminals;
   addSignals(json, definition);
   for (const auto& [id, command] : definition.standardCommands) {
     json["standard_commands"][forms::decimal(id)] = command;

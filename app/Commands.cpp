@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "app/Build.h"
-#include "app/Documents.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
 #include "app/Schema.h"
@@ -127,28 +126,6 @@ Command wizardCommand(CLI::App& program) {
            {"2", "the command line is wrong, or there is no display"}}};
 }
 
-/// A command that puts files into a folder, and that no user needs.
-template <typename Options>
-Command developersCommand(CLI::App& program, const char* name, const char* description,
-                          int (*run)(const Options&),
-                          void (*addOptions)(CLI::App&, Options&) = nullptr) {
-  auto options = std::make_shared<Options>();
-  CLI::App* command = program.add_subcommand(name, description)->group("For developers");
-  command->add_option("--out", options->out, "Folder for the files")
-      ->type_name("FOLDER")
-      ->required();
-  if (addOptions) addOptions(*command, *options);
-  return {command,
-          [options, run] { return run(*options); },
-          {{"0", "done"}, {"1", "the files can't be written"}, {"2", "the command line is wrong"}}};
-}
-
-void addScreenshotOptions(CLI::App& command, ScreenshotOptions& options) {
-  command.add_flag("--dark", options.isDark, "With a dark palette");
-  command.add_option("--font-size", options.fontPoints, "Points of the system's font")
-      ->type_name("POINTS");
-}
-
 std::string asLines(const std::string& heading, const std::vector<Meaning>& meanings) {
   std::size_t width = 0;
   for (const Meaning& each : meanings) width = std::max(width, each.word.size());
@@ -165,16 +142,8 @@ Commands::Commands()
     : program("Room solutions: the wizard, with a person or unattended", "orlena") {
   program.require_subcommand(0, 1);
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
-  all = {buildCommand(program),
-         wizardCommand(program),
-         showCommand(program),
-         reportCommand(program),
-         schemaCommand(program),
-         receiverCommand(program),
-         developersCommand(program, "screenshots", "Draws the windows in their states",
-                           takeScreenshots, addScreenshotOptions),
-         developersCommand(program, "documents", "Writes the man page and the shells' completions",
-                           writeDocuments)};
+  all = {buildCommand(program),  wizardCommand(program), showCommand(program),
+         reportCommand(program), schemaCommand(program), receiverCommand(program)};
   for (const Command& command : all) {
     command.parsed->footer(asLines("Exit status", command.exitStatuses));
   }

@@ -8,7 +8,6 @@
 #include "app/AddIn.h"
 #include "app/Environment.h"
 #include "app/QtReportPrinter.h"
-#include "app/Screenshots.h"
 #include "forms/Application.h"
 #include "forms/Form.h"
 #include "forms/Paths.h"
@@ -100,8 +99,6 @@ int openWizard(const std::optional<fs::path>& systemFile) {
   return stage.desktop.hasStarted() ? exitStatus::ok : exitStatus::refused;
 }
 
-int takeScreenshots(const ScreenshotOptions& options) { return drawSteps(options); }
-
 }  // namespace app
 
 #else
@@ -119,8 +116,6 @@ int refuseWithoutWindow() {
 int openMainWindow() { return refuseWithoutWindow(); }
 
 int openWizard(const std::optional<std::filesystem::path>&) { return refuseWithoutWindow(); }
-
-int takeScreenshots(const ScreenshotOptions&) { return refuseWithoutWindow(); }
 
 }  // namespace app
 

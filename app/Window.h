@@ -12,13 +12,4 @@ int openMainWindow();
 /// it has closed.
 int openWizard(const std::optional<std::filesystem::path>& systemFile);
 
-struct ScreenshotOptions {
-  std::filesystem::path out;
-  bool isDark = false;    // with a dark palette
-  double fontPoints = 0;  // of the system's font; 0: as it is
-};
-
-/// Draws the wizard's steps in their states into PNG files. Answers the exit status.
-int takeScreenshots(const ScreenshotOptions& options);
-
 }  // namespace app

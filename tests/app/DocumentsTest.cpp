@@ -42,7 +42,7 @@ TEST(Documents, ofTheAnswersSayWhatIsLeftWhereOneIsLeftOut) {
 TEST(Documents, letTheShellOfferCommandsOptionsAndFiles) {
   const TemporaryFolder folder;
   Program program(folder);
-  ASSERT_EQ(program.run({"documents", "--out", "share"}).status, 0);
+  ASSERT_EQ(program.shell("orlena_documents share").status, 0);
   folder.write("hall.json", "");
   folder.write("hall.tsy", "");
   const auto offered = [&](const std::string& words, int place) {

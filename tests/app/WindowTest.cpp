@@ -29,7 +29,7 @@ TEST(OrlenaWindow, onASystemThatIsNotThereDoesNotOpen) {
 TEST(OrlenaWindow, isDrawnOnEveryStep) {
   const TemporaryFolder folder;
   Program program(folder);
-  const Outcome outcome = program.run({"screenshots", "--out", "pictures"});
+  const Outcome outcome = program.shell("orlena_screenshots pictures");
   EXPECT_EQ(outcome.status, 0) << outcome.errors;
   int drawn = 0;
   for (const auto& entry : std::filesystem::directory_iterator(folder / "pictures")) {

@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "app/Commands.h"
-#include "app/Documents.h"
+#include "tools/programs/Documents.h"
 
-namespace app {
+namespace tools {
 namespace {
 
 using Options = std::vector<const CLI::Option*>;
@@ -23,7 +23,7 @@ const CLI::Option* argumentOf(const CLI::App& command) {
 
 /// "json" for "ANSWERS.json"; empty: what is asked for is no file.
 std::string extensionOf(const CLI::Option& option) {
-  const std::string name = valueName(option);
+  const std::string name = app::valueName(option);
   const std::size_t point = name.find('.');
   return point == std::string::npos ? "" : name.substr(point + 1);
 }
@@ -33,7 +33,7 @@ std::string longName(const CLI::Option& option) { return "--" + option.get_lname
 /// What bash offers for the value of an option.
 std::string bashValues(const CLI::Option& option) {
   const std::string extension = extensionOf(option);
-  if (valueName(option) == "FOLDER") return "compgen -d -- \"$word\"";
+  if (app::valueName(option) == "FOLDER") return "compgen -d -- \"$word\"";
   if (extension.empty()) return "";
   return "compgen -d -- \"$word\"; compgen -f -X '!*." + extension + "' -- \"$word\"";
 }
@@ -48,7 +48,7 @@ std::string bashCommand(const CLI::App& command) {
   std::string names;
   for (const CLI::Option* option : namedOptions(command)) {
     names += (names.empty() ? "" : " ") + longName(*option);
-    if (!isFlag(*option)) {
+    if (!app::isFlag(*option)) {
       cases += bashCase(command.get_name() + " " + longName(*option), bashValues(*option));
     }
   }
@@ -73,8 +73,8 @@ std::string zshText(const std::string& text) {
 
 std::string zshValues(const CLI::Option& option) {
   const std::string extension = extensionOf(option);
-  const std::string name = ":" + zshText(valueName(option)) + ":";
-  if (valueName(option) == "FOLDER") return name + "_files -/";
+  const std::string name = ":" + zshText(app::valueName(option)) + ":";
+  if (app::valueName(option) == "FOLDER") return name + "_files -/";
   return extension.empty() ? name : name + "_files -g \"*." + extension + "\"";
 }
 
@@ -82,7 +82,7 @@ std::string zshCommand(const CLI::App& command) {
   std::string all = "    " + command.get_name() + ") _arguments";
   for (const CLI::Option* option : namedOptions(command)) {
     all += " \\\n      '" + longName(*option) + "[" + zshText(option->get_description()) + "]" +
-           (isFlag(*option) ? "" : zshValues(*option)) + "'";
+           (app::isFlag(*option) ? "" : zshValues(*option)) + "'";
   }
   if (const CLI::Option* argument = argumentOf(command)) {
     all += " \\\n      '*" + zshValues(*argument) + "'";
@@ -92,10 +92,10 @@ std::string zshCommand(const CLI::App& command) {
 
 }  // namespace
 
-std::string bashCompletion(const Commands& commands) {
+std::string bashCompletion(const app::Commands& commands) {
   std::string names;
   std::string cases;
-  for (const Command& command : commands.all) {
+  for (const app::Command& command : commands.all) {
     names += command.parsed->get_name() + " ";
     cases += bashCommand(*command.parsed);
   }
@@ -116,10 +116,10 @@ std::string bashCompletion(const Commands& commands) {
          "complete -o filenames -F _orlena orlena\n";
 }
 
-std::string zshCompletion(const Commands& commands) {
+std::string zshCompletion(const app::Commands& commands) {
   std::string names;
   std::string cases;
-  for (const Command& command : commands.all) {
+  for (const app::Command& command : commands.all) {
     const CLI::App& parsed = *command.parsed;
     names += "    '" + parsed.get_name() + ":" + zshText(parsed.get_description()) + "'\n";
     cases += zshCommand(parsed);
@@ -139,4 +139,4 @@ std::string zshCompletion(const Commands& commands) {
          "fi\n";
 }
 
-}  // namespace app
+}  // namespace tools

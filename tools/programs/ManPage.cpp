@@ -1,7 +1,7 @@
 #include "app/Commands.h"
-#include "app/Documents.h"
+#include "tools/programs/Documents.h"
 
-namespace app {
+namespace tools {
 namespace {
 
 /// A text as it stands in a man page, where a hyphen and a point at the start of a line mean more.
@@ -21,16 +21,16 @@ std::string entry(const std::string& term, const std::string& text) {
   return ".TP\n" + term + "\n" + escaped(text) + "\n";
 }
 
-std::string entries(const std::vector<Meaning>& meanings) {
+std::string entries(const std::vector<app::Meaning>& meanings) {
   std::string all;
   for (const auto& [word, meaning] : meanings) all += entry(bold(word), meaning);
   return all;
 }
 
 std::string term(const CLI::Option& option) {
-  if (option.get_positional()) return italic(valueName(option));
+  if (option.get_positional()) return italic(app::valueName(option));
   const std::string name = bold(option.get_name());
-  return isFlag(option) ? name : name + " " + italic(valueName(option));
+  return app::isFlag(option) ? name : name + " " + italic(app::valueName(option));
 }
 
 /// The arguments of a command on one line, those that may be left out in brackets.
@@ -44,7 +44,7 @@ std::string usage(const CLI::App& command) {
   return line;
 }
 
-std::string section(const Command& command) {
+std::string section(const app::Command& command) {
   std::string all = ".SS " + escaped(command.parsed->get_name()) + "\n" +
                     escaped(command.parsed->get_description()) + ".\n.PP\n" +
                     usage(*command.parsed);
@@ -56,7 +56,7 @@ std::string section(const Command& command) {
 
 }  // namespace
 
-std::string manPage(const Commands& commands) {
+std::string manPage(const app::Commands& commands) {
   std::string page =
       ".TH ORLENA 1 \"\" \"orlena " ORLENA_VERSION
       "\" \"User Commands\"\n"
@@ -64,8 +64,8 @@ std::string manPage(const Commands& commands) {
       ".SH SYNOPSIS\n.B orlena\n.RI [ COMMAND ]\n.RI [ OPTIONS ]\n"
       ".SH DESCRIPTION\nWithout a command the main window of the host opens, from which the wizard "
       "is started.\n.SH COMMANDS\n";
-  for (const Command& command : commands.all) page += section(command);
-  return page + ".SH ENVIRONMENT\n" + entries(environmentVariables());
+  for (const app::Command& command : commands.all) page += section(command);
+  return page + ".SH ENVIRONMENT\n" + entries(app::environmentVariables());
 }
 
-}  // namespace app
+}  // namespace tools

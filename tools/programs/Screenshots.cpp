@@ -1,19 +1,16 @@
-#ifdef ORLENA_QT
-
-#include "app/Screenshots.h"
+#include "tools/programs/Screenshots.h"
 
 #include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
-#include "app/ExitStatus.h"
 #include "app/QtReportPrinter.h"
-#include "app/RunReport.h"
 #include "forms/Application.h"
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"
@@ -29,7 +26,7 @@
 #include "trellisar/window/AddIns.h"
 #include "trellisar/window/MainForm.h"
 
-namespace app {
+namespace tools {
 namespace {
 
 namespace fs = std::filesystem;
@@ -311,7 +308,7 @@ void drawMainWindow(DrawnDesktop& desktop, trellisar::Host& host) {
   desktop.act("Preferences",
               [&](forms::Form& dialog) { desktop.draw(dialog, "main-preferences"); });
   const auto draw = [&](const std::string& name, const std::string& button) {
-    trellisar::MainForm window(host, trellisar::createAddIns(componentsFile()));
+    trellisar::MainForm window(host, trellisar::createAddIns(app::componentsFile()));
     desktop.act("MainForm", [&](forms::Form& form) {
       desktop.draw(form, name);
       forms::User user(forms::Application::current());
@@ -322,7 +319,7 @@ void drawMainWindow(DrawnDesktop& desktop, trellisar::Host& host) {
   draw("main-empty", "cmdPreferences");
   for (const char* system : {"Orlena TEMPLATE", "Orlena EXAMPLE"}) {
     const fs::path file =
-        dataFolder() / "TemplateSystems" / system / (std::string(system) + ".tsy");
+        app::dataFolder() / "TemplateSystems" / system / (std::string(system) + ".tsy");
     host.preferences().remember(forms::fromMachinePath(file));
   }
   draw("main-system", "");
@@ -354,7 +351,7 @@ void drawTransfer(DrawnDesktop& desktop, const fs::path& folder) {
 
 }  // namespace
 
-int drawSteps(const ScreenshotOptions& options) {
+void drawWindows(const ScreenshotOptions& options) {
   const fs::path& folder = options.out;
   fs::create_directories(folder);
   const TemporarySystems systems;
@@ -363,19 +360,15 @@ int drawSteps(const ScreenshotOptions& options) {
   char* arguments[] = {name, nullptr};
   DrawnDesktop desktop(1, arguments, folder);
   desktop.wear({.isDark = options.isDark, .fontPoints = options.fontPoints});
-  forms::Application application(desktop, forms::fromMachinePath(dataFolder()));
-  trellisar::Host host({.dataFolder = dataFolder(),
+  forms::Application application(desktop, forms::fromMachinePath(app::dataFolder()));
+  trellisar::Host host({.dataFolder = app::dataFolder(),
                         .exportFile = systems.folder() / "Room.tsa",
-                        .printer = reportPrinter()});
+                        .printer = app::reportPrinter()});
   const Walk walk(application, desktop, host);
   drawMainWindow(desktop, host);
   drawTransfer(desktop, systems.folder() / "receiver");
-  AddIn(host).runOnNewSystem();
-  if (desktop.failure().empty()) return exitStatus::ok;
-  reportLine(desktop.failure());
-  return exitStatus::refused;
+  app::AddIn(host).runOnNewSystem();
+  if (!desktop.failure().empty()) throw std::runtime_error(desktop.failure());
 }
 
-}  // namespace app
-
-#endif
+}  // namespace tools

@@ -119,11 +119,13 @@ Command wizardCommand(CLI::App& program) {
   CLI::App* command =
       program.add_subcommand("wizard", "Opens the wizard on a new system, or on a saved one");
   named(command->add_option("FILE.tsy", *file, "A saved system"));
-  return {command,
-          [file] { return openWizard(*file); },
-          {{"0", "the wizard was closed"},
-           {"1", "no system could be started"},
-           {"2", "the command line is wrong, or there is no display"}}};
+  return {
+      command,
+      [file] { return openWizard(*file); },
+      {{"0", "the wizard was closed"},
+       {"1", "no system could be started"},
+       {"2",
+        "the command line is wrong, or there is no display, or the windows are not installed"}}};
 }
 
 std::string asLines(const std::string& heading, const std::vector<Meaning>& meanings) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
 
 #include "trellisar/settings/Preferences.h"
 
@@ -9,7 +11,11 @@ namespace app {
 /// What comes with the program: the device library, the pictures, the template of systems.
 std::filesystem::path dataFolder();
 
-/// The registration of the host's components, which lies beside the program.
+/// A file that belongs to the program: beside it, or in "lib/orlena" of the prefix that it is
+/// installed in. Nothing where it is in neither.
+std::optional<std::filesystem::path> findProgramFile(const std::string& name);
+
+/// The registration of the host's components, one of the program's files.
 std::filesystem::path componentsFile();
 
 /// The user's preferences, for reading: an unattended run leaves no trace in them.

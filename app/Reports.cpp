@@ -2,7 +2,7 @@
 
 #include "app/Environment.h"
 #include "app/ExitStatus.h"
-#include "app/QtReportPrinter.h"
+#include "app/ReportPrinter.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
 #include "host/Error.h"
@@ -20,10 +20,9 @@ int writeReports(const ReportsOptions& options) {
     return exitStatus::wrongInput;
   }
   try {
-    const auto printer = offscreenReportPrinter();
     const auto files = trellisar::writeReports(
         *document, options.out, {.pictures = dataFolder() / "pictures", .date = trellisar::today()},
-        printer.get(), options.replace);
+        reportPrinter(), options.replace);
     for (const auto& file : files) print(file.string() + "\n");
     return exitStatus::ok;
   } catch (const host::Error& error) {

@@ -1,17 +1,13 @@
 #include "app/Window.h"
 
-#include "app/ExitStatus.h"
-#include "app/RunReport.h"
-
-#ifdef ORLENA_QT
-
 #include "app/AddIn.h"
 #include "app/Environment.h"
-#include "app/QtReportPrinter.h"
+#include "app/ExitStatus.h"
+#include "app/ReportPrinter.h"
+#include "app/RunReport.h"
+#include "app/WindowModule.h"
 #include "forms/Application.h"
-#include "forms/Form.h"
 #include "forms/Paths.h"
-#include "qt/QtDesktop.h"
 #include "trellisar/window/AddIns.h"
 #include "trellisar/window/MainForm.h"
 
@@ -20,47 +16,36 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The desktop of a person, which sees whether the wizard got a system to work on.
-class WizardDesktop : public qt::QtDesktop {
- public:
-  using QtDesktop::QtDesktop;
-
-  void watch(const trellisar::Host& host) { host_ = &host; }
-  bool hasStarted() const { return started_; }
-
-  void runModal(forms::Form& form, forms::Form* owner) override {
-    // Connected last, so that the wizard's own activation, which opens the system, has run by then.
-    const auto subscription = form.activated.listen([this] {
-      if (host_ && host_->document()) started_ = true;
-    });
-    QtDesktop::runModal(form, owner);
-  }
-
- private:
-  const trellisar::Host* host_ = nullptr;
-  bool started_ = false;
-};
-
 /// What a window of the program stands on. How the windows are left is kept beside the preferences.
-template <typename Desktop>
 struct Stage {
-  Stage() {
-    desktop.keepWindowsIn(trellisar::Preferences::usualFile().parent_path() / "windows.ini");
-  }
+  explicit Stage(forms::FrontEnd& frontEnd)
+      : desktop(frontEnd.makeDesktop(
+            {.memory = trellisar::Preferences::usualFile().parent_path() / "windows.ini",
+             .formShown = [this] { hadSystem = hadSystem || host.document(); }})) {}
 
-  char name[7] = "orlena";
-  char* arguments[2] = {name, nullptr};
-  Desktop desktop{1, arguments};
-  forms::Application application{desktop, forms::fromMachinePath(dataFolder())};
+  bool hadSystem = false;  // whether one was open when a form had been shown
+  std::unique_ptr<forms::Desktop> desktop;
+  forms::Application application{*desktop, forms::fromMachinePath(dataFolder())};
   trellisar::Host host{{.dataFolder = dataFolder(),
                         .preferencesFile = trellisar::Preferences::usualFile(),
                         .printer = reportPrinter()}};
 };
 
-bool canOpenWindows() {
-  if (qt::hasDisplay()) return true;
-  reportLine("The window needs a display, and there is none. \"orlena build\" works without one.");
-  return false;
+/// Null where no window can be opened, which the user has been told then.
+forms::FrontEnd* usableFrontEnd() {
+  forms::FrontEnd* found = frontEnd();
+  if (!found) {
+    reportLine(
+        "The windows are not installed: they come with the package \"orlena-desktop\". "
+        "\"orlena build\" works without one.");
+    return nullptr;
+  }
+  if (!found->hasDisplay()) {
+    reportLine(
+        "The window needs a display, and there is none. \"orlena build\" works without one.");
+    return nullptr;
+  }
+  return found;
 }
 
 /// False when the file can't be opened, which the user has been told then.
@@ -77,8 +62,9 @@ bool open(trellisar::Host& host, const fs::path& systemFile) {
 }  // namespace
 
 int openMainWindow() {
-  if (!canOpenWindows()) return exitStatus::wrongInput;
-  Stage<qt::QtDesktop> stage;
+  forms::FrontEnd* windows = usableFrontEnd();
+  if (!windows) return exitStatus::wrongInput;
+  Stage stage(*windows);
   stage.application.setTitle("Trellisar");
   trellisar::MainForm(stage.host, trellisar::createAddIns(componentsFile())).run();
   trellisar::unloadComponents();
@@ -86,9 +72,9 @@ int openMainWindow() {
 }
 
 int openWizard(const std::optional<fs::path>& systemFile) {
-  if (!canOpenWindows()) return exitStatus::wrongInput;
-  Stage<WizardDesktop> stage;
-  stage.desktop.watch(stage.host);
+  forms::FrontEnd* windows = usableFrontEnd();
+  if (!windows) return exitStatus::wrongInput;
+  Stage stage(*windows);
   AddIn addIn(stage.host);
   if (systemFile) {
     if (!open(stage.host, *systemFile)) return exitStatus::refused;
@@ -96,27 +82,7 @@ int openWizard(const std::optional<fs::path>& systemFile) {
   } else {
     addIn.runOnNewSystem();
   }
-  return stage.desktop.hasStarted() ? exitStatus::ok : exitStatus::refused;
+  return stage.hadSystem ? exitStatus::ok : exitStatus::refused;
 }
 
 }  // namespace app
-
-#else
-
-namespace app {
-namespace {
-
-int refuseWithoutWindow() {
-  reportLine("This program was built without its window. \"orlena build\" works without one.");
-  return exitStatus::wrongInput;
-}
-
-}  // namespace
-
-int openMainWindow() { return refuseWithoutWindow(); }
-
-int openWizard(const std::optional<std::filesystem::path>&) { return refuseWithoutWindow(); }
-
-}  // namespace app
-
-#endif

@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QSaveFile>
 #include <QTextDocument>
+#include <optional>
 
 #include "forms/Error.h"
 
@@ -35,6 +36,22 @@ void draw(const std::string& html, QPagedPaintDevice& paper) {
   document.print(&paper);
 }
 
+/// What texts need to be laid out where nothing is shown; nothing where a desktop runs.
+class OffscreenApplication {
+ public:
+  OffscreenApplication() {
+    if (QCoreApplication::instance()) return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_.emplace(count_, arguments_);
+  }
+
+ private:
+  int count_ = 1;
+  char name_[7] = "orlena";
+  char* arguments_[2] = {name_, nullptr};
+  std::optional<QGuiApplication> application_;
+};
+
 }  // namespace
 
 void printHtml(const std::string& title, const std::string& html) {
@@ -53,6 +70,7 @@ void printHtml(const std::string& title, const std::string& html) {
 
 void writePdf(const std::filesystem::path& path, const std::string& title,
               const std::string& html) {
+  const OffscreenApplication application;
   QSaveFile file(text(path.string()));
   bool isWritten = file.open(QIODevice::WriteOnly);
   if (isWritten) {
@@ -69,19 +87,5 @@ void writePdf(const std::filesystem::path& path, const std::string& title,
         "The file \"" + path.string() + "\" can't be written: " + file.errorString().toStdString());
   }
 }
-
-struct OffscreenApplication::Impl {
-  int count = 1;
-  char name[7] = "orlena";
-  char* arguments[2] = {name, nullptr};
-  QGuiApplication application{count, arguments};
-};
-
-OffscreenApplication::OffscreenApplication() {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  impl_ = new Impl;
-}
-
-OffscreenApplication::~OffscreenApplication() { delete impl_; }
 
 }  // namespace qt

@@ -93,6 +93,10 @@ void QtDesktop::keepWindowsIn(const std::filesystem::path& machineFile) {
   parts_->session.memory.keepIn(machineFile);
 }
 
+void QtDesktop::whenShown(std::function<void()> formShown) {
+  parts_->session.formShown = std::move(formShown);
+}
+
 void QtDesktop::wear(const Look& look) {
   QFont font = QApplication::font();
   if (look.fontPoints > 0) font.setPointSizeF(look.fontPoints);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "forms/Desktop.h"
@@ -27,6 +28,9 @@ class QtDesktop : public forms::Desktop {
 
   /// From now on windows come back as the user left them, also in the next run.
   void keepWindowsIn(const std::filesystem::path& machineFile);
+
+  /// Called when a form is on the screen and has done what it does on being activated.
+  void whenShown(std::function<void()> formShown);
 
   /// What a system can ask of its windows. 0 points: its font as it is.
   struct Look {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QtGlobal>
+#include <functional>
 #include <vector>
 
 #include "qt/WindowMemory.h"
@@ -23,6 +24,9 @@ struct Session {
   int interruptions = 0;
 
   WindowMemory memory;
+
+  /// Called when a form has been shown and activated; may be empty.
+  std::function<void()> formShown;
 
   /// Brings everything on the screen up to date with its form.
   void refreshAll() const;

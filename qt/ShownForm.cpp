@@ -63,6 +63,7 @@ void ShownForm::run() {
   window_.show();
   form_->setWindowHandle(handleOf(window_));
   form_->activateNow();
+  if (session_.formShown) session_.formShown();
   refresh();
   if (form_ && form_->isVisible()) loop_.exec();
 }

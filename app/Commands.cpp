@@ -157,6 +157,7 @@ Commands::Commands()
 
 const std::vector<Meaning>& environmentVariables() {
   static const std::vector<Meaning> variables{
+      {"ORLENA_DATA", "folder of the program's data, in the place of the one that came with it"},
       {"TRELLISAR_SYSTEMS", "default parent folder of systems, over the preferences"},
       {"XDG_CONFIG_HOME", "where the preferences are kept, and where the documents folder is told"},
       {"DISPLAY, WAYLAND_DISPLAY", "the screen that windows open on"},

@@ -1,8 +1,10 @@
 #include "app/Environment.h"
 
+#include <cstdlib>
 #include <system_error>
 
 #include "forms/Paths.h"
+#include "host/Error.h"
 #include "trellisar/settings/SystemFolders.h"
 
 namespace app {
@@ -13,9 +15,31 @@ namespace {
 
 fs::path programFolder() { return fs::read_symlink("/proc/self/exe").parent_path(); }
 
+bool holdsData(const fs::path& folder) {
+  std::error_code failure;
+  return fs::is_directory(folder / "library", failure);
+}
+
+std::string inQuotes(const fs::path& path) { return "\"" + path.string() + "\""; }
+
 }  // namespace
 
-fs::path dataFolder() { return ORLENA_DATA_FOLDER; }
+fs::path dataFolder() {
+  const char* named = std::getenv("ORLENA_DATA");
+  if (named && *named != '\0') {
+    if (holdsData(named)) return fs::canonical(named);
+    throw host::Error(host::errFile, "ORLENA_DATA names " + inQuotes(named) +
+                                         ", which does not hold the program's data.");
+  }
+  const fs::path beside = programFolder() / "data";
+  const fs::path installed = programFolder().parent_path() / "share/orlena";
+  for (const fs::path& folder : {beside, installed}) {
+    if (holdsData(folder)) return fs::canonical(folder);
+  }
+  throw host::Error(host::errFile, "The program's data is neither in " + inQuotes(beside) +
+                                       " nor in " + inQuotes(installed) +
+                                       ". Install it again, or name its folder in ORLENA_DATA.");
+}
 
 std::optional<fs::path> findProgramFile(const std::string& name) {
   for (const fs::path& folder : {programFolder(), programFolder().parent_path() / "lib/orlena"}) {

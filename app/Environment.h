@@ -8,7 +8,9 @@
 
 namespace app {
 
-/// What comes with the program: the device library, the pictures, the template of systems.
+/// What comes with the program: the device library, the pictures, the template of systems. It is
+/// the folder that ORLENA_DATA names, or else "data" beside the program, or "share/orlena" of the
+/// prefix that it is installed in. Raises host::Error errFile where it is not there.
 std::filesystem::path dataFolder();
 
 /// A file that belongs to the program: beside it, or in "lib/orlena" of the prefix that it is

@@ -33,7 +33,7 @@ int run(int argc, char** argv) {
   for (const Command& command : commands.all) {
     if (command.parsed->parsed()) return command.run();
   }
-  return openMainWindow();
+  return openMainWindow(commands.file);
 }
 
 }  // namespace app

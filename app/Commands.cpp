@@ -13,6 +13,7 @@
 #include "app/Schema.h"
 #include "app/Show.h"
 #include "app/Window.h"
+#include "forms/Text.h"
 
 namespace app {
 namespace {
@@ -128,6 +129,16 @@ Command wizardCommand(CLI::App& program) {
         "the command line is wrong, or there is no display, or the windows are not installed"}}};
 }
 
+/// Why no system can be in a file of this name; empty: one can.
+std::string isSystemOrArchive(const std::string& file) {
+  const std::string extension = std::filesystem::path(file).extension().string();
+  if (forms::equalsIgnoringCase(extension, ".tsy") ||
+      forms::equalsIgnoringCase(extension, ".tsa")) {
+    return {};
+  }
+  return "\"" + file + "\" is neither a command nor a system (.tsy) or an archive (.tsa)";
+}
+
 std::string asLines(const std::string& heading, const std::vector<Meaning>& meanings) {
   std::size_t width = 0;
   for (const Meaning& each : meanings) width = std::max(width, each.word.size());
@@ -146,11 +157,15 @@ Commands::Commands()
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
   all = {buildCommand(program),  wizardCommand(program), showCommand(program),
          reportCommand(program), schemaCommand(program), receiverCommand(program)};
+  CLI::Option* opened =
+      named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
+          ->check(isSystemOrArchive);
   for (const Command& command : all) {
+    command.parsed->excludes(opened);
     command.parsed->footer(asLines("Exit status", command.exitStatuses));
   }
   program.footer(
-      "Without a command the host's main window opens.\n"
+      "Without a command the host's main window opens, with the file where one is named.\n"
       "orlena COMMAND --help tells the options and exit statuses of a command.\n\n" +
       asLines("Environment", environmentVariables()));
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,6 +29,8 @@ struct Commands {
 
   CLI::App program;
   std::vector<Command> all;
+  /// What the main window opens where no command is given.
+  std::optional<std::filesystem::path> file;
 };
 
 /// The environment variables that the program looks at.

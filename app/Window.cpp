@@ -48,25 +48,29 @@ forms::FrontEnd* usableFrontEnd() {
   return found;
 }
 
-/// False when the file can't be opened, which the user has been told then.
-bool open(trellisar::Host& host, const fs::path& systemFile) {
+/// False when there is no such file, which the user has been told then.
+bool isThere(const fs::path& file) {
   std::error_code failure;
-  if (!fs::exists(systemFile, failure)) {
-    reportLine("There is no system file \"" + systemFile.string() + "\".");
-    return false;
-  }
-  const std::string path = forms::fromMachinePath(fs::absolute(systemFile).lexically_normal());
-  return host.mainWindow()->FileOpen(path, /*bUseRecovery=*/true) != nullptr;
+  if (fs::exists(file, failure)) return true;
+  reportLine("There is no system file \"" + file.string() + "\".");
+  return false;
+}
+
+/// With backslashes.
+std::string wholePath(const fs::path& file) {
+  return forms::fromMachinePath(fs::absolute(file).lexically_normal());
 }
 
 }  // namespace
 
-int openMainWindow() {
+int openMainWindow(const std::optional<fs::path>& file) {
   forms::FrontEnd* windows = usableFrontEnd();
   if (!windows) return exitStatus::wrongInput;
+  if (file && !isThere(*file)) return exitStatus::refused;
   Stage stage(*windows);
   stage.application.setTitle("Trellisar");
-  trellisar::MainForm(stage.host, trellisar::createAddIns(componentsFile())).run();
+  trellisar::MainForm(stage.host, trellisar::createAddIns(componentsFile()))
+      .run(file ? wholePath(*file) : "");
   trellisar::unloadComponents();
   return exitStatus::ok;
 }
@@ -77,7 +81,9 @@ int openWizard(const std::optional<fs::path>& systemFile) {
   Stage stage(*windows);
   AddIn addIn(stage.host);
   if (systemFile) {
-    if (!open(stage.host, *systemFile)) return exitStatus::refused;
+    const bool isOpen = isThere(*systemFile) && stage.host.mainWindow()->FileOpen(
+                                                    wholePath(*systemFile), /*bUseRecovery=*/true);
+    if (!isOpen) return exitStatus::refused;
     addIn.runOnOpenSystem();
   } else {
     addIn.runOnNewSystem();

@@ -15,15 +15,30 @@ TEST(OrlenaWindow, withoutADisplayIsRefusedWithTheWayAround) {
   }
 }
 
+TEST(OrlenaFile, thatIsNoSystemOrStandsBesideACommandIsRefused) {
+  const TemporaryFolder folder;
+  Program program(folder);
+  program.setPlatform("offscreen");
+  folder.write("hall.json", R"({"name": "Hall"})");
+  for (const std::string arguments :
+       {"biuld", "hall.json", "Hall.tsy build hall.json", "show Hall.tsy Other.tsy"}) {
+    const Outcome outcome = program.shell("orlena " + arguments);
+    EXPECT_EQ(outcome.status, 2) << arguments;
+    EXPECT_NE(outcome.errors, "") << arguments;
+  }
+}
+
 #ifdef ORLENA_QT
 
 TEST(OrlenaWindow, onASystemThatIsNotThereDoesNotOpen) {
   const TemporaryFolder folder;
   Program program(folder);
   program.setPlatform("offscreen");
-  const Outcome outcome = program.run({"wizard", "Hall.tsy"});
-  EXPECT_EQ(outcome.status, 1);
-  expectHas(outcome.errors, "\"Hall.tsy\"");
+  for (const auto& arguments : {std::vector<std::string>{"wizard", "Hall.tsy"}, {"Hall.tsy"}}) {
+    const Outcome outcome = program.run(arguments);
+    EXPECT_EQ(outcome.status, 1);
+    expectHas(outcome.errors, "\"Hall.tsy\"");
+  }
 }
 
 TEST(OrlenaWindow, isDrawnOnEveryStep) {

@@ -57,13 +57,14 @@ class MainFormTest : public HostTest {
   }
 
   /// Shows the window and closes it with Escape after the script.
-  void inWindow(const std::function<void(trellisar::MainForm&)>& script) {
+  void inWindow(const std::function<void(trellisar::MainForm&)>& script,
+                const std::string& system = {}) {
     trellisar::MainForm form(host, {addIn});
     desktop.whenShown("MainForm", [&](forms::Form&) {
       script(form);
       user.press(forms::keys::escape);
     });
-    form.run();
+    form.run(system);
   }
 };
 
@@ -126,6 +127,16 @@ TEST_F(MainFormTest, EditsASystemWithTheAddInThatItBelongsTo) {
     user.click(form.cmdOpen);
     EXPECT_EQ(form.lvwRecent.rowCount(), 3);
   });
+}
+
+TEST_F(MainFormTest, OpensTheSystemThatItIsShownFor) {
+  givenSaved("Hall");
+  inWindow(
+      [&](const trellisar::MainForm&) {
+        application.processEvents();
+        EXPECT_EQ(addIn->calls, "load Hall, open file, run; ");
+      },
+      folder.inside("Hall.tsy"));
 }
 
 TEST_F(MainFormTest, ASystemThatIsGoneIsToldAndDroppedAndADamagedOneIsShownAsThat) {

@@ -84,8 +84,11 @@ void MainForm::connect() {
   cmdClose.click.connect([this] { hide(); });
 }
 
-void MainForm::run() {
+void MainForm::run(const std::string& system) {
   hostAgain();
+  if (!system.empty()) {
+    forms::Application::current().runLater([this, system] { open(system); });
+  }
   showModal(nullptr);
   unload();
 }
@@ -207,6 +210,10 @@ void MainForm::editRecent() {
   const std::string system = selectedSystem();
   if (system.empty()) return;
   if (!isThere(system)) return dropMissing(system);
+  open(system);
+}
+
+void MainForm::open(const std::string& system) {
   if (host_.mainWindow()->FileOpen(system, /*bUseRecovery=*/true)) editOpenSystem();
 }
 

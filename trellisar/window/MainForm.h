@@ -28,8 +28,9 @@ class MainForm : public forms::Form {
   MainForm(Host& host, AddIns addIns);
   ~MainForm() override;
 
-  /// Shows the window until the user closes it.
-  void run();
+  /// Shows the window until the user closes it. A system that is named, or the one in an archive,
+  /// is opened there first, and its add-in runs on it.
+  void run(const std::string& system = {});
 
   forms::Label lblAddIns{*this, "lblAddIns", "&Add-ins:"};
   forms::ListView lvwAddIns{*this, "lvwAddIns"};
@@ -61,6 +62,7 @@ class MainForm : public forms::Form {
   void startNew();
   void editRecent();
   void openOther();
+  void open(const std::string& system);
   /// Runs the add-in that the open system belongs to; a system of none can only be read.
   void editOpenSystem();
   void dropMissing(const std::string& system);

@@ -52,6 +52,7 @@ TEST(Documents, letTheShellOfferCommandsOptionsAndFiles) {
         .output;
   };
   EXPECT_EQ(offered("orlena re", 1), "report receiver\n");
+  EXPECT_EQ(offered("orlena ha", 1), "hall.tsy\n");
   EXPECT_EQ(offered("orlena build --re", 2), "--replace\n");
   EXPECT_EQ(offered("orlena build h", 2), "hall.json\n");
   EXPECT_EQ(offered("orlena show h", 2), "hall.tsy\n");

@@ -30,12 +30,16 @@ std::string extensionOf(const CLI::Option& option) {
 
 std::string longName(const CLI::Option& option) { return "--" + option.get_lnames().front(); }
 
+std::string bashFiles(const std::string& extension) {
+  return "compgen -d -- \"$word\"; compgen -f -X '!*." + extension + "' -- \"$word\"";
+}
+
 /// What bash offers for the value of an option.
 std::string bashValues(const CLI::Option& option) {
   const std::string extension = extensionOf(option);
   if (app::valueName(option) == "FOLDER") return "compgen -d -- \"$word\"";
   if (extension.empty()) return "";
-  return "compgen -d -- \"$word\"; compgen -f -X '!*." + extension + "' -- \"$word\"";
+  return bashFiles(extension);
 }
 
 std::string bashCase(const std::string& pattern, const std::string& values) {
@@ -90,6 +94,42 @@ std::string zshCommand(const CLI::App& command) {
   return all + " ;;\n";
 }
 
+/// A text between the quotation marks of fish.
+std::string fishText(const std::string& text) {
+  std::string all;
+  for (const char c : text) {
+    if (c == '\'' || c == '\\') all += '\\';
+    all += c;
+  }
+  return "'" + all + "'";
+}
+
+std::string fishFiles(const std::string& extension) {
+  return " -kxa '(__fish_complete_suffix ." + extension + ")'";
+}
+
+std::string fishValues(const CLI::Option& option) {
+  const std::string extension = extensionOf(option);
+  if (app::valueName(option) == "FOLDER") return " -xa '(__fish_complete_directories)'";
+  return extension.empty() ? " -x" : fishFiles(extension);
+}
+
+std::string fishCommand(const CLI::App& command) {
+  const std::string name = command.get_name();
+  std::string all = "complete -c orlena -n __fish_use_subcommand -a " + name + " -d " +
+                    fishText(command.get_description()) + "\n";
+  const std::string start = "complete -c orlena -n '__fish_seen_subcommand_from " + name + "'";
+  for (const CLI::Option* option : namedOptions(command)) {
+    all += start + " -l " + option->get_lnames().front() + " -d " +
+           fishText(option->get_description()) + (app::isFlag(*option) ? "" : fishValues(*option)) +
+           "\n";
+  }
+  if (const CLI::Option* argument = argumentOf(command)) {
+    all += start + fishValues(*argument) + "\n";
+  }
+  return all;
+}
+
 }  // namespace
 
 std::string bashCompletion(const app::Commands& commands) {
@@ -102,14 +142,13 @@ std::string bashCompletion(const app::Commands& commands) {
   return "_orlena() {\n"
          "  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} offered\n"
          "  if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
-         "    COMPREPLY=($(compgen -W '" +
+         "    offered=$(compgen -W '" +
          names +
-         "--help --version' -- \"$word\"))\n"
-         "    return\n"
-         "  fi\n"
-         "  case \"${COMP_WORDS[1]} $before\" in\n" +
+         "--help --version' -- \"$word\"; " + bashFiles("ts[ay]") +
+         ")\n"
+         "  else case \"${COMP_WORDS[1]} $before\" in\n" +
          cases +
-         "  esac\n"
+         "  esac fi\n"
          "  local IFS=$'\\n'\n"
          "  COMPREPLY=($offered)\n"
          "}\n"
@@ -130,6 +169,7 @@ std::string zshCompletion(const app::Commands& commands) {
          "  )\n"
          "if (( CURRENT == 2 )); then\n"
          "  _describe command commands\n"
+         "  _files -g \"*.ts[ay]\"\n"
          "else\n"
          "  shift words\n"
          "  (( CURRENT-- ))\n"
@@ -137,6 +177,15 @@ std::string zshCompletion(const app::Commands& commands) {
          cases +
          "  esac\n"
          "fi\n";
+}
+
+std::string fishCompletion(const app::Commands& commands) {
+  std::string all = "complete -c orlena -f\n";
+  for (const app::Command& command : commands.all) all += fishCommand(*command.parsed);
+  return all + "complete -c orlena -n __fish_use_subcommand" + fishFiles("tsy") +
+         "\ncomplete -c orlena -n __fish_use_subcommand" + fishFiles("tsa") +
+         "\ncomplete -c orlena -n __fish_use_subcommand -l help\n"
+         "complete -c orlena -n __fish_use_subcommand -l version\n";
 }
 
 }  // namespace tools

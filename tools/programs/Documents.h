@@ -12,5 +12,6 @@ namespace tools {
 std::string manPage(const app::Commands& commands);
 std::string bashCompletion(const app::Commands& commands);
 std::string zshCompletion(const app::Commands& commands);
+std::string fishCompletion(const app::Commands& commands);
 
 }  // namespace tools

@@ -17,7 +17,8 @@ void writeDocuments(const fs::path& folder) {
   const std::pair<const char*, std::string> documents[] = {
       {"man/man1/orlena.1", tools::manPage(commands)},
       {"bash-completion/completions/orlena", tools::bashCompletion(commands)},
-      {"zsh/site-functions/_orlena", tools::zshCompletion(commands)},
+      {"zsh/vendor-completions/_orlena", tools::zshCompletion(commands)},
+      {"fish/vendor_completions.d/orlena.fish", tools::fishCompletion(commands)},
   };
   for (const auto& [name, text] : documents) {
     const fs::path file = folder / name;

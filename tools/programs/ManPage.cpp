@@ -61,9 +61,9 @@ std::string manPage(const app::Commands& commands) {
       ".TH ORLENA 1 \"\" \"orlena " ORLENA_VERSION
       "\" \"User Commands\"\n"
       ".SH NAME\norlena \\- the wizard for audio/video rooms, with a person or unattended\n"
-      ".SH SYNOPSIS\n.B orlena\n.RI [ COMMAND ]\n.RI [ OPTIONS ]\n"
+      ".SH SYNOPSIS\n.B orlena\n.RI [ FILE ]\n.br\n.B orlena\n.I COMMAND\n.RI [ OPTIONS ]\n"
       ".SH DESCRIPTION\nWithout a command the main window of the host opens, from which the wizard "
-      "is started.\n.SH COMMANDS\n";
+      "is started. A system (.tsy), or the one in an archive (.tsa), is opened there.\n.SH COMMANDS\n";
   for (const app::Command& command : commands.all) page += section(command);
   return page + ".SH ENVIRONMENT\n" + entries(app::environmentVariables());
 }

@@ -250,7 +250,9 @@ void ShownForm::addMissing(const forms::Container& container) {
       adapter->widget()->setParent(&parent);
       note(*adapter);
     }
-    if (const forms::Container* inner = child->asContainer()) addMissing(*inner);
+    const forms::Container* inner = child->asContainer();
+    // A page gets its widgets when it is shown.
+    if (inner && child->isVisible() && container.shows(*child)) addMissing(*inner);
   }
 }
 

@@ -23,8 +23,10 @@ namespace tests {
 inline void whenOpenOver(const QWidget* below, const std::function<void(QWidget&)>& act) {
   QTimer::singleShot(5, qApp, [below, act] {
     QWidget* modal = QApplication::activeModalWidget();
-    QWidget* top = modal ? modal : QApplication::activeWindow();
-    top&& top != below ? act(*top) : whenOpenOver(below, act);
+    QWidget* top = QApplication::activeWindow();
+    // A window that has opened takes keys only once it is the active one.
+    const bool isOpen = top && top != below && (!modal || modal == top);
+    isOpen ? act(*top) : whenOpenOver(below, act);
   });
 }
 

@@ -5,7 +5,7 @@
 
 namespace base {
 
-/// What is wrong with an answers file, or with an answer in a room.
+/// What is wrong with a file that a person wrote, or with one of its values.
 struct Fault {
   std::string what;
   std::string path = {};  // of the key, such as "transmitters[1].label"; empty: of the whole

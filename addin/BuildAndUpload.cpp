@@ -2,6 +2,7 @@
 #include "addin/modGlobals.h"
 #include "forms/Application.h"
 #include "forms/Guard.h"
+#include "host/Numbers.h"
 
 namespace addin {
 namespace {

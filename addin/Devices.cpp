@@ -3,6 +3,7 @@
 #include "forms/Application.h"
 #include "forms/Numbers.h"
 #include "forms/Text.h"
+#include "host/Numbers.h"
 
 namespace addin {
 

@@ -4,6 +4,7 @@
 #include "forms/Application.h"
 #include "forms/Components.h"
 #include "host/Error.h"
+#include "host/Numbers.h"
 
 namespace addin {
 namespace {

@@ -8,7 +8,6 @@
 #include "host/CommObject.h"
 #include "host/Document.h"
 #include "host/Library.h"
-#include "host/Numbers.h"
 #include "host/OwnerForm.h"
 
 /// One instance of each for the thread: they hang from its Application. The accessors raise

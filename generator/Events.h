@@ -7,7 +7,7 @@
 #include "generator/Presets.h"
 #include "generator/Run.h"
 #include "generator/Steps.h"
-#include "host/Document.h"
+#include "host/Program.h"
 
 /// How a sub-builder reaches the signals of the open document and programs their events, which are
 /// those of host::enumSignalEvent.

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 
-#include "addin/Enumerations.h"
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "generator/Devices.h"

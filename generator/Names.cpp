@@ -26,8 +26,7 @@ constexpr PowerNames powerOn{
     .sDisplayPreset = sDisplayPowerOnPreset,
     .sDisplayComment =
         "Add additional steps here that should be executed when the display turns on.  For "
-        "example, "
-        "maybe a projector requires multiple commands to turn on, or perhaps you want to "
+        "example, maybe a projector requires multiple commands to turn on, or perhaps you want to "
         "automatically dim the lights when the display turns on, etc.",
     .sModuleSlot = "Power_On",
     .sKestrumSignal = "System_Powered_On",

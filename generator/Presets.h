@@ -7,7 +7,7 @@
 
 #include "generator/Run.h"
 #include "generator/Steps.h"
-#include "host/Document.h"
+#include "host/Program.h"
 
 /// How a sub-builder writes the steps of a preset of the open document. Steps count from 1; no
 /// named preset is ever created.

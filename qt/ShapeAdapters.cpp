@@ -4,7 +4,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 
-#include "qt/Conversions.h"
 #include "qt/Painting.h"
 #include "qt/Pictures.h"
 

@@ -7,6 +7,7 @@
 #include "common/CommonFunctions.h"
 #include "common/modHTMLHelp.h"
 #include "forms/Application.h"
+#include "host/Numbers.h"
 #include "host/iTab.h"
 
 namespace shell {

@@ -10,6 +10,7 @@
 #include "forms/Application.h"
 #include "forms/Guard.h"
 #include "forms/Rows.h"
+#include "host/Numbers.h"
 
 namespace shell {
 namespace {

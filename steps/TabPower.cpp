@@ -28,12 +28,10 @@ constexpr const char* strDiscreteText =
     "This device provides discrete commands for \"Power On\" and \"Power Off\".";
 constexpr const char* strSensingText =
     "This device only has a \"Power\" command that toggles the power on and off, so use a power "
-    "sensor attached to a "
-    "digital input";
+    "sensor attached to a digital input";
 constexpr const char* strNoSensingText =
     "This option is not available since the currently selected device does not have a \"Power\" "
-    "command to toggle the "
-    "power on and off.";
+    "command to toggle the power on and off.";
 constexpr const char* strNoneText =
     "This device is turned on and off manually by the user.  Or this device is assumed always on.";
 

@@ -10,7 +10,6 @@
 #include "forms/Frame.h"
 #include "forms/Label.h"
 #include "forms/TextBox.h"
-#include "host/Device.h"
 #include "host/ctlImage.h"
 #include "steps/NumberBox.h"
 #include "steps/WizardStep.h"

@@ -1,4 +1,3 @@
-#include "answers/Table.h"
 
 #include <gtest/gtest.h>
 

@@ -18,9 +18,9 @@ class InstalledOrlena : public testing::Test {
 
   /// Data with a library that can't be opened: the error tells which one was taken.
   void givenData(const std::string& where, const std::string& mark) const {
-    folder_.write(where + "/library/index.json",
-                  R"({"format": "trellisar-device-library", "version": 1, "files": [")" + mark +
-                      R"("]})");
+    folder_.write(
+        where + "/library/index.json",
+        R"({"format": "trellisar-device-library", "version": 1, "files": [")" + mark + R"("]})");
   }
 
   Outcome run(const std::string& arguments, const std::string& environment = {}) {

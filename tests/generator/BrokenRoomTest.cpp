@@ -7,6 +7,7 @@
 
 #include "forms/Components.h"
 #include "host/Error.h"
+#include "host/Numbers.h"
 #include "tests/generator/Room.h"
 #include "tests/support/Files.h"
 

@@ -1,4 +1,5 @@
 #include "tests/generator/Combination.h"
+#include "host/Numbers.h"
 
 #include <algorithm>
 #include <array>

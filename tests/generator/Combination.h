@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "host/Numbers.h"
 #include "tests/generator/Room.h"
 
 namespace tests {

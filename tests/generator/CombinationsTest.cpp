@@ -7,6 +7,7 @@
 #include <set>
 #include <sstream>
 
+#include "host/Numbers.h"
 #include "tests/generator/Combination.h"
 #include "tests/support/Golden.h"
 

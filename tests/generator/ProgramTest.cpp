@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "forms/Components.h"
+#include "host/Numbers.h"
 #include "tests/generator/Room.h"
 
 namespace {

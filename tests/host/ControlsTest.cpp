@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "forms/Application.h"
-#include "forms/CommandButton.h"
 #include "forms/Form.h"
 #include "forms/User.h"
 #include "host/Error.h"

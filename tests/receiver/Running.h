@@ -5,8 +5,8 @@
 #include <optional>
 #include <thread>
 
-#include "receiver/Client.h"
 #include "base/Digest.h"
+#include "receiver/Client.h"
 #include "receiver/Messages.h"
 #include "receiver/Network.h"
 #include "receiver/Server.h"

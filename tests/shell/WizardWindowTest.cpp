@@ -7,6 +7,7 @@
 #include "addin/modGlobals.h"
 #include "forms/ListView.h"
 #include "forms/TextBox.h"
+#include "host/Numbers.h"
 #include "tests/wizard/Wizard.h"
 
 namespace {

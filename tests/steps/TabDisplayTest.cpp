@@ -1,5 +1,6 @@
 #include "steps/TabDisplay.h"
 
+#include "host/Numbers.h"
 #include "tests/steps/StepTest.h"
 
 namespace {

@@ -19,8 +19,7 @@ TEST_F(TabPowerOnOffLockoutTest, AsksOnlyWhereThePowerIsControlled) {
       EXPECT_EQ(text("lblInfo"), hint);
     };
     expectHint(
-        "Before configuring Power Lockout add a Display Device on the \"Display Device\" "
-        "step.");
+        "Before configuring Power Lockout add a Display Device on the \"Display Device\" step.");
     for (const char* display : {withControl, "Quenlowe K32"}) {
       enterWith(display);
       EXPECT_EQ(states(frames), "-oo") << display;

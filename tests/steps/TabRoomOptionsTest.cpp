@@ -1,3 +1,4 @@
+#include "host/Numbers.h"
 #include "tests/steps/StepTest.h"
 
 namespace {

@@ -2,7 +2,6 @@
 #include <ctime>
 
 #include "base/FileIO.h"
-#include "forms/Paths.h"
 #include "host/Error.h"
 #include "tests/support/Zip.h"
 #include "tests/trellisar/World.h"

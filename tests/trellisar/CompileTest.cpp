@@ -138,18 +138,15 @@ TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {
       "preset \"System Lock\", step 2: the device \"Display Device\" has no command \"Power_On\".",
       "preset \"System Lock\", step 3: its device is not in the system.",
       "preset \"System Unlock\", step 1: it tests \"No_Signal\", which the device \"Receiver\" "
-      "does "
-      "not have.",
+      "does not have.",
       "preset \"System Unlock\", step 2: it tests a device that is not in the system.",
       "preset \"System Unlock\", step 3: it has no condition.",
       "event \"Powered_On\" of \"Receiver\" goes off, step 1: the device \"Receiver\" has no "
-      "command "
-      "\"Sing\".",
+      "command \"Sing\".",
       "source of \"Lock\" of \"Receiver\": the device \"Display Device\" has no signal "
       "\"Whistle\".",
       "module \"Display Device/PWRTIMEOUT\", slot \"Power_Off\": the device \"Display Device\" has "
-      "no "
-      "command \"Hum\".",
+      "no command \"Hum\".",
   };
   EXPECT_EQ(trellisar::programErrors(data()), expected);
 
@@ -185,8 +182,7 @@ TEST_F(CompileTest, AnErrorNamesThePageThatMendsItAndLeadsThere) {
     auto& list = in<forms::ListBox>(form, "lstErrors");
     const std::string first =
         "preset \"System Lock\", step 1: the device \"Display Device\" has no command \"Dance\". "
-        "It "
-        "is mended on the page \"Page of System Lock\".";
+        "It is mended on the page \"Page of System Lock\".";
     EXPECT_EQ(list.text(0), first);
     user.click(form.control("cmdCopy"));
     EXPECT_EQ(desktop.copiedText(), first + "\n" + list.text(1) + "\n");

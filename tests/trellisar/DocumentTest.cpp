@@ -209,8 +209,7 @@ TEST_F(DocumentTest, ControlSystemChangesItsModelAndNothingElse) {
   document().ChangeControlSystem(host::modelReceiverOneInput, "", 0, message);
   EXPECT_EQ(message,
             "The program uses what the receiver's model OL-RX1 does not have:\r\n\r\npreset "
-            "\"System Lock\", step 2: the device \"Receiver\" has no command "
-            "\"Select_Input_3\".");
+            "\"System Lock\", step 2: the device \"Receiver\" has no command \"Select_Input_3\".");
   EXPECT_FALSE(before->HasSignal("Input3_Error", host::directionOutput, host::signalDigital));
 
   document().ChangeControlSystem(7, "", 0, message);

@@ -1,6 +1,5 @@
 #include "trellisar/window/MainForm.h"
 
-#include "forms/Paths.h"
 #include "tests/trellisar/World.h"
 
 namespace tests {

@@ -3,8 +3,6 @@
 #include "base/FileIO.h"
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"
-#include "forms/Paths.h"
-#include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/reports/Report.h"
 

@@ -1,5 +1,4 @@
 #include "tests/support/Golden.h"
-#include "tests/trellisar/World.h"
 
 namespace tests {
 namespace {

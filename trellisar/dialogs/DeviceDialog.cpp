@@ -9,7 +9,6 @@
 #include "forms/Text.h"
 #include "host/Numbers.h"
 #include "trellisar/dialogs/HelpTopics.h"
-#include "trellisar/document/Provisioning.h"
 
 namespace trellisar {
 namespace {

@@ -2,7 +2,6 @@
 #include <utility>
 
 #include "base/Json.h"
-#include "forms/Numbers.h"
 #include "host/Numbers.h"
 #include "trellisar/document/Steps.h"
 #include "trellisar/document/SystemFile.h"

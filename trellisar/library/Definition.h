@@ -38,7 +38,7 @@ struct PropertyDefinition {
   std::string value;
   Type type = Type::text;
   std::optional<std::int32_t> maxLength;  // code points, of a text; nothing: any
-  std::int32_t minimum = 0;  // of an integer
+  std::int32_t minimum = 0;               // of an integer
   std::int32_t maximum = 0;
   std::vector<std::string> choices;  // of a constant
   bool advanced = false;

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "host/Error.h"
-#include "host/Numbers.h"
 #include "trellisar/compile/ProgramCheck.h"
 #include "trellisar/document/Provisioning.h"
 #include "trellisar/document/SystemFile.h"

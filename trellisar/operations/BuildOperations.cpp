@@ -1,4 +1,3 @@
-#include "host/Error.h"
 #include "trellisar/dialogs/CompileDialog.h"
 #include "trellisar/operations/MainWindowOperations.h"
 

@@ -143,8 +143,7 @@ std::string bashCompletion(const app::Commands& commands) {
          "  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} offered\n"
          "  if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
          "    offered=$(compgen -W '" +
-         names +
-         "--help --version' -- \"$word\"; " + bashFiles("ts[ay]") +
+         names + "--help --version' -- \"$word\"; " + bashFiles("ts[ay]") +
          ")\n"
          "  else case \"${COMP_WORDS[1]} $before\" in\n" +
          cases +

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "base/Error.h"
+#include "base/FileReasons.h"
 #include "base/OutputFile.h"
 
 namespace base {
@@ -53,10 +54,8 @@ class Descriptor {
   ~Descriptor() {
     if (number_ >= 0) ::close(number_);
   }
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
-  Descriptor& operator=(Descriptor&&) = delete;
 
   int number() const { return number_; }
   bool isOpen() const { return number_ >= 0; }
@@ -91,46 +90,6 @@ bool isSameFile(const fs::path& one, const fs::path& other) {
   std::error_code error;
   if (fs::equivalent(one, other, error)) return true;
   return one.lexically_normal() == other.lexically_normal();
-}
-
-std::string systemReason(int errorNumber) {
-  switch (errorNumber) {
-    case ENOSPC:
-    case EDQUOT:
-      return "the disk is full. Make room or choose another folder.";
-    case EFBIG:
-      return "the file would be larger than the disk or its limit allows. Choose another folder.";
-    case EACCES:
-    case EPERM:
-      return "access is denied. Choose a folder that you may write to.";
-    case EROFS:
-      return "the disk can only be read. Choose another folder.";
-    case ENOENT:
-      return "the place can't hold files. Choose another folder.";
-    case ENOTDIR:
-      return "a file stands where a folder should be. Choose another folder.";
-    case EISDIR:
-      return "a folder stands where the file should be. Choose another name.";
-    case ENAMETOOLONG:
-      return "the name is too long. Choose a shorter one.";
-    default:
-      return std::generic_category().message(errorNumber) + ".";
-  }
-}
-
-void failToWrite(const fs::path& file, int errorNumber) {
-  std::error_code error;
-  const bool hasFolder = file.parent_path().empty() || fs::is_directory(file.parent_path(), error);
-  const std::string path = file.string();
-  const bool lacksFolder = errorNumber == ENOENT && !hasFolder;
-  throw FileError("Can't write \"" + path + "\": " +
-                  (lacksFolder ? "its folder does not exist. Make it, or choose another one."
-                               : systemReason(errorNumber)));
-}
-
-void flushFolder(const fs::path& folder) {
-  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (opened.isOpen()) static_cast<void>(fsync(opened.number()));
 }
 
 std::string readFile(const fs::path& file, std::uintmax_t most) {

@@ -47,16 +47,4 @@ class FolderLock {
   bool isHeld_ = true;
 };
 
-/// Why a file or folder can't be made or written, for the number of a failed system call: "the disk
-/// is full. Make room or choose another folder."
-std::string systemReason(int errorNumber);
-
-/// Raises FileError that says so of a file. The system says the same of a folder that is missing
-/// and of one that takes no files.
-[[noreturn]] void failToWrite(const std::filesystem::path& file, int errorNumber);
-
-/// So that the disk has the names of the folder's files too. A file system that can't do it is no
-/// failure: each file is whole under either name.
-void flushFolder(const std::filesystem::path& folder);
-
 }  // namespace base

@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "base/Error.h"
-#include "base/FileIO.h"
+#include "base/FileReasons.h"
 
 namespace base {
 

@@ -11,7 +11,7 @@
 #include <ctime>
 #include <utility>
 
-#include "base/FileIO.h"
+#include "base/FileReasons.h"
 
 namespace base {
 namespace {
@@ -66,6 +66,13 @@ int moveIfFree(const fs::path& from, const fs::path& to) {
 }
 
 }  // namespace
+
+void flushFolder(const fs::path& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  static_cast<void>(fsync(descriptor));
+  ::close(descriptor);
+}
 
 // Two programs that write one file write one after the other and never into one file: who waited
 // finds that the name has moved on and opens it anew.

@@ -40,4 +40,8 @@ class OutputFile {
   bool isPlaced_ = false;
 };
 
+/// So that the disk has the names of the folder's files too. A file system that can't do it is no
+/// failure: each file is whole under either name.
+void flushFolder(const std::filesystem::path& folder);
+
 }  // namespace base

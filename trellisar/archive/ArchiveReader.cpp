@@ -8,13 +8,14 @@
 #include <utility>
 
 #include "base/FileIO.h"
+#include "base/FileReasons.h"
 #include "base/MadeFolders.h"
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
 #include "trellisar/archive/Archive.h"
 #include "trellisar/archive/ArchiveHandle.h"
-#include "trellisar/compile/CompiledProgram.h"
+#include "trellisar/compile/ProgramHead.h"
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemNames.h"

@@ -4,11 +4,11 @@
 #include <system_error>
 #include <utility>
 
-#include "base/Digest.h"
 #include "base/FileIO.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
 #include "trellisar/compile/ProgramCheck.h"
+#include "trellisar/compile/ProgramHead.h"
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/library/HostErrors.h"
@@ -19,7 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* programExtension = ".tsp";
-constexpr std::string_view headStart = "trellisar-program 1 ";
 
 /// Puts a file back as it was unless it is told to leave it.
 class FileKeeper {
@@ -52,16 +51,6 @@ class FileKeeper {
 };
 
 }  // namespace
-
-std::string withProgramHead(const std::string& body) {
-  return std::string(headStart) + base::Digest::of(body) + " " + std::to_string(body.size()) +
-         "\n" + body;
-}
-
-bool isWholeProgram(const std::string& program) {
-  const auto end = program.find('\n');
-  return end != std::string::npos && program == withProgramHead(program.substr(end + 1));
-}
 
 void storeCompiledProgram(DocumentData& document, const std::string& program) {
   return raisingHostErrors([&] {

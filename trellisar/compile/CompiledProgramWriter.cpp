@@ -5,6 +5,7 @@
 #include "host/Numbers.h"
 #include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/compile/Listing.h"
+#include "trellisar/compile/ProgramHead.h"
 #include "trellisar/document/Provisioning.h"
 #include "trellisar/document/Steps.h"
 

@@ -2,7 +2,7 @@
 
 #include "app/Environment.h"
 #include "app/ExitStatus.h"
-#include "app/ReportPrinter.h"
+#include "app/PagePrinter.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
 #include "host/Error.h"

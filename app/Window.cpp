@@ -3,7 +3,7 @@
 #include "app/AddIn.h"
 #include "app/Environment.h"
 #include "app/ExitStatus.h"
-#include "app/ReportPrinter.h"
+#include "app/PagePrinter.h"
 #include "app/RunReport.h"
 #include "app/WindowModule.h"
 #include "forms/Application.h"

@@ -10,7 +10,7 @@
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
-#include "app/ReportPrinter.h"
+#include "app/PagePrinter.h"
 #include "forms/Application.h"
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"

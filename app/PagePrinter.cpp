@@ -1,4 +1,4 @@
-#include "app/ReportPrinter.h"
+#include "app/PagePrinter.h"
 
 #include "app/WindowModule.h"
 

@@ -1,5 +1,7 @@
 #include "app/Window.h"
 
+#include <cstdlib>
+
 #include "app/AddIn.h"
 #include "app/Environment.h"
 #include "app/ExitStatus.h"
@@ -16,12 +18,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Nothing has begun yet that would have to end in order.
+[[noreturn]] void endWithoutDisplay() {
+  reportLine("The window needs a display, and there is none. \"orlena build\" works without one.");
+  std::_Exit(exitStatus::wrongInput);
+}
+
 /// What a window of the program stands on. How the windows are left is kept beside the preferences.
 struct Stage {
   explicit Stage(forms::FrontEnd& frontEnd)
       : desktop(frontEnd.makeDesktop(
             {.memory = trellisar::Preferences::usualFile().parent_path() / "windows.ini",
-             .formShown = [this] { hadSystem = hadSystem || host.document(); }})) {}
+             .formShown = [this] { hadSystem = hadSystem || host.document(); },
+             .noDisplay = endWithoutDisplay})) {}
 
   bool hadSystem = false;  // whether one was open when a form had been shown
   std::unique_ptr<forms::Desktop> desktop;
@@ -31,19 +40,13 @@ struct Stage {
                         .printer = reportPrinter()}};
 };
 
-/// Null where no window can be opened, which the user has been told then.
-forms::FrontEnd* usableFrontEnd() {
+/// Null where the windows are not installed, which the user has been told then.
+forms::FrontEnd* installedFrontEnd() {
   forms::FrontEnd* found = frontEnd();
   if (!found) {
     reportLine(
         "The windows are not installed: they come with the package \"orlena-desktop\". "
         "\"orlena build\" works without one.");
-    return nullptr;
-  }
-  if (!found->hasDisplay()) {
-    reportLine(
-        "The window needs a display, and there is none. \"orlena build\" works without one.");
-    return nullptr;
   }
   return found;
 }
@@ -64,7 +67,7 @@ std::string wholePath(const fs::path& file) {
 }  // namespace
 
 int openMainWindow(const std::optional<fs::path>& file) {
-  forms::FrontEnd* windows = usableFrontEnd();
+  forms::FrontEnd* windows = installedFrontEnd();
   if (!windows) return exitStatus::wrongInput;
   if (file && !isThere(*file)) return exitStatus::refused;
   Stage stage(*windows);
@@ -76,7 +79,7 @@ int openMainWindow(const std::optional<fs::path>& file) {
 }
 
 int openWizard(const std::optional<fs::path>& systemFile) {
-  forms::FrontEnd* windows = usableFrontEnd();
+  forms::FrontEnd* windows = installedFrontEnd();
   if (!windows) return exitStatus::wrongInput;
   Stage stage(*windows);
   AddIn addIn(stage.host);

@@ -15,15 +15,13 @@ class FrontEnd {
  public:
   virtual ~FrontEnd() = default;
 
-  /// Whether a window can be opened at all. Asked before `makeDesktop`, which ends the program
-  /// where it can't.
-  virtual bool hasDisplay() const = 0;
-
   struct Windows {
     /// Where it is kept how the user left the windows; empty: nowhere.
     std::filesystem::path memory;
     /// Called when a form is on the screen and has done what it does on being activated.
     std::function<void()> formShown;
+    /// Called where no window can be opened; ends the process.
+    std::function<void()> noDisplay;
   };
   /// One at a time for each process, on the thread that made it.
   virtual std::unique_ptr<Desktop> makeDesktop(const Windows& windows) = 0;

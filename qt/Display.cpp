@@ -1,42 +1,50 @@
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include "qt/Display.h"
 
-#include <QtCore/QByteArray>
-#include <QtGui/QGuiApplication>
-#include <cstdio>
-
-#include "qt/QtDesktop.h"
+#include <QtCore/QLatin1String>
+#include <QtCore/QtGlobal>
 
 namespace qt {
 namespace {
 
-/// Qt ends a process that can't open its display, so another one tries it first, without a word.
-bool childOpensDisplay() {
-  const pid_t child = fork();
-  if (child < 0) return false;
-  if (child == 0) {
-    const rlimit noCoreFile{0, 0};
-    setrlimit(RLIMIT_CORE, &noCoreFile);
-    if (!std::freopen("/dev/null", "w", stderr)) _exit(1);
-    int argc = 1;
-    char name[] = "display";
-    char* argv[] = {name, nullptr};
-    { const QGuiApplication application(argc, argv); }
-    _exit(0);
+bool isNamed() {
+  for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+    if (!qEnvironmentVariableIsEmpty(name)) return true;
   }
-  int status = 0;
-  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  return false;
 }
+
+/// Hears what Qt says while it looks for a display: that it can't go on, before it ends the
+/// process, and the reasons, which are dropped.
+class Listening {
+ public:
+  explicit Listening(const std::function<void()>& noDisplay) {
+    noDisplay_ = &noDisplay;
+    before_ = qInstallMessageHandler(hear);
+  }
+  ~Listening() { qInstallMessageHandler(before_); }
+  Listening(const Listening&) = delete;
+  Listening& operator=(const Listening&) = delete;
+
+ private:
+  static void hear(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) (*noDisplay_)();
+    if (!QLatin1String(context.category).startsWith(QLatin1String("qt.qpa"))) {
+      before_(type, context, text);
+    }
+  }
+
+  static inline const std::function<void()>* noDisplay_ = nullptr;
+  static inline QtMessageHandler before_ = nullptr;
+};
 
 }  // namespace
 
-bool hasDisplay() {
-  const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-  if (platform.startsWith("offscreen") || platform.startsWith("minimal")) return true;
-  const bool named = !platform.isEmpty() || !qEnvironmentVariableIsEmpty("DISPLAY") ||
-                     !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-  return named && childOpensDisplay();
+std::unique_ptr<QApplication> openDisplay(int& count, char** values,
+                                          const std::function<void()>& noDisplay) {
+  if (!noDisplay) return std::make_unique<QApplication>(count, values);
+  if (!isNamed()) noDisplay();
+  const Listening listening(noDisplay);
+  return std::make_unique<QApplication>(count, values);
 }
 
 }  // namespace qt

@@ -12,6 +12,7 @@
 #include "forms/Paths.h"
 #include "qt/Conversions.h"
 #include "qt/Dialogs.h"
+#include "qt/Display.h"
 #include "qt/HelpViewer.h"
 #include "qt/Session.h"
 #include "qt/ShownForm.h"
@@ -60,7 +61,10 @@ class ArrowMeanwhile {
 }  // namespace
 
 struct QtDesktop::Parts {
-  Parts(int count, char** values) : arguments(values, values + count + 1), argc(count) {}
+  Parts(int count, char** values, const std::function<void()>& noDisplay)
+      : arguments(values, values + count + 1),
+        argc(count),
+        application(openDisplay(argc, arguments.data(), noDisplay)) {}
 
   /// Runs what stands over everything else for a while.
   template <typename Question>
@@ -73,13 +77,14 @@ struct QtDesktop::Parts {
 
   std::vector<char*> arguments;  // Qt reads them as long as it runs; the last one is null
   int argc;
-  QApplication application{argc, arguments.data()};
+  std::unique_ptr<QApplication> application;
   Session session;
   HelpViewer help;
   bool isWaiting = false;
 };
 
-QtDesktop::QtDesktop(int argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
+QtDesktop::QtDesktop(int argc, char** argv, const std::function<void()>& noDisplay)
+    : parts_(std::make_unique<Parts>(argc, argv, noDisplay)) {
   std::setlocale(LC_NUMERIC, "C");  // Qt takes over the user's; numbers have a point everywhere
   QApplication::setStyle(QStringLiteral("Fusion"));  // forms measure for it
   QApplication::setQuitOnLastWindowClosed(false);
@@ -168,7 +173,7 @@ void QtDesktop::runLater(std::function<void()> task) {
       forms::reportHandlerError(error);
     }
   };
-  QMetaObject::invokeMethod(&parts_->application, guarded, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(parts_->application.get(), guarded, Qt::QueuedConnection);
 }
 
 void QtDesktop::setMousePointer(forms::MousePointer pointer) {

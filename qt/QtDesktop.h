@@ -8,16 +8,14 @@
 
 namespace qt {
 
-/// Whether a window can be opened at all. Asked before `makeDesktop`, which ends the program where
-/// it can't.
-bool hasDisplay();
-
 /// Forms on a screen. It draws every kind of control and reports what a person does with them
 /// through `forms::User`; the forms decide what comes of it. One for each process, on the thread
 /// that made it.
 class QtDesktop : public forms::Desktop {
  public:
-  QtDesktop(int argc, char** argv);
+  /// Where no window can be opened `noDisplay` is called, which ends the process; without it Qt
+  /// does.
+  QtDesktop(int argc, char** argv, const std::function<void()>& noDisplay = {});
   ~QtDesktop() override;
   QtDesktop(const QtDesktop&) = delete;
   QtDesktop& operator=(const QtDesktop&) = delete;

@@ -8,10 +8,8 @@ namespace {
 
 class FrontEnd : public forms::FrontEnd {
  public:
-  bool hasDisplay() const override { return qt::hasDisplay(); }
-
   std::unique_ptr<forms::Desktop> makeDesktop(const Windows& windows) override {
-    auto desktop = std::make_unique<QtDesktop>(1, arguments_);
+    auto desktop = std::make_unique<QtDesktop>(1, arguments_, windows.noDisplay);
     desktop->keepWindowsIn(windows.memory);
     desktop->whenShown(windows.formShown);
     return desktop;

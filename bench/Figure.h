@@ -49,5 +49,6 @@ bool runFigures();
 std::vector<Figure> generatorFigures();
 std::vector<Figure> fileFigures();
 std::vector<Figure> processFigures();
+std::vector<Figure> windowFigures();
 
 }  // namespace bench

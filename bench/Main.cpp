@@ -20,6 +20,9 @@ int main(int argc, char** argv) {
     bench::registerFigures(bench::generatorFigures());
     bench::registerFigures(bench::fileFigures());
     bench::registerFigures(bench::processFigures());
+#ifdef ORLENA_WIZARD
+    bench::registerFigures(bench::windowFigures());
+#endif
     return bench::runFigures() ? 0 : 1;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

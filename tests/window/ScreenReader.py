@@ -4,6 +4,7 @@
 Every control that takes the focus has a name, no two of one kind have the same name within their group, option buttons
 and links are told as such, and each step of the wizard is told once. Needs a session bus of its own (dbus-run-session).
 """
+import contextlib
 import os
 import socket
 import subprocess
@@ -240,28 +241,34 @@ def walk_wizard(address):
     walk_upload(wizard, address)
 
 
-def main():
+@contextlib.contextmanager
+def running(command):
+    """The program on a display of its own, with no more of the user's than that."""
     folder = tempfile.TemporaryDirectory(prefix="orlena-test-")
     display = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     environment = dict(os.environ, DISPLAY=":" + display.stdout.readline().strip(), QT_QPA_PLATFORM="xcb",
                        QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", XDG_CONFIG_HOME=folder.name,
                        TRELLISAR_SYSTEMS=folder.name + "/systems")
-    silent = socket.create_server(("127.0.0.1", 0))
-    program = subprocess.Popen([sys.argv[1]], env=environment)
+    program = subprocess.Popen(command, env=environment)
     try:
-        host = window("Trellisar")
-        check(host)
-        press(host, "Preferences...")
-        check_and_close("Preferences", "Cancel")
-        press(host, "New System...")
-        walk_wizard(f"tcp 127.0.0.1:{silent.getsockname()[1]}")
+        yield
     finally:
         program.kill()
         program.wait()
         display.kill()
         display.wait()
-        silent.close()
+
+
+def main():
+    with running([sys.argv[1]]):
+        host = window("Trellisar")
+        check(host)
+        press(host, "Preferences...")
+        check_and_close("Preferences", "Cancel")
+        press(host, "New System...")
+        with socket.create_server(("127.0.0.1", 0)) as silent:
+            walk_wizard(f"tcp 127.0.0.1:{silent.getsockname()[1]}")
     for failure in failures:
         print(failure)
     return 1 if failures else 0

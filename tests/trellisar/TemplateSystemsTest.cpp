@@ -1,4 +1,8 @@
+#include <gtest/gtest.h>
+
 #include "tests/support/Golden.h"
+#include "tests/support/Shipped.h"
+#include "trellisar/document/SystemFile.h"
 
 namespace tests {
 namespace {

@@ -25,7 +25,7 @@ constexpr int headHeight = 62;
 constexpr int rowHeight = 48;
 constexpr int gap = 3;  // above and below a card
 constexpr int iconSize = 32;
-constexpr int lineHeight = 12;
+constexpr int lineHeight = 11;
 // What a page of A4 across has beside its margins, below a report's head.
 constexpr int widestOnPaper = 900;
 constexpr int highestOnPaper = 490;
@@ -211,7 +211,7 @@ class Drawing {
     const int middle = top + card.height() / 2;
     const int textLeft = left + iconSize + 16;
     const auto lines = card.lines();
-    int y = middle + 4 - lineHeight * static_cast<int>(lines.size()) / 2;
+    int y = middle + 3 - lineHeight * static_cast<int>(lines.size()) / 2;
     std::string text = boxAt(left, top, cardWidth, card.height(), "#f4f8fb", ink) +
                        icon(card.first().picture, left + 8, middle - iconSize / 2) +
                        textAt(textLeft, y, shortened(card.title(), 23), {12, "start", ink, true});

@@ -42,7 +42,8 @@ fs::path dataFolder() {
 }
 
 std::optional<fs::path> findProgramFile(const std::string& name) {
-  for (const fs::path& folder : {programFolder(), programFolder().parent_path() / "lib/orlena"}) {
+  for (const fs::path& folder :
+       {programFolder(), programFolder().parent_path() / "lib/orlena/parts"}) {
     std::error_code failure;
     if (fs::exists(folder / name, failure)) return folder / name;
   }

@@ -13,7 +13,7 @@ namespace app {
 /// prefix that it is installed in. Raises host::Error errFile where it is not there.
 std::filesystem::path dataFolder();
 
-/// A file that belongs to the program: beside it, or in "lib/orlena" of the prefix that it is
+/// A file that belongs to the program: beside it, or in "lib/orlena/parts" of the prefix that it is
 /// installed in. Nothing where it is in neither.
 std::optional<std::filesystem::path> findProgramFile(const std::string& name);
 

@@ -55,10 +55,10 @@ TEST_F(InstalledOrlena, WithoutItsWindowsNamesThePackageThatHasThem) {
 }
 
 TEST_F(InstalledOrlena, WithBrokenWindowsSaysWhatIsWrongWithThem) {
-  folder_.write("prefix/lib/orlena/liborlena-desktop.so", "no library");
+  folder_.write("prefix/lib/orlena/parts/liborlena-desktop.so", "no library");
   const Outcome outcome = run("wizard", "QT_QPA_PLATFORM=offscreen");
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_NE(outcome.errors.find("lib/orlena/liborlena-desktop.so"), std::string::npos)
+  EXPECT_NE(outcome.errors.find("lib/orlena/parts/liborlena-desktop.so"), std::string::npos)
       << outcome.errors;
 }
 

@@ -152,4 +152,15 @@ FolderLock::~FolderLock() {
   if (descriptor_ >= 0) ::close(descriptor_);
 }
 
+FileUse::FileUse(const fs::path& file, Kind kind)
+    : descriptor_(::open(file.c_str(), O_RDONLY | O_CLOEXEC)) {
+  if (descriptor_ < 0) return;
+  const int how = kind == Kind::alone ? LOCK_EX : LOCK_SH;
+  isHeld_ = flock(descriptor_, how | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+FileUse::~FileUse() {
+  if (descriptor_ >= 0) ::close(descriptor_);
+}
+
 }  // namespace base

@@ -47,4 +47,25 @@ class FolderLock {
   bool isHeld_ = true;
 };
 
+/// While it lives, a program works with a file: several that show it side by side, or one alone
+/// that changes it unattended. It ends with the process, also past a crash, and when the file is
+/// replaced.
+class FileUse {
+ public:
+  enum class Kind { shared, alone };
+
+  /// Waits for nobody. A file that can't be opened is in nobody's use.
+  FileUse(const std::filesystem::path& file, Kind kind);
+  ~FileUse();
+  FileUse(const FileUse&) = delete;
+  FileUse& operator=(const FileUse&) = delete;
+
+  /// False when another program's use stands against it.
+  bool isHeld() const { return isHeld_; }
+
+ private:
+  int descriptor_;
+  bool isHeld_ = true;
+};
+
 }  // namespace base

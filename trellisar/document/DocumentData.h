@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/FileIO.h"
 #include "host/StandardCommand.h"
 #include "host/StepCondition.h"
 #include "trellisar/document/Journal.h"
@@ -127,6 +128,7 @@ class DocumentData {
   std::string folder;             // with backslashes
   std::string ownDigest;          // of the content that ownFile had then
   std::filesystem::path ownFile;  // what it was opened from or saved to last; empty: none
+  std::shared_ptr<const base::FileUse> use;  // of ownFile, while it is open before a person
   std::string application;
   bool isModified = false;
   bool programIsCurrent = false;  // nobody has marked a change; isProgramCurrent looks for one
@@ -142,6 +144,9 @@ class DocumentData {
   std::vector<std::shared_ptr<PresetData>> presets;  // the named ones
   std::string lastError;
   bool isClosed = false;
+
+  /// Lets other programs see that a person has the document's own file open.
+  void showInUse() { use = std::make_shared<base::FileUse>(ownFile, base::FileUse::Kind::shared); }
 
   void note(const std::string& call) const {
     if (journal) journal->note(call);

@@ -77,6 +77,7 @@ void saveSystemFile(DocumentData& document, const std::string& path, Overwriting
     throw;
   }
   document.ownFile = file;
+  if (document.use) document.showInUse();
   document.ownDigest = base::Digest::of(text);
 }
 

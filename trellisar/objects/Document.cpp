@@ -44,6 +44,7 @@ void Document::SetModified(bool bModified, bool bProgram, bool) {
 void Document::Close() {
   data_->note("Close");
   data_->isClosed = true;
+  data_->use = nullptr;
 }
 
 void Document::Save(const std::string& strFile, bool& bSaved) {

@@ -60,6 +60,7 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
     if (session_->document) session_->document->Close();
     session_->document = std::make_shared<Document>(data);
     if (bUseRecovery) session_->preferences.remember(forms::fromMachinePath(file));
+    if (bUseRecovery && session_->isBeforePerson()) data->showInUse();
     return session_->document;
   } catch (const host::Error& error) {
     forms::Application::current().messageBox(
@@ -107,6 +108,7 @@ void MainWindowOperations::save(const std::string& path, const std::string& appl
   folders.keep();
   replaced.remove();
   document.isModified = false;
+  if (session_->isBeforePerson() && !document.use) document.showInUse();
   session_->preferences.remember(withSystemExtension(path));
 }
 

@@ -41,6 +41,7 @@ struct Session {
 
   /// The document's data; raises host::Error errDocumentClosed when no system is open.
   const DocumentPtr& data() const;
+  bool isBeforePerson() const { return replacing == Replacing::ask; }
   bool hasSystem() const { return document && document->isOpen(); }
 };
 

@@ -11,6 +11,7 @@
 #include "forms/Text.h"
 #include "forms/TextBox.h"
 #include "host/DeviceCommands.h"
+#include "trellisar/compile/Listing.h"
 
 namespace answers {
 namespace {
@@ -24,11 +25,26 @@ bool isWanted(const Answer& answer) {
   return answer.value.is_string() ? !answer.text().empty() : answer.value != 0;
 }
 
-bool isTicked(const Answer& answer) { return answer.value.is_object() || answer.value.get<bool>(); }
+bool isTicked(const Answer& answer) {
+  return answer.value.is_boolean() ? answer.value.get<bool>() : answer.value.is_object();
+}
 
 void setTicked(const Page& page, const std::string& checkBox, const Answer& answer, bool ticked) {
   auto& box = page.usable<forms::CheckBox>(checkBox, answer);
   if (box.isChecked() != ticked) page.user().click(box);
+}
+
+std::optional<base::Json> textIn(const Page& page, const std::string& textBox) {
+  const auto& box = page.control<forms::TextBox>(textBox);
+  if (!box.isUsable()) return std::nullopt;
+  return box.text();
+}
+
+/// The device of this name that hangs on the receiver; null: none.
+trellisar::DevicePtr deviceOf(const Page& page, const std::string& name) {
+  const auto& document = page.hands().host.document()->data();
+  const auto receiver = document.find(document.controlSystem);
+  return document.findByName(trellisar::DeviceData::Kind::device, name, receiver->name);
 }
 
 /// Whether a device or a touch panel of this name hangs on the receiver.
@@ -84,15 +100,14 @@ forms::OptionButton& offeredButton(const Page& page, const std::vector<OptionWor
 
 }  // namespace
 
-Act noAct() { return {}; }
-
 Act enter(std::string textBox) {
   return {[textBox](const Page& page, const Answer& given) {
             page.user().replaceText(page.usable<forms::TextBox>(textBox, given), textOf(given));
           },
           [textBox](const Page& page, const Answer& given) {
             return page.control<forms::TextBox>(textBox).text() == textOf(given);
-          }};
+          },
+          [textBox](const Page& page) { return textIn(page, textBox); }};
 }
 
 Act tick(std::string checkBox) {
@@ -101,6 +116,11 @@ Act tick(std::string checkBox) {
           },
           [checkBox](const Page& page, const Answer& given) {
             return page.control<forms::CheckBox>(checkBox).isChecked() == isTicked(given);
+          },
+          [checkBox](const Page& page) -> std::optional<base::Json> {
+            const auto& box = page.control<forms::CheckBox>(checkBox);
+            if (!box.isUsable()) return std::nullopt;
+            return box.isChecked();
           }};
 }
 
@@ -125,6 +145,12 @@ Act enterBehind(std::string checkBox, std::string textBox) {
             }
             const std::string& shown = page.control<forms::TextBox>(textBox).text();
             return !isWanted(given) || forms::trimmed(shown) == forms::trimmed(textOf(given));
+          },
+          [checkBox, textBox](const Page& page) -> std::optional<base::Json> {
+            const auto& box = page.control<forms::CheckBox>(checkBox);
+            if (!box.isUsable()) return std::nullopt;
+            if (!box.isChecked()) return "";
+            return textIn(page, textBox);
           }};
 }
 
@@ -134,6 +160,13 @@ Act chooseOption(std::vector<OptionWord> buttons) {
           },
           [buttons](const Page& page, const Answer& given) {
             return page.control<forms::OptionButton>(buttonFor(buttons, given)).isChosen();
+          },
+          [buttons](const Page& page) -> std::optional<base::Json> {
+            for (const auto& [word, button] : buttons) {
+              const auto& option = page.control<forms::OptionButton>(button);
+              if (option.isUsable() && option.isChosen()) return word;
+            }
+            return std::nullopt;
           }};
   act.words = wordsBeside(buttons);
   return act;
@@ -151,6 +184,12 @@ Act chooseOptionBehind(std::string off, std::string checkBox, std::vector<Option
               return false;
             }
             return !isWanted(given) || isHeld(page, given);
+          },
+          [=, read = choice.read](const Page& page) -> std::optional<base::Json> {
+            const auto& box = page.control<forms::CheckBox>(checkBox);
+            if (!box.isUsable()) return std::nullopt;
+            if (!box.isChecked()) return off;
+            return read(page);
           }};
   act.words = choice.words;
   act.words.insert(act.words.begin(), std::move(off));
@@ -166,6 +205,11 @@ Act selectCommand(std::string selector) {
           [selector](const Page& page, const Answer& given) {
             const auto& commands = page.control<host::DeviceCommands>(selector);
             return commands.get_SelectedCommand() == given.text();
+          },
+          [selector](const Page& page) -> std::optional<base::Json> {
+            const auto& commands = page.control<host::DeviceCommands>(selector);
+            if (!commands.isUsable()) return std::nullopt;
+            return commands.get_SelectedCommand();
           }};
 }
 
@@ -174,7 +218,14 @@ Act chooseDevice(std::string button, std::string deviceName) {
             const DeviceChoice choice(page, given);
             page.user().click(page.usable<forms::CommandButton>(button, given));
           },
-          [deviceName](const Page& page, const Answer&) { return isInSystem(page, deviceName); }};
+          [deviceName](const Page& page, const Answer&) { return isInSystem(page, deviceName); },
+          [button, deviceName](const Page& page) -> std::optional<base::Json> {
+            const auto device = deviceOf(page, deviceName);
+            if (!device || !page.control<forms::CommandButton>(button).isUsable()) {
+              return std::nullopt;
+            }
+            return trellisar::chosenType(*device);
+          }};
 }
 
 }  // namespace answers

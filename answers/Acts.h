@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,20 +15,22 @@ struct Act {
   /// Does on the page what a person would do; empty: nothing is to be done. Raises RunEnded, as
   /// wrong input, for what can't be answered.
   std::function<void(const Page&, const Answer&)> perform;
-  std::function<bool(const Page&, const Answer&)> isHeld;
+  /// Whether the page shows the answer; empty: that is not to be seen.
+  std::function<bool(const Page&, const Answer&)> isHeld = {};
+  /// The answer that the control holds now, a text as it is shown, a check box true or false;
+  /// nothing where none can be given. Empty: another act reads it.
+  std::function<std::optional<base::Json>(const Page&)> read = {};
   /// What the system must hold besides once the step has been left; empty: nothing.
   std::function<bool(const Page&, const Answer&)> isInSystem = {};
   /// Those that the answer may be, where it is one of some words.
   std::vector<std::string> words = {};
 };
 
-/// Of an answer that others act for.
-Act noAct();
-
 /// Puts a text, or a whole number, in the place of what a box holds.
 Act enter(std::string textBox);
 
-/// Ticks or clears a check box. An answer that is an object ticks it by being there.
+/// Ticks or clears a check box. An answer that is an object ticks it by being there, null clears
+/// it.
 Act tick(std::string checkBox);
 
 /// As `tick`, of a box that adds a device, or a touch panel, of this name to the system.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "answers/Shape.h"
+#include "base/FileIO.h"
 #include "forms/CommandButton.h"
 #include "forms/Paths.h"
 #include "forms/Text.h"
@@ -50,6 +51,8 @@ Act enterName(std::string textBox) {
   act.isHeld = [isShown = std::move(act.isHeld)](const Page& page, const Answer& given) {
     return isShown(page, given) && !forms::trimmed(given.text()).empty();
   };
+  // A system's name and folder are where it lies: a copy of its answers builds another one.
+  act.read = nullptr;
   return act;
 }
 
@@ -69,7 +72,8 @@ void refuseExistingSystem(const Page& page) {
   const fs::path file = systemFile(page);
   page.hands().made.expect(file.parent_path());
   std::error_code failure;
-  if (!page.hands().mayReplace && fs::exists(file, failure)) {
+  const bool isOwn = base::isSameFile(file, page.hands().onto);
+  if (!isOwn && !page.hands().mayReplace && fs::exists(file, failure)) {
     throw RunEnded(RunEnded::refused,
                    "there is a system already: " + file.string() + "; --replace replaces it");
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -29,6 +30,8 @@ struct Hands {
   trellisar::Host& host;
   MadeFolders& made;
   bool mayReplace = false;
+  /// The file of the system that was opened for the run; empty: the wizard makes a new one.
+  std::filesystem::path onto = {};
 
   /// The system that the wizard works on.
   host::Document& document() const;

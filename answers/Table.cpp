@@ -136,7 +136,7 @@ std::vector<Step> makeTable() {
       {"Display Options", screenAndLift()},
       {"Orlena Transmitters",
        {
-           {"transmitters", array(3, object({})), noAct(), "none",
+           {"transmitters", array(3, object({})), deleteTransmitters(), "none",
             "the whole list, in the order of the ports"},
            {"transmitters[].type", slotDevice(), addTransmitters(), required,
             "the type's name in the library"},

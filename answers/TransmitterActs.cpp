@@ -71,6 +71,16 @@ void rename(const Page& page, std::int32_t row, const Answer& label) {
   page.user().endLabelEdit(rows, /*accept=*/true);
 }
 
+std::optional<base::Json> readRows(const Page& page) {
+  const forms::ListView& rows = rowsOf(page);
+  base::Json transmitters = base::Json::array();
+  for (std::int32_t row = 0; row < rows.rowCount(); ++row) {
+    transmitters.push_back(
+        {{"type", rows.text(row, typeColumn)}, {"label", rows.text(row, labelColumn)}});
+  }
+  return transmitters;
+}
+
 /// The list is a working copy: its devices come to the system when the step is left.
 bool areInSystem(const Page& page, const Answer& transmitters) {
   const host::Document& document = page.hands().document();
@@ -87,14 +97,27 @@ bool areInSystem(const Page& page, const Answer& transmitters) {
 
 }  // namespace
 
+Act deleteTransmitters() {
+  return {.perform =
+              [](const Page& page, const Answer& given) {
+                forms::ListView& rows = rowsOf(page);
+                while (rows.rowCount() > 0) {
+                  page.user().select(rows, rows.rowCount() - 1);
+                  page.user().click(page.usable<forms::CommandButton>("cmdDelete", given));
+                }
+              },
+          .read = readRows};
+}
+
 Act addTransmitters() {
-  return {[](const Page& page, const Answer& given) {
+  return {
+      .perform =
+          [](const Page& page, const Answer& given) {
             eachAnswer(given, "type", [&](std::int32_t, const Answer& type) { add(page, type); });
           },
-          [](const Page& page, const Answer& given) {
-            return showsAnswers(page, given, "type", typeColumn);
-          },
-          areInSystem};
+      .isHeld = [](const Page& page,
+                   const Answer& given) { return showsAnswers(page, given, "type", typeColumn); },
+      .isInSystem = areInSystem};
 }
 
 Act renameTransmitters() {

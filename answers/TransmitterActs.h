@@ -4,7 +4,9 @@
 
 namespace answers {
 
-/// Both are handed all transmitters: they are all added first, and then renamed from the first.
+/// All are handed all transmitters: those that are there are deleted from the last, then all are
+/// added, and then renamed from the first.
+Act deleteTransmitters();
 Act addTransmitters();
 Act renameTransmitters();
 

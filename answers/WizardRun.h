@@ -33,17 +33,14 @@ class WizardRun {
   const std::optional<std::filesystem::path>& savedFile() const { return savedFile_; }
 
  private:
-  Page currentPage(forms::Form& wizard) const;
   using Visit = std::function<void(const Act&, const Answer&)>;
 
   void answer(const Page& page, const Step& step) const;
-  void next(forms::Form& wizard) const;
   void checkHeld(const Page& page, const Step& step) const;
   /// Calls `visit` with each answer that is given for the step, from the top of its page.
   void eachAnswer(const Step& step, const Visit& visit) const;
   void save(forms::Form& wizard);
   void finish(forms::Form& wizard) const;
-  void goOn() const;
 
   const Answers& answers_;
   const Delivery& delivery_;

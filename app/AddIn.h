@@ -23,4 +23,8 @@ class AddIn {
   std::shared_ptr<host::IAddInContract> contract_;
 };
 
+/// Runs the wizard in a host that nobody watches: on its open system or, where none is, on a new
+/// one. The default folder comes from the preferences, in which no trace is left.
+void openUnattended(trellisar::Host& host);
+
 }  // namespace app

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "answers/Answers.h"
 #include "answers/Batch.h"
@@ -27,11 +28,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// An answers file on its way to a system.
+/// An answers file on its way to a system: a new one, or one that is there.
 struct Room {
-  explicit Room(const fs::path& answersFile) : file(answersFile), report(answersFile.string()) {}
+  explicit Room(const fs::path& answersFile, const fs::path& system = {})
+      : file(answersFile), onto(system), report(answersFile.string(), system.string()) {}
 
   fs::path file;
+  fs::path onto;
   RunReport report;
   std::optional<answers::Answers> given;  // nothing: the file is wrong, which has been told
   answers::MadeFolders made;
@@ -78,7 +81,7 @@ bool canStandTogether(const std::vector<Room>& rooms) {
   std::map<fs::path, const Room*> places;
   bool can = true;
   for (const Room& room : rooms) {
-    if (!room.given || rooms.size() == 1) continue;
+    if (!room.given || !room.onto.empty() || rooms.size() == 1) continue;
     if (!room.given->find("name")) {
       room.report.line("name: is missing; of several rooms each must have one");
       can = false;
@@ -103,11 +106,11 @@ bool canBeRead(const std::vector<fs::path>& files) {
 
 /// False when the export or the upload can't be done, which is then told.
 bool canBeDelivered(const BuildOptions& options) {
-  const bool several = options.answersFiles.size() > 1;
+  const bool several = options.answersFiles.size() > 1 || options.onto.size() > 1;
   for (const auto& [option, isGiven] : {std::pair{"--export", options.delivery.archive.has_value()},
                                         {"--upload", options.delivery.address.has_value()}}) {
     if (!several || !isGiven) continue;
-    reportLine(std::string(option) + " takes one room, and there are several answers files");
+    reportLine(std::string(option) + " takes one room, and there are several");
     return false;
   }
   if (!options.delivery.address) return true;
@@ -131,12 +134,6 @@ std::shared_ptr<const trellisar::DeviceLibrary> openLibrary(const BuildOptions& 
   }
 }
 
-/// An unattended run takes the default folder from the preferences, and leaves no trace in them.
-void openWizardOnNewSystem(trellisar::Host& host) {
-  host.preferences() = readOnlyPreferences();
-  AddIn(host).runOnNewSystem();
-}
-
 int exitStatusOf(answers::RunEnded::Cause cause) {
   return cause == answers::RunEnded::refused ? exitStatus::refused : exitStatus::wrongInput;
 }
@@ -145,7 +142,7 @@ answers::RoomResult buildOrTell(Room& room, const answers::RoomOptions& options)
   if (!room.given) return {exitStatus::wrongInput, {}};
   try {
     return {exitStatus::ok,
-            answers::buildRoom(*room.given, options, room.report, room.made).string()};
+            answers::buildRoom(*room.given, room.onto, options, room.report, room.made).string()};
   } catch (const answers::RunEnded& ended) {
     for (const auto& fault : ended.faults()) room.report.fault(room.given->placed(fault));
     return {exitStatusOf(ended.cause()), {}};
@@ -155,20 +152,81 @@ answers::RoomResult buildOrTell(Room& room, const answers::RoomOptions& options)
   }
 }
 
+/// An answers file for each room, and its place.
+std::vector<Room> roomsOf(const BuildOptions& options) {
+  std::vector<Room> rooms;
+  for (const fs::path& file : options.answersFiles) {
+    rooms.emplace_back(file);
+    rooms.back().given = read(file, options, rooms.back().report);
+  }
+  return rooms;
+}
+
+/// False when the options, or the answers, are none for systems that are there, which is then told.
+bool canBeOnto(const BuildOptions& options, const Room& room) {
+  for (const auto& [option, isGiven] :
+       {std::pair{"--out", options.out.has_value()}, {"--replace", options.replace}}) {
+    if (!isGiven) continue;
+    reportLine(std::string(option) +
+               " is for new systems, and --onto answers those that there are");
+    return false;
+  }
+  bool can = room.given.has_value();
+  for (const char* key : {"name", "folder"}) {
+    if (!room.given || !room.given->find(key)) continue;
+    room.report.fault(room.given->placed(
+        {"is for a new system; with --onto a system keeps its name and its folder", key}));
+    can = false;
+  }
+  return can;
+}
+
+/// False when a system is not there, or stands twice, which is then told.
+bool areThere(const RunReport& report, const std::vector<fs::path>& systems) {
+  bool are = true;
+  std::set<fs::path> seen;
+  for (const fs::path& system : systems) {
+    std::error_code failure;
+    if (!fs::exists(system, failure)) {
+      report.line("there is no system file " + system.string());
+      are = false;
+    } else if (!seen.insert(fs::canonical(system, failure)).second) {
+      report.line("the system is named twice: " + system.string());
+      are = false;
+    }
+  }
+  return are;
+}
+
+/// The one answers file, for each of the systems; nothing when they can't be built, which is then
+/// told.
+std::vector<Room> roomsOnto(const BuildOptions& options) {
+  if (options.answersFiles.size() > 1) {
+    reportLine("--onto takes one answers file, and there are several");
+    return {};
+  }
+  const fs::path& file = options.answersFiles.front();
+  Room first(file);
+  first.given = read(file, options, first.report);
+  if (!canBeOnto(options, first) || !areThere(first.report, options.onto)) return {};
+  std::vector<Room> rooms;
+  for (const fs::path& system : options.onto) {
+    rooms.emplace_back(file, system);
+    rooms.back().given = first.given;
+  }
+  return rooms;
+}
+
 }  // namespace
 
 int build(const BuildOptions& options) {
   if (!canBeRead(options.answersFiles) || !canBeDelivered(options)) return exitStatus::wrongInput;
 
   const answers::Interrupt interrupt;
-  std::vector<Room> rooms;
-  for (const fs::path& file : options.answersFiles) {
-    Room& room = rooms.emplace_back(file);
-    room.given = read(file, options, room.report);
-  }
-  if (!canStandTogether(rooms)) return exitStatus::wrongInput;
+  std::vector<Room> rooms = options.onto.empty() ? roomsOf(options) : roomsOnto(options);
+  if (rooms.empty() || !canStandTogether(rooms)) return exitStatus::wrongInput;
 
-  const answers::RoomOptions roomOptions{dataFolder(), openWizardOnNewSystem, openLibrary(options),
+  const answers::RoomOptions roomOptions{dataFolder(), openUnattended, openLibrary(options),
                                          options.replace, options.delivery};
   if (!roomOptions.library) return exitStatus::wrongInput;
 

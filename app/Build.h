@@ -15,6 +15,7 @@ struct BuildOptions {
       out;  // the parent folder of the systems, over that of the answers
   std::optional<std::filesystem::path> library;  // in the place of the shipped one
   bool replace = false;                          // an existing system or archive may be replaced
+  std::vector<std::filesystem::path> onto;       // the systems that are answered; none: new ones
   answers::Delivery delivery;                    // of each room
   int jobs = 1;                                  // rooms that are built side by side
 };

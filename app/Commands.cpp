@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "app/Answers.h"
 #include "app/Build.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
@@ -36,6 +37,9 @@ Command buildCommand(CLI::App& program) {
       ->add_option("--library", options->library, "Device library in the place of the shipped one")
       ->type_name("FOLDER");
   command->add_flag("--replace", options->replace, "Lets an existing system be replaced");
+  command
+      ->add_option("--onto", options->onto, "Answers these saved systems with the one answers file")
+      ->type_name("FILE.tsy...");
   command->add_option("--export", options->delivery.archive, "Exports the system to this archive")
       ->type_name("FILE.tsa");
   command
@@ -67,6 +71,17 @@ Command showCommand(CLI::App& program) {
   named(command->add_option("FILE.tsy", options->systemFile, "A saved system"))->required();
   command->add_flag("--json", options->asJson, "Prints the listing for other programs");
   return {command, [options] { return show(*options); }, statusesOfAReader()};
+}
+
+Command answersCommand(CLI::App& program) {
+  auto options = std::make_shared<AnswersOptions>();
+  CLI::App* command =
+      program.add_subcommand("answers", "Prints the answers file that builds a system anew");
+  named(command->add_option("FILE.tsy", options->systemFile, "A saved system"))->required();
+  command
+      ->add_option("--library", options->library, "Device library in the place of the shipped one")
+      ->type_name("FOLDER");
+  return {command, [options] { return printAnswers(*options); }, statusesOfAReader()};
 }
 
 Command receiverCommand(CLI::App& program) {
@@ -155,8 +170,9 @@ Commands::Commands()
     : program("Room solutions: the wizard, with a person or unattended", "orlena") {
   program.require_subcommand(0, 1);
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
-  all = {buildCommand(program),  wizardCommand(program), showCommand(program),
-         reportCommand(program), schemaCommand(program), receiverCommand(program)};
+  all = {buildCommand(program),   wizardCommand(program), answersCommand(program),
+         showCommand(program),    reportCommand(program), schemaCommand(program),
+         receiverCommand(program)};
   CLI::Option* opened =
       named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
           ->check(isSystemOrArchive);

@@ -22,11 +22,13 @@ void write(const std::string& lines) { std::fwrite(lines.data(), 1, lines.size()
 
 }  // namespace
 
-void RunReport::line(const std::string& text) const { write(prefixed(text, subject_ + ": ")); }
+void RunReport::line(const std::string& text) const {
+  write(prefixed(text, subject_ + ": " + system_));
+}
 
 void RunReport::fault(const base::Fault& fault) const {
   const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
-  write(prefixed(fault.text(), subject_ + ":" + line + " "));
+  write(prefixed(fault.text(), subject_ + ":" + line + " " + system_));
 }
 
 void reportLine(const std::string& text) { write(prefixed(text, "orlena: ")); }

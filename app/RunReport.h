@@ -8,11 +8,13 @@
 
 namespace app {
 
-/// What a run tells on standard error. Every line begins with the answers file that it is about;
-/// the lines of one message stay together, also when rooms are built side by side.
+/// What a run tells on standard error. Every line begins with the file that it is about, and then
+/// the system that the file is answered onto, if any; the lines of one message stay together, also
+/// when rooms are built side by side.
 class RunReport : public answers::Report {
  public:
-  explicit RunReport(std::string subject) : subject_(std::move(subject)) {}
+  explicit RunReport(std::string subject, const std::string& system = {})
+      : subject_(std::move(subject)), system_(system.empty() ? "" : system + ": ") {}
 
   void line(const std::string& text) const override;
   /// A fault of the answers, behind its line in their file where that is known.
@@ -20,6 +22,7 @@ class RunReport : public answers::Report {
 
  private:
   std::string subject_;
+  std::string system_;
 };
 
 /// A line of standard error that is about no file.

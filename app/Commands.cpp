@@ -11,6 +11,7 @@
 #include "app/Build.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
+#include "app/Rooms.h"
 #include "app/Schema.h"
 #include "app/Show.h"
 #include "app/Window.h"
@@ -116,6 +117,30 @@ Command reportCommand(CLI::App& program) {
            {"2", "the command line is wrong, or the file can't be read"}}};
 }
 
+Command roomsCommand(CLI::App& program) {
+  auto options = std::make_shared<RoomsOptions>();
+  CLI::App* command =
+      program.add_subcommand("rooms", "Writes an answers file for each row of a table");
+  named(command->add_option("TABLE.csv", options->table,
+                            "Rooms below the paths of their answers, as a spreadsheet saves them"))
+      ->required();
+  command
+      ->add_option("--template", options->pattern,
+                   "The answers of all rooms, where the table says nothing")
+      ->type_name("ANSWERS.json")
+      ->required();
+  command->add_option("--out", options->out, "Folder of the answers files")
+      ->type_name("FOLDER")
+      ->capture_default_str();
+  command->add_flag("--replace", options->replace,
+                    "Lets files be replaced that say something else");
+  return {command,
+          [options] { return writeRooms(*options); },
+          {{"0", "the folder holds an answers file for each row"},
+           {"1", "the files can't be written, or are not to be replaced"},
+           {"2", "the command line, the template or the table is wrong"}}};
+}
+
 Command schemaCommand(CLI::App& program) {
   auto options = std::make_shared<SchemaOptions>();
   CLI::App* command = program.add_subcommand(
@@ -170,9 +195,9 @@ Commands::Commands()
     : program("Room solutions: the wizard, with a person or unattended", "orlena") {
   program.require_subcommand(0, 1);
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
-  all = {buildCommand(program),   wizardCommand(program), answersCommand(program),
-         showCommand(program),    reportCommand(program), schemaCommand(program),
-         receiverCommand(program)};
+  all = {buildCommand(program),  wizardCommand(program),  answersCommand(program),
+         roomsCommand(program),  showCommand(program),    reportCommand(program),
+         schemaCommand(program), receiverCommand(program)};
   CLI::Option* opened =
       named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
           ->check(isSystemOrArchive);

@@ -6,6 +6,7 @@
 #include "addin/IAddIn.h"
 #include "addin/modGlobals.h"
 #include "answers/Answers.h"
+#include "answers/RoomTable.h"
 #include "answers/RunEnded.h"
 #include "answers/UnattendedDesktop.h"
 #include "app/RunReport.h"
@@ -103,6 +104,15 @@ void answers(std::string_view bytes) {
   }
 }
 
+/// What is made of a table is an answers file.
+void table(std::string_view bytes) {
+  static const base::Json pattern = base::parseJson(
+      R"({"lift": null, "screen": {"device": "S"}, "transmitters": [{"type": "T"}]})", {});
+  for (const answers::TableRoom& room : answers::RoomTable(bytes, pattern).rooms) {
+    const answers::Answers read(room.text);
+  }
+}
+
 void archive(std::string_view bytes) {
   const fs::path parent = folder() / "unpacked";
   fs::create_directories(parent);
@@ -180,7 +190,8 @@ const std::map<std::string, FuzzTarget>& fuzzTargets() {
   static const std::map<std::string, FuzzTarget> targets{
       {"settings", settings}, {"system", system},           {"library", library},
       {"answers", answers},   {"archive", archive},         {"protocol", protocol},
-      {"project", project},   {"preferences", preferences}, {"structure", structure}};
+      {"project", project},   {"preferences", preferences}, {"structure", structure},
+      {"table", table}};
   return targets;
 }
 

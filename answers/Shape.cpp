@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "answers/Nearest.h"
+#include "base/JsonText.h"
 #include "forms/Text.h"
 
 namespace answers {
@@ -20,7 +21,8 @@ Shape shapeOf(Shape::Kind kind, std::int64_t minimum = 0, std::int64_t maximum =
 }
 
 std::string below(const std::string& path, const std::string& key) {
-  return path.empty() ? key : path + "." + key;
+  const std::string name = base::nameInPath(key);
+  return path.empty() ? name : path + "." + name;
 }
 
 std::string describedText(const Shape& shape) {

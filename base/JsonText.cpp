@@ -1,6 +1,8 @@
 #include "base/JsonText.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 
@@ -62,7 +64,7 @@ class Places : public nlohmann::json_sax<Json> {
 
   bool key(string_t& name) override {
     Container& object = open_.back();
-    object.member = object.path + (object.path.empty() ? "" : ".") + name;
+    object.member = object.path + (object.path.empty() ? "" : ".") + nameInPath(name);
     if (!lines_.insert_or_assign(object.member, line()).second) {
       return tell("the key stands twice", object.member);
     }
@@ -131,7 +133,20 @@ class Places : public nlohmann::json_sax<Json> {
   std::vector<Container> open_;
 };
 
+/// 5.0 and 5e0 are the whole number 5, as a schema has it too.
+bool keepWhole(int, Json::parse_event_t event, Json& value) {
+  constexpr double mostExact = 9007199254740992.0;
+  if (event != Json::parse_event_t::value || !value.is_number_float()) return true;
+  const auto number = value.get<double>();
+  if (std::trunc(number) == number && std::abs(number) <= mostExact) {
+    value = static_cast<std::int64_t>(number);
+  }
+  return true;
+}
+
 }  // namespace
+
+std::string nameInPath(const std::string& key) { return key.empty() ? "\"\"" : key; }
 
 JsonText::JsonText(std::string text, const JsonLimits& limits) : value(Json::value_t::discarded) {
   if (text.size() > limits.bytes) {
@@ -139,7 +154,7 @@ JsonText::JsonText(std::string text, const JsonLimits& limits) : value(Json::val
     return;
   }
   blankSlips(text, faults);
-  if (Places(text, limits, lines_, faults).read()) value = Json::parse(text);
+  if (Places(text, limits, lines_, faults).read()) value = Json::parse(text, keepWhole);
 }
 
 std::size_t JsonText::lineOf(std::string path) const {

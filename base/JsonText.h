@@ -11,9 +11,13 @@
 
 namespace base {
 
+/// A key as it stands in a path; one without a character is seen there too.
+std::string nameInPath(const std::string& key);
+
 /// A JSON text: its value, where the parts of it stand, and all that keeps it from being JSON. A
 /// comment and a comma too many are told and passed over, so that what stands behind them is read
-/// too; a key that stands twice is told and counts with its last value.
+/// too; a key that stands twice is told and counts with its last value. A number without a fraction
+/// is an integer, however it is written.
 struct JsonText {
   JsonText(std::string text, const JsonLimits& limits);
 

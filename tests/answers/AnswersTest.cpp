@@ -26,7 +26,7 @@ TEST(AnswersForm, takesEveryKeyAtItsLimits) {
     "audio": {"volume_knob": "master", "microphone": "when on", "mute_on_input_3": true},
     "power": {"control": "discrete", "on": "", "off": "Off",
               "second_off": {"command": "Off", "delay": 999}},
-    "lockout": {"on": 0, "off": 999, "contact": "power off"},
+    "lockout": {"on": 0.0, "off": 99.9e1, "contact": "power off"},
     "screen": {"device": "S", "on": "Down", "off": "Up", "on_pulse": 655, "off_pulse": 0},
     "lift": {"device": "L"},
     "transmitters": [{"type": "A"}, {"type": "B", "label": "äöüß5678"}, {"type": "C"}],
@@ -55,7 +55,7 @@ TEST(AnswersForm, namesThePlaceAndWhatIsAllowedThere) {
        "display.relay.on_delay: must be a whole number from 0 to 999"},
       {R"({"display": {"relay": {"on_delay": -1}}})",
        "display.relay.on_delay: must be a whole number from 0 to 999"},
-      {R"({"display": {"relay": {"off_delay": 5.0}}})",
+      {R"({"display": {"relay": {"off_delay": 5.5}}})",
        "display.relay.off_delay: must be a whole number from 0 to 999"},
       {R"({"lockout": {"on": 18446744073709551615}})",
        "lockout.on: must be a whole number from 0 to 999"},
@@ -86,6 +86,9 @@ TEST(AnswersForm, namesThePlaceAndWhatIsAllowedThere) {
       {R"({"room": {"Kestrum": true}})",
        R"(room.Kestrum: is no key; known here are "kestrum", "fenlet", "occupancy", )"
        R"("fenlet_password", "power_off_after"; did you mean "kestrum"?)"},
+      {R"({"room": {"": true}})",
+       R"(room."": is no key; known here are "kestrum", "fenlet", "occupancy", )"
+       R"("fenlet_password", "power_off_after")"},
       {R"({"transmiters": []})",
        R"(transmiters: is no key; known here are "transmitters", "name", )"
        R"("folder" and 8 more; did you mean "transmitters"?)"},
@@ -121,6 +124,7 @@ TEST(AnswersForm, isToldWholeWithItsLines) {
     {"type": "A", "label": "Ninechars"},
     17
   ],
+  "": 0,
   "name": "http://hall, ]"
 })"),
             "2: there are no comments in JSON\n"
@@ -134,7 +138,8 @@ TEST(AnswersForm, isToldWholeWithItsLines) {
             "12: transmitters[0].label: must be a text of 1 to 8 characters without blanks at its "
             "ends\n"
             "13: transmitters[1]: must be an object\n"
-            "15: name: the key stands twice\n");
+            "15: \"\": is no key; known here are \"name\", \"lift\", \"room\" and 8 more\n"
+            "16: name: the key stands twice\n");
 }
 
 TEST(AnswersForm, thatIsNoJsonIsToldInPlainWords) {

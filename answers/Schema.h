@@ -6,8 +6,8 @@
 namespace answers {
 
 /// The form of an answers file as a JSON Schema (draft 2020-12), for editors and other programs. A
-/// device or a command is one of the library's; that the command is one of the device's own, and
-/// that the room asks for the answer, is not told. Raises what DeviceLibrary raises.
+/// device is one of the library's, a command one of the device's own; that the room asks for the
+/// answer is not told. Raises what DeviceLibrary raises.
 base::Json schema(const trellisar::DeviceLibrary& library);
 
 }  // namespace answers

@@ -1,23 +1,16 @@
 #include <string>
 
-#include "forms/Numbers.h"
 #include "forms/Paths.h"
-#include "forms/Text.h"
-#include "host/Numbers.h"
 #include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/compile/Listing.h"
+#include "trellisar/compile/Words.h"
 #include "trellisar/document/Provisioning.h"
 #include "trellisar/document/Steps.h"
 
 namespace trellisar {
 namespace {
 
-/// 500 as "5 s", 10 as "0.1 s".
-std::string seconds(const std::string& hundredths) {
-  return forms::decimal(static_cast<float>(forms::leadingNumber(hundredths) / 100)) + " s";
-}
-
-std::string inQuotes(const std::string& text) { return "\"" + text + "\""; }
+using words::inQuotes;
 
 /// The program in words, numbered as a reader would number it: 4.2 is the second step of the branch
 /// of step 4.
@@ -30,58 +23,34 @@ class ProgramText {
     std::string text;
     eachStep(preset, [&](const Step& step, int place) {
       const std::string own = number + std::to_string(place) + ".";
-      text += std::string(level * 4, ' ') + own + " " + words(step) + "\n";
+      text += std::string(level * 4, ' ') + own + " " + inWords(step) + "\n";
       const auto* branch = std::get_if<BranchStep>(&step);
       if (branch) text += steps(branch->branch(), own, level + 1);
     });
     return text.empty() ? std::string(level * 4, ' ') + "(nothing)\n" : text;
   }
 
-  std::string words(const Step& step) const {
+  std::string inWords(const Step& step) const {
     return std::visit(ForStep{[&](const CommandStep& command) {
-                                const std::string target = targetOf(command.data);
-                                return target + ": " + command.data.signal + value(command);
+                                const std::string target = words::targetOf(document_, command.data);
+                                return target + ": " + command.data.signal +
+                                       words::valueOf(command);
                               },
                               [&](const DelayStep& delay) {
-                                return targetOf(delay.data) + ": wait " + seconds(delay.data.value);
+                                const std::string target = words::targetOf(document_, delay.data);
+                                return target + ": wait " + words::seconds(delay.data.value);
                               },
                               [&](const CallStep& call) {
                                 return "run " + inQuotes(document_.findPreset(call.preset())->name);
                               },
                               [&](const BranchStep& branch) {
-                                const std::string test = condition(branch);
+                                const std::string test = words::conditionOf(document_, branch);
                                 return "if " + test + ":";
                               }},
                       step);
   }
 
  private:
-  std::string targetOf(const StepData& step) const {
-    return document_.shownName(static_cast<std::int16_t>(step.target));
-  }
-
-  static std::string value(const CommandStep& step) {
-    const std::string& value = step.data.value;
-    if (step.signalType == host::signalAnalog) return " = " + value;
-    return step.signalType == host::signalSerial ? " = " + inQuotes(value) : digitalValue(value);
-  }
-
-  static std::string digitalValue(const std::string& value) {
-    if (value.empty()) return {};
-    if (value == host::levelHigh) return " = on";
-    if (value == host::levelLow) return " = off";
-    return " (held " + seconds(value) + ")";
-  }
-
-  std::string condition(const BranchStep& step) const {
-    if (!step.condition()) return "always";
-    const host::StepCondition& test = *step.condition();
-    const std::string what =
-        test.get_SignalName() + " of " + document_.shownName(test.get_DeviceID()) + " ";
-    if (!test.get_StateName().empty()) return what + forms::lowerCase(test.get_StateName());
-    return what + (test.get_Value() != 0 ? "is on" : "is off");
-  }
-
   const DocumentData& document_;
 };
 
@@ -103,17 +72,6 @@ class Reader {
            "\n";
   }
 
-  static std::string powerControl(const DeviceData& device) {
-    switch (device.powerControl) {
-      case host::powerSensing:
-        return ", power control: power sensing";
-      case host::powerDiscrete:
-        return ", power control: discrete commands";
-      default:
-        return "";
-    }
-  }
-
   static std::string properties(const DeviceData& device, const std::string& indent) {
     std::string text;
     for (const auto& [name, value] : device.properties) {
@@ -123,16 +81,16 @@ class Reader {
   }
 
   std::string device(const DeviceData& device) const {
-    const Definition& definition = *device.definition;
-    const std::string type =
-        definition.form == Definition::Form::receiver ? definition.model : chosenType(device);
+    const std::string type = words::typeOf(device);
+    const std::string powerControl = words::powerControlOf(device);
     std::string text = "    " + device.name;
     if (!type.empty()) text += ": " + type;
     if (!device.label.empty()) text += ", labelled " + inQuotes(device.label);
     for (const std::string& port : portTexts(device)) {
       if (port != device.name) text += ", " + port;
     }
-    text += powerControl(device) + "\n" + properties(device, "        ");
+    if (!powerControl.empty()) text += ", power control: " + powerControl;
+    text += "\n" + properties(device, "        ");
     for (const DevicePtr& module : device.modules) {
       text += "        module " + module->shortName + " (" + module->name + ")\n" +
               properties(*module, "            ") + slots(*module);
@@ -143,10 +101,7 @@ class Reader {
   std::string slots(const DeviceData& module) const {
     std::string text;
     for (const auto& slot : module.slots) {
-      const std::string target = document_.shownName(slot->device);
-      const std::string command = target.empty() ? slot->command : target + ": " + slot->command;
-      text += "            " + slot->name + " sends ";
-      text += (slot->command.empty() ? "nothing" : command) + "\n";
+      text += "            " + slot->name + " sends " + words::slotTarget(document_, *slot) + "\n";
     }
     return text;
   }
@@ -172,16 +127,12 @@ class Reader {
     return text;
   }
 
-  static std::string billLine(const BillLine& line, const char* what) {
-    return std::to_string(line.quantity) + " x part " + std::to_string(line.part) + what + "\n";
-  }
-
   std::string bill() const {
     std::string text = "\nBill of materials\n";
     for (const auto& entry : document_.bill) {
-      text += "    " + billDevice(document_, *entry) + ": " + billLine(entry->main, "");
+      text += "    " + billDevice(document_, *entry) + ": " + words::billLine(entry->main) + "\n";
       for (const BillLine& line : entry->parts)
-        text += "        " + billLine(line, ", further part");
+        text += "        " + words::billLine(line) + ", further part\n";
     }
     return text;
   }
@@ -199,9 +150,7 @@ class Reader {
     if (all.empty()) return {};
     std::string text = "\nEvents\n";
     for (const ProgrammedEvent& event : all) {
-      text += "  when " + event.signal + " of " + event.device +
-              (event.event == host::eventHigh ? " goes on\n" : " goes off\n") +
-              program_.steps(*event.preset);
+      text += "  " + words::eventOf(event) + "\n" + program_.steps(*event.preset);
     }
     return text;
   }
@@ -211,9 +160,8 @@ class Reader {
     if (fed.empty()) return {};
     std::string text = "\nSources\n";
     for (const auto& [device, signal] : fed) {
-      text += "    " + (signal->row.input.empty() ? signal->row.output : signal->row.input) +
-              " of " + device + " follows " + signal->sourceSignal + " of " +
-              document_.shownName(signal->sourceDevice) + "\n";
+      text += "    " + words::fedSignal(device, *signal) + " follows " +
+              words::sourceOf(document_, *signal) + "\n";
     }
     return text;
   }

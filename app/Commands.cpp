@@ -9,6 +9,7 @@
 
 #include "app/Answers.h"
 #include "app/Build.h"
+#include "app/Diff.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
 #include "app/Rooms.h"
@@ -83,6 +84,34 @@ Command answersCommand(CLI::App& program) {
       ->add_option("--library", options->library, "Device library in the place of the shipped one")
       ->type_name("FOLDER");
   return {command, [options] { return printAnswers(*options); }, statusesOfAReader()};
+}
+
+Command diffCommand(CLI::App& program) {
+  auto options = std::make_shared<DiffOptions>();
+  CLI::App* command = program.add_subcommand(
+      "diff", "Prints in what a system's devices and control program differ from another one's");
+  named(command->add_option("A.tsy", options->before, "A saved system; /dev/null for none"))
+      ->required();
+  named(command->add_option("B.tsy", options->after, "The one that it is compared with"))
+      ->required();
+  command->add_flag("--json", options->asJson, "Prints the differences for other programs");
+  return {command,
+          [options] { return diff(*options); },
+          {{"0", "they are the same"},
+           {"1", "they differ, or the output can't be written"},
+           {"2", "the command line is wrong, or a file can't be read"}}};
+}
+
+Command gitDiffCommand(CLI::App& program) {
+  auto arguments = std::make_shared<std::vector<std::string>>();
+  CLI::App* command = program.add_subcommand(
+      "git-diff", "Tells git in what a system differs, as the driver that git config names");
+  named(command->add_option("ARGUMENTS", *arguments, "What git hands over"))->required();
+  return {command,
+          [arguments] { return diffForGit(*arguments); },
+          {{"0", "done, whether they differ or not"},
+           {"1", "the output can't be written"},
+           {"2", "the command line is wrong"}}};
 }
 
 Command receiverCommand(CLI::App& program) {
@@ -195,9 +224,10 @@ Commands::Commands()
     : program("Room solutions: the wizard, with a person or unattended", "orlena") {
   program.require_subcommand(0, 1);
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
-  all = {buildCommand(program),  wizardCommand(program),  answersCommand(program),
-         roomsCommand(program),  showCommand(program),    reportCommand(program),
-         schemaCommand(program), receiverCommand(program)};
+  all = {buildCommand(program),   wizardCommand(program), answersCommand(program),
+         roomsCommand(program),   showCommand(program),   diffCommand(program),
+         gitDiffCommand(program), reportCommand(program), schemaCommand(program),
+         receiverCommand(program)};
   CLI::Option* opened =
       named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
           ->check(isSystemOrArchive);

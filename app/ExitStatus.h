@@ -6,6 +6,7 @@ namespace app {
 namespace exitStatus {
 inline constexpr int ok = 0;
 inline constexpr int refused = 1;     // by the wizard, the generator or the save
+inline constexpr int different = 1;   // what was compared is not the same
 inline constexpr int wrongInput = 2;  // the command line, the answers file or a file to be read
 }  // namespace exitStatus
 

@@ -128,6 +128,38 @@ TEST_F(MainFormTest, EditsASystemWithTheAddInThatItBelongsTo) {
   });
 }
 
+TEST_F(MainFormTest, ComparesASystemWithAnotherOne) {
+  givenSaved("Hall");
+  openTemplate();
+  addDisplay();
+  EXPECT_TRUE(window().FileSaveAs(folder.inside("Lobby"), "Orlena"));
+  folder.write("Damaged.tsy", "{");
+  const auto compareWith = [&](trellisar::MainForm& form, const std::string& name) {
+    desktop.expectOpenDialog("Compare With", name.empty() ? "" : folder.inside(name));
+    user.click(form.cmdCompare);
+  };
+  std::string shown;
+  desktop.wheneverShown("ComparisonDialog", [&](forms::Form& form) {
+    shown = form.control("lblSystems").shownText() + "\n" + form.control("txtWords").shownText();
+    user.press(forms::keys::enter);
+  });
+  inWindow([&](trellisar::MainForm& form) {
+    user.select(form.lvwRecent, 1);
+    compareWith(form, "Lobby.tsy");
+    EXPECT_LT(shown.find("Hall.tsy"), shown.find("Lobby.tsy"));
+    expectHas(shown, "Display Device is new: Bravonne P2200");
+    compareWith(form, "Hall.tsy");
+    expectHas(shown, "No device and no step of the program differs.");
+    compareWith(form, "");
+    desktop.expectMessageWith(forms::Icon::exclamation, "Damaged.tsy");
+    compareWith(form, "Damaged.tsy");
+    fs::remove(folder / "Hall.tsy");
+    desktop.expectMessageWith(forms::Icon::exclamation, "Hall.tsy\" is no longer there");
+    user.click(form.cmdCompare);
+    EXPECT_EQ(form.lvwRecent.rowCount(), 1);
+  });
+}
+
 TEST_F(MainFormTest, OpensTheSystemThatItIsShownFor) {
   givenSaved("Hall");
   inWindow(

@@ -184,6 +184,41 @@ TEST_F(MainWindowTest, ProgramStaysWithTheSystemItWasCompiledFor) {
   EXPECT_FALSE(host.document()->get_SystemInfo()->get_ProgramIsCurrent());
 }
 
+TEST_F(MainWindowTest, WhoWishesItSeesWhatASaveChangesOfABuiltProgram) {
+  const fs::path file = folder / "Room" / "Room.tsy";
+  saveAsRoom();
+  const auto build = [&] {
+    bool isCancelled = false;
+    ASSERT_TRUE(window().ShowCreateProgramDialog(isCancelled));
+  };
+  const auto saveChanged = [&] {
+    press(*preset("System Lock"), data().controlSystem, "Lock");
+    return window().FileSaveAs(folder.inside("Room\\Room"), "Orlena");
+  };
+  build();
+  EXPECT_TRUE(saveChanged()) << "nobody has asked for it";
+  host.preferences().setShowsChanges(true);
+  EXPECT_TRUE(saveChanged()) << "what is replaced is not built";
+  build();
+  EXPECT_TRUE(window().FileSaveAs(folder.inside("Room\\Room"), "Orlena")) << "nothing changes";
+
+  const std::string built = fileText(file);
+  desktop.whenShown("ComparisonDialog", [&](forms::Form&) { user.press(forms::keys::escape); });
+  EXPECT_FALSE(saveChanged());
+  EXPECT_EQ(fileText(file), built);
+  desktop.whenShown("ComparisonDialog", [&](forms::Form& form) {
+    user.click(form.control("cmdCopy"));
+    user.press(forms::keys::tab);
+    user.press(forms::keys::enter);
+  });
+  EXPECT_TRUE(saveChanged());
+  EXPECT_NE(fileText(file), built);
+  EXPECT_EQ(desktop.copiedText(),
+            "Presets\n"
+            "    System Lock: after Receiver's second Lock, Receiver's third Lock is new\n"
+            "    System Lock: after Receiver's third Lock, Receiver's fourth Lock is new\n");
+}
+
 TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {
   const std::string place = folder.inside("New");
   EXPECT_TRUE(window().CreateProjectFolder(place + "\\"));

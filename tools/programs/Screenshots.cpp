@@ -23,6 +23,9 @@
 #include "receiver/Server.h"
 #include "trellisar/communication/PasswordDialog.h"
 #include "trellisar/communication/TransferDialog.h"
+#include "trellisar/compare/Compare.h"
+#include "trellisar/dialogs/ComparisonDialog.h"
+#include "trellisar/document/SystemFile.h"
 #include "trellisar/window/AddIns.h"
 #include "trellisar/window/MainForm.h"
 
@@ -327,6 +330,20 @@ void drawMainWindow(DrawnDesktop& desktop, trellisar::Host& host) {
   draw("main-missing", "");
 }
 
+/// What a room has more than the template that it comes from, to read and before a save.
+void drawComparison(DrawnDesktop& desktop) {
+  const fs::path systems = app::dataFolder() / "TemplateSystems";
+  const fs::path before = systems / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
+  const fs::path after = systems / "Orlena EXAMPLE" / "Orlena EXAMPLE.tsy";
+  const trellisar::Differences differences = trellisar::compare(
+      *trellisar::readSystemFile(before, nullptr), *trellisar::readSystemFile(after, nullptr));
+  std::string name = "comparison";
+  desktop.act("ComparisonDialog", [&](forms::Form& form) { desktop.draw(form, name); });
+  trellisar::showComparison(before, after, differences);
+  name = "comparison-before-saving";
+  trellisar::confirmChanges("Orlena EXAMPLE", differences);
+}
+
 /// On its way to a receiver that listens and never answers.
 void drawTransfer(DrawnDesktop& desktop, const fs::path& folder) {
   receiver::Server::Options options;
@@ -366,6 +383,7 @@ void drawWindows(const ScreenshotOptions& options) {
                         .printer = app::reportPrinter()});
   const Walk walk(application, desktop, host);
   drawMainWindow(desktop, host);
+  drawComparison(desktop);
   drawTransfer(desktop, systems.folder() / "receiver");
   app::AddIn(host).runOnNewSystem();
   if (!desktop.failure().empty()) throw std::runtime_error(desktop.failure());

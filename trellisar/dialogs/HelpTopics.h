@@ -12,5 +12,6 @@ inline constexpr std::int16_t buildProgram = 903;
 inline constexpr std::int16_t documentation = 904;
 inline constexpr std::int16_t preferences = 905;
 inline constexpr std::int16_t audioSettings = 906;
+inline constexpr std::int16_t comparison = 907;
 
 }  // namespace trellisar::help

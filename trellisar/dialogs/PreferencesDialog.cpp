@@ -21,9 +21,10 @@ PreferencesDialog::PreferencesDialog(Preferences& preferences)
   lblUsual.setCaption("Without a folder of your own, new systems go to " +
                       shownPath(defaultSystemsFolder(Preferences())));
   cmdBrowse.click.connect([this] { browse(); });
+  chkChanges.setChecked(preferences.showsChanges());
   layOutAbove(dialogWidth, {forms::names(lblFolder, txtFolder),
                             forms::row({forms::rest(txtFolder), forms::item(cmdBrowse)}),
-                            forms::rest(lblUsual)});
+                            forms::rest(lblUsual), forms::item(chkChanges)});
 }
 
 void PreferencesDialog::browse() {
@@ -42,6 +43,7 @@ bool PreferencesDialog::accept() {
     return false;
   }
   preferences_.setDefaultFolder(folder.empty() ? folder : forms::fromMachinePath(folder));
+  preferences_.setShowsChanges(chkChanges.isChecked());
   return true;
 }
 

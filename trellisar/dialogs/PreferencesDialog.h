@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/Label.h"
 #include "forms/TextBox.h"
@@ -10,7 +11,8 @@
 
 namespace trellisar {
 
-/// The host's preferences: the folder for new systems. An empty box stands for the usual folder.
+/// The host's preferences: the folder for new systems, where an empty box stands for the usual one,
+/// and whether the user sees what a save changes.
 class PreferencesDialog : public Dialog {
  public:
   explicit PreferencesDialog(Preferences& preferences);
@@ -19,6 +21,8 @@ class PreferencesDialog : public Dialog {
   forms::TextBox txtFolder{*this, "txtFolder"};
   forms::CommandButton cmdBrowse{*this, "cmdBrowse", "B&rowse..."};
   forms::Label lblUsual{*this, "lblUsual"};
+  forms::CheckBox chkChanges{*this, "chkChanges",
+                             "&Show what changes before a built program is saved over"};
 
  protected:
   bool accept() override;

@@ -118,7 +118,7 @@ bool MainWindowOperations::FileSaveAs(const std::string& strFile,
   try {
     const std::string path = withSystemExtension(strFile);
     const std::optional<Overwriting> overwriting = mayOverwrite(forms::toMachinePath(path));
-    if (!overwriting) return false;
+    if (!overwriting || !mayReplaceProgram(forms::toMachinePath(path))) return false;
     raisingHostErrors([&] { save(path, strApplication, *overwriting); });
     return true;
   } catch (const host::Error& error) {

@@ -74,6 +74,9 @@ class MainWindowOperations : public host::OwnerForm {
   std::filesystem::path unpack(const std::filesystem::path& archive) const;
   /// How a save may deal with the file, after asking where that is needed; nothing: not at all.
   std::optional<Overwriting> mayOverwrite(const std::filesystem::path& file) const;
+  /// Whether the document's own file may be written. A user who wishes so is shown what changes
+  /// where its program is built.
+  bool mayReplaceProgram(const std::filesystem::path& file) const;
   void save(const std::string& path, const std::string& application, Overwriting overwriting);
   const std::shared_ptr<UIManagerObject>& uiManager();
   std::int16_t chooseDevice(host::DeviceDialogArguments& arguments, const DefinitionPtr& chosen);

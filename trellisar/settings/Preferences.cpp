@@ -130,6 +130,9 @@ Preferences::Kept Preferences::read(const fs::path& file) {
                  "; this program reads version " + std::to_string(preferencesVersion));
   }
   kept.defaultFolder = reader.at("default_folder").text();
+  // Files of before there were such questions lack it.
+  reader.ifPresent("show_changes",
+                   [&](const base::JsonReader& item) { kept.showsChanges = item.boolean(); });
   reader.at("recent_systems").each([&](const base::JsonReader& item) {
     if (kept.recentSystems.size() < maximumRecent) kept.recentSystems.push_back(item.text());
   });
@@ -146,6 +149,7 @@ void Preferences::write(const fs::path& file, const Kept& kept) {
   json["format"] = preferencesFormat;
   json["version"] = preferencesVersion;
   json["default_folder"] = kept.defaultFolder;
+  json["show_changes"] = kept.showsChanges;
   json["recent_systems"] = kept.recentSystems;
   json["address_book"] = toJson(kept.addressBook);
   json["ip_settings"] = toJson(kept.ipSettings);
@@ -194,6 +198,10 @@ void Preferences::tell(const std::string& problem) {
 
 void Preferences::setDefaultFolder(const std::string& folder) {
   change([&](Kept& kept) { kept.defaultFolder = folder; });
+}
+
+void Preferences::setShowsChanges(bool shows) {
+  change([&](Kept& kept) { kept.showsChanges = shows; });
 }
 
 void Preferences::forget(const std::string& system) {

@@ -30,6 +30,10 @@ class Preferences {
   const std::string& defaultFolder() const { return kept_.defaultFolder; }
   void setDefaultFolder(const std::string& folder);
 
+  /// Whether the user sees what a save changes in a program that is built, before it is saved.
+  bool showsChanges() const { return kept_.showsChanges; }
+  void setShowsChanges(bool shows);
+
   /// The systems that were opened or saved, the last first; ten at most.
   const std::vector<std::string>& recentSystems() const { return kept_.recentSystems; }
   void remember(const std::string& system);
@@ -48,6 +52,7 @@ class Preferences {
  private:
   struct Kept {
     std::string defaultFolder;
+    bool showsChanges = false;
     std::vector<std::string> recentSystems;
     AddressBook addressBook;
     IPSettings ipSettings;

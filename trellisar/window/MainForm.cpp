@@ -11,7 +11,9 @@
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
+#include "trellisar/compare/Compare.h"
 #include "trellisar/compile/Listing.h"
+#include "trellisar/dialogs/ComparisonDialog.h"
 #include "trellisar/dialogs/HelpTopics.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/window/AddIns.h"
@@ -71,6 +73,7 @@ void MainForm::connect() {
   lvwRecent.itemClick.connect([this] { showSystem(); });
   lvwRecent.doubleClick.connect([this] { editRecent(); });
   cmdEdit.click.connect([this] { editRecent(); });
+  cmdCompare.click.connect([this] { compareRecent(); });
   cmdOpen.click.connect([this] { openOther(); });
   cmdPreferences.click.connect([this] { host_.mainWindow()->ShowPreferencesDialog(); });
   cmdNew.setShortcut(U'N');
@@ -108,7 +111,8 @@ forms::Pieces MainForm::addInPieces(forms::Twips recentHeight) {
           forms::gap(margin),
           forms::names(lblRecent, lvwRecent),
           forms::rest(lvwRecent, recentHeight),
-          forms::row({forms::spring(), forms::item(cmdOpen), forms::item(cmdEdit)})};
+          forms::row({forms::item(cmdCompare), forms::spring(), forms::item(cmdOpen),
+                      forms::item(cmdEdit)})};
 }
 
 void MainForm::layOut() {
@@ -164,8 +168,9 @@ void MainForm::fillRecent() {
 
 void MainForm::showSystem() {
   const std::string system = selectedSystem();
-  if (system.empty() && cmdEdit.hasFocus()) lvwRecent.setFocus();
+  if (system.empty() && (cmdEdit.hasFocus() || cmdCompare.hasFocus())) lvwRecent.setFocus();
   cmdEdit.setEnabled(!system.empty());
+  cmdCompare.setEnabled(!system.empty());
   txtSystem.setText(system.empty()
                         ? "The devices and the program of the selected system stand here. Make a "
                           "new system with an add-in, or open one."
@@ -220,6 +225,27 @@ void MainForm::open(const std::string& system) {
 void MainForm::openOther() {
   bool cancelled = false;
   if (host_.mainWindow()->FileOpen("", /*bUseRecovery=*/true, cancelled)) editOpenSystem();
+}
+
+void MainForm::compareRecent() {
+  const std::string system = selectedSystem();
+  if (!isThere(system)) return dropMissing(system);
+  forms::FileDialog dialog;
+  dialog.ownerHandle = windowHandle();
+  dialog.title = "Compare With";
+  dialog.filter = "Trellisar systems (*.tsy)|*.tsy";
+  dialog.initialFolder = host_.mainWindow()->GetDefaultSystemsFolder();
+  dialog.defaultExtension = "tsy";
+  const std::string other = forms::Application::current().desktop().chooseFileToOpen(dialog);
+  if (other.empty()) return;
+  try {
+    const std::filesystem::path before = forms::toMachinePath(system);
+    const std::filesystem::path after = forms::toMachinePath(other);
+    showComparison(before, after,
+                   compare(*readSystemFile(before, nullptr), *readSystemFile(after, nullptr)));
+  } catch (const host::Error& error) {
+    showFailure("The systems can't be compared.\r\n\r\n" + error.description());
+  }
 }
 
 void MainForm::editOpenSystem() {

@@ -40,6 +40,7 @@ class MainForm : public forms::Form {
   forms::CommandButton cmdPreview{*this, "cmdPreview", "Pre&view..."};
   forms::Label lblRecent{*this, "lblRecent", "&Recent systems:"};
   forms::ListView lvwRecent{*this, "lvwRecent"};
+  forms::CommandButton cmdCompare{*this, "cmdCompare", "&Compare With..."};
   forms::CommandButton cmdEdit{*this, "cmdEdit", "&Edit System..."};
   forms::CommandButton cmdOpen{*this, "cmdOpen", "&Open Other..."};
   forms::Label lblSystem{*this, "lblSystem", "&Devices and program:"};
@@ -62,6 +63,8 @@ class MainForm : public forms::Form {
   void startNew();
   void editRecent();
   void openOther();
+  /// Shows in what another system differs from the selected one.
+  void compareRecent();
   void open(const std::string& system);
   /// Runs the add-in that the open system belongs to; a system of none can only be read.
   void editOpenSystem();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -65,6 +66,8 @@ class Desktop {
   virtual void processEvents() = 0;
   /// Runs the task on this thread, after what is running now.
   virtual void runLater(std::function<void()> task) = 0;
+  /// As above, once so much time has passed, also while a modal form or a dialog is open.
+  virtual void runAfter(std::chrono::milliseconds wait, std::function<void()> task) = 0;
 
   virtual void setMousePointer(MousePointer pointer) = 0;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 #include "forms/Text.h"
 
@@ -52,6 +53,20 @@ void HeadlessDesktop::processEvents() {
     tasks_.pop_front();
     task();
   }
+}
+
+void HeadlessDesktop::runAfter(std::chrono::milliseconds wait, std::function<void()> task) {
+  timed_.emplace(now_ + wait, std::move(task));
+}
+
+void HeadlessDesktop::pass(std::chrono::milliseconds time) {
+  const auto end = now_ + time;
+  while (!timed_.empty() && timed_.begin()->first <= end) {
+    const auto due = timed_.extract(timed_.begin());
+    now_ = due.key();
+    due.mapped()();
+  }
+  now_ = end;
 }
 
 Size HeadlessDesktop::textSize(const std::string& text, const Font& font, Twips width) const {

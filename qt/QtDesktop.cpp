@@ -1,5 +1,6 @@
 #include "qt/QtDesktop.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtGui/QFontMetrics>
 #include <QtGui/QScreen>
@@ -47,6 +48,17 @@ QPalette darkPalette() {
     palette.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
   }
   return palette;
+}
+
+/// A task that the event loop runs, which no error may leave.
+std::function<void()> guarded(std::function<void()> task) {
+  return [task = std::move(task)] {
+    try {
+      task();
+    } catch (const forms::Error& error) {
+      forms::reportHandlerError(error);
+    }
+  };
 }
 
 /// Boxes and dialogs are answered with the arrow, also while the program is busy.
@@ -166,14 +178,12 @@ void QtDesktop::processEvents() {
 }
 
 void QtDesktop::runLater(std::function<void()> task) {
-  const auto guarded = [task = std::move(task)] {
-    try {
-      task();
-    } catch (const forms::Error& error) {
-      forms::reportHandlerError(error);
-    }
-  };
-  QMetaObject::invokeMethod(parts_->application.get(), guarded, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(parts_->application.get(), guarded(std::move(task)),
+                            Qt::QueuedConnection);
+}
+
+void QtDesktop::runAfter(std::chrono::milliseconds wait, std::function<void()> task) {
+  QTimer::singleShot(wait, parts_->application.get(), guarded(std::move(task)));
 }
 
 void QtDesktop::setMousePointer(forms::MousePointer pointer) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -49,6 +50,7 @@ class QtDesktop : public forms::Desktop {
   void copyText(const std::string& text) override;
   void processEvents() override;
   void runLater(std::function<void()> task) override;
+  void runAfter(std::chrono::milliseconds wait, std::function<void()> task) override;
   void setMousePointer(forms::MousePointer pointer) override;
   forms::Size textSize(const std::string& text, const forms::Font& font,
                        forms::Twips width) const override;

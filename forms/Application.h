@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/Desktop.h"
+#include "forms/Event.h"
 #include "forms/MessageBox.h"
 #include "forms/Picture.h"
 
@@ -73,6 +74,9 @@ class Application {
   void endLocal() {
     const auto place = locals_.extract(typeid(T));
   }
+
+  /// A user has acted on a form, whatever came of it.
+  Event<> acted;
 
   void processEvents() { desktop_.processEvents(); }
   void runLater(std::function<void()> task) { desktop_.runLater(std::move(task)); }

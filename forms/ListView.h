@@ -48,6 +48,8 @@ class ListView : public Control {
 
   bool isEditing() const { return editing_; }
   bool hasOpenEdit() const override { return editing_ && editedText_ != text(selected_, 0); }
+  /// What stands in the open editor.
+  const std::string& editedText() const { return editedText_; }
   /// Opens the editor of the selected row's label, also where a user can't. Nothing happens without
   /// a selected row.
   void startLabelEdit();
@@ -71,7 +73,6 @@ class ListView : public Control {
 
   void userSelect(std::int32_t row);
   void userDoubleClick(std::int32_t row);
-  /// What stands in the open editor.
   void userEditLabel(const std::string& text) { editedText_ = text; }
   void userEndLabelEdit(bool accept);
   bool userKey(const KeyDown& key) override;

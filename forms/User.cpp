@@ -10,6 +10,7 @@
 #include "forms/Label.h"
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
+#include "forms/OpenEdit.h"
 #include "forms/OptionButton.h"
 #include "forms/TabStrip.h"
 #include "forms/Text.h"
@@ -63,6 +64,7 @@ void User::check(const Control& control) const {
 /// the act closed leaves the form below it to the act that opened the dialog.
 void User::settle(Form* form) {
   if (form && form == application_.activeForm()) form->focus().settle();
+  application_.acted.raise();
 }
 
 /// False when a validation kept the focus. A wrong value keeps nobody from a cancel button.
@@ -253,7 +255,10 @@ void User::editLabel(ListView& list, std::int32_t row, const std::string& text) 
   settle(form);
 }
 
-void User::labelText(ListView& list, const std::string& text) { list.userEditLabel(text); }
+void User::labelText(ListView& list, const std::string& text) {
+  list.userEditLabel(text);
+  application_.acted.raise();
+}
 
 void User::endLabelEdit(ListView& list, bool accept) {
   Form* form = list.form();
@@ -284,6 +289,20 @@ void User::choose(ToolBar& toolBar, const std::string& tag) {
   }
   if (reach(toolBar)) toolBar.userChoose(tag);
   settle(form);
+}
+
+void User::resume(Form& form, const OpenEdit& edit) {
+  Control* control = controlAt(form, edit.control);
+  if (!control || !control->isUsable() || &form != application_.activeForm()) return;
+  if (auto* box = dynamic_cast<TextBox*>(control)) {
+    this->edit(*box, edit.text, length(edit.text));
+    return;
+  }
+  auto* list = dynamic_cast<ListView*>(control);
+  if (!list || edit.row < 0 || edit.row >= list->rowCount()) return;
+  select(*list, edit.row);
+  list->startLabelEdit();
+  labelText(*list, edit.text);
 }
 
 bool User::close(Form& form) {

@@ -16,6 +16,7 @@ class ListView;
 class TabStrip;
 class TextBox;
 class ToolBar;
+struct OpenEdit;
 
 /// What a person would have been refused: the control is hidden or disabled, or its form lies
 /// behind another one.
@@ -81,6 +82,9 @@ class User {
   void select(TabStrip& strip, std::int16_t page);
   /// Raises Refused when the menu has no enabled entry with the tag.
   void choose(ToolBar& toolBar, const std::string& tag);
+
+  /// Begins a change anew that was open before. What is out of reach now is passed over.
+  void resume(Form& form, const OpenEdit& edit);
 
   /// The close box of a form. False when the form stays.
   bool close(Form& form);

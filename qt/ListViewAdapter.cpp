@@ -153,7 +153,7 @@ void ListViewAdapter::openEditor() {
   QTreeWidgetItem* item = tree_->topLevelItem(list_.selectedRow());
   QRect place = tree_->visualItemRect(item);
   place.setWidth(std::max(leastEditorWidth, tree_->columnWidth(0) - place.left()));
-  editor_ = new QLineEdit(toQt(list_.text(list_.selectedRow(), 0)), tree_->viewport());
+  editor_ = new QLineEdit(toQt(list_.editedText()), tree_->viewport());
   editor_->setGeometry(place);
   editor_->setAccessibleName(
       toQt(list_.columns().empty() ? list_.name() : list_.columns().front()));

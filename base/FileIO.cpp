@@ -120,6 +120,16 @@ void removeFile(const fs::path& file) {
   flushFolder(file.parent_path());
 }
 
+fs::path placeAside(const fs::path& file) {
+  const std::string name = file.string() + ".unreadable";
+  fs::path place = name;
+  std::error_code error;
+  for (int number = 2; fs::exists(fs::symlink_status(place, error)); ++number) {
+    place = name + "-" + std::to_string(number);
+  }
+  return place;
+}
+
 void replaceFile(const fs::path& named, std::string_view content) {
   const fs::path file = behindLinks(named);
   std::error_code ignored;

@@ -25,6 +25,9 @@ void replaceFile(const std::filesystem::path& file, std::string_view content);
 /// Removes a file, if it is there. Raises FileError with the file and the reason.
 void removeFile(const std::filesystem::path& file);
 
+/// Where a file that can't be read is moved to, beside it and under a name that is free.
+std::filesystem::path placeAside(const std::filesystem::path& file);
+
 /// Whether the two paths lead to one file, which need not be there.
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
 

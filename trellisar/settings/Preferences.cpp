@@ -67,14 +67,6 @@ bool isThere(const fs::path& file) {
   return fs::exists(fs::symlink_status(file, error));
 }
 
-/// Beside the file, under a name that is free.
-fs::path placeAside(const fs::path& file) {
-  const std::string name = file.string() + ".unreadable";
-  fs::path place = name;
-  for (int number = 2; isThere(place); ++number) place = name + "-" + std::to_string(number);
-  return place;
-}
-
 bool contains(const AddressBook& book, const NamedAddress& receiver) {
   return std::find(book.receivers.begin(), book.receivers.end(), receiver) != book.receivers.end();
 }
@@ -160,7 +152,7 @@ Preferences::Kept Preferences::readOrMoveAside() {
   try {
     return read(file_);
   } catch (const base::Error& error) {
-    const fs::path aside = placeAside(file_);
+    const fs::path aside = base::placeAside(file_);
     std::error_code failure;
     fs::rename(file_, aside, failure);
     if (failure) throw;

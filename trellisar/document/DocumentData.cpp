@@ -28,6 +28,15 @@ host::StandardCommand* DeviceData::findStandardCommand(std::int16_t standardId) 
   return nullptr;
 }
 
+void DocumentData::putSettings(const std::string& title, const std::string& text) {
+  for (auto& [titleThere, textThere] : settings) {
+    if (titleThere != title) continue;
+    textThere = text;
+    return;
+  }
+  settings.emplace_back(title, text);
+}
+
 void DocumentData::markStructureChanged() {
   isModified = true;
   programIsCurrent = false;

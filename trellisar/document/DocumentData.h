@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -144,6 +145,7 @@ class DocumentData {
   std::vector<std::shared_ptr<PresetData>> presets;  // the named ones
   std::string lastError;
   bool isClosed = false;
+  std::function<void()> whenSaved;  // nothing: nobody waits for it
 
   /// Lets other programs see that a person has the document's own file open.
   void showInUse() { use = std::make_shared<base::FileUse>(ownFile, base::FileUse::Kind::shared); }
@@ -151,6 +153,9 @@ class DocumentData {
   void note(const std::string& call) const {
     if (journal) journal->note(call);
   }
+
+  /// The settings text of an add-in takes the place of its former one.
+  void putSettings(const std::string& title, const std::string& text);
 
   /// A device or interface was added, removed, replaced or chosen, a module added, or the control
   /// system changed.

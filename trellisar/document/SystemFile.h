@@ -15,6 +15,11 @@ namespace trellisar {
 DocumentPtr readSystemFile(const std::filesystem::path& file,
                            const std::shared_ptr<const DeviceLibrary>& library);
 
+/// As above for the text of one, which `shown` names in errors. The system has neither a file nor a
+/// folder, and the name that stands there.
+DocumentPtr readSystemText(const std::string& text, const std::string& shown,
+                           const std::shared_ptr<const DeviceLibrary>& library);
+
 /// The text that stands in a system's file. The same system gives the same text.
 std::string systemFileText(const DocumentData& document);
 

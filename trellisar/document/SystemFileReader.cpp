@@ -344,14 +344,21 @@ std::string systemName(const fs::path& file, const std::string& stored) {
 
 }  // namespace
 
-DocumentPtr readSystemFile(const fs::path& file,
+DocumentPtr readSystemText(const std::string& text, const std::string& shown,
                            const std::shared_ptr<const DeviceLibrary>& library) {
   return raisingHostErrors([&] {
-    const std::string shown = file.filename().string();
-    const std::string text = base::readFile(file);
     const base::Json json = base::parseJson(text, shown);
     auto document = std::make_shared<DocumentData>(library);
     Loader(*document, json, shown).load();
+    return document;
+  });
+}
+
+DocumentPtr readSystemFile(const fs::path& file,
+                           const std::shared_ptr<const DeviceLibrary>& library) {
+  return raisingHostErrors([&] {
+    const std::string text = base::readFile(file);
+    const DocumentPtr document = readSystemText(text, file.filename().string(), library);
     document->name = systemName(file, document->name);
     document->ownFile = fs::absolute(file).lexically_normal();
     document->ownDigest = base::Digest::of(text);

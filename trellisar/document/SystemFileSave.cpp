@@ -79,6 +79,7 @@ void saveSystemFile(DocumentData& document, const std::string& path, Overwriting
   document.ownFile = file;
   if (document.use) document.showInUse();
   document.ownDigest = base::Digest::of(text);
+  if (document.whenSaved) document.whenSaved();
 }
 
 }  // namespace trellisar

@@ -24,13 +24,7 @@ class SystemInfoObject : public host::SystemInfo {
   }
 
   void SetAddInAttributes(const std::string& strTitle, const std::string& strText) override {
-    for (auto& [title, text] : document_->settings) {
-      if (title == strTitle) {
-        text = strText;
-        return;
-      }
-    }
-    document_->settings.emplace_back(strTitle, strText);
+    document_->putSettings(strTitle, strText);
   }
 
   std::string get_SystemName() const override { return document_->name; }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,7 @@
 #include "host/Numbers.h"
 #include "host/ProgramGuide.h"
 #include "host/UIManager.h"
+#include "host/UnsavedWork.h"
 
 namespace addin {
 
@@ -28,6 +30,7 @@ namespace addin {
 /// on the same object.
 class IAddIn : public host::IAddInContract,
                public host::ProgramGuide,
+               public host::UnsavedWork,
                public std::enable_shared_from_this<IAddIn> {
  public:
   IAddIn();
@@ -59,6 +62,12 @@ class IAddIn : public host::IAddInContract,
   // What the host asks when the program has a fault: ProgramPages.cpp.
   std::string PageOf(const host::ProgramPlace& place) const override;
   void ShowPageOf(const host::ProgramPlace& place) override;
+
+  // What the host keeps for the case that the program ends before a save: Unsaved.cpp.
+  host::UnsavedAnswers GetUnsavedAnswers() const override;
+  void Resume(const host::Whereabouts& whereabouts) override { m_resumed = whereabouts; }
+  /// The window has its system: it goes on where the user was, where there is such a place.
+  void ResumeInWindow();
 
   std::string GetVersion() const { return "3.06.09"; }
   std::string GetDescription() const;
@@ -266,6 +275,8 @@ class IAddIn : public host::IAddInContract,
   std::int16_t m_iPreviewImage = previewProduct;
   bool m_bFolderChecksOK = false;
   std::vector<std::string> m_colTriedFolders;  // those that were made, the outer before the inner
+
+  std::optional<host::Whereabouts> m_resumed;  // until the window has gone on there
 
   StoredSettings m_settings;
 

@@ -6,6 +6,7 @@
 #include "forms/Form.h"
 #include "forms/Object.h"
 #include "forms/UserControl.h"
+#include "host/UnsavedWork.h"
 
 namespace addin {
 
@@ -28,6 +29,11 @@ class WizardWindow : public forms::Object {
   virtual bool HasOpenEdit() const = 0;
   /// Gives such an edit to its step, with all messages, as if the user had gone to the save button.
   virtual void TakeOpenEdit() = 0;
+
+  /// Adds what the steps hold that a save would store, where the user is, and such an edit.
+  virtual void TellUnsaved(host::UnsavedAnswers& unsaved) const = 0;
+  /// Gives the steps back what they told, and goes on where the user was.
+  virtual void ResumeWork(const host::Whereabouts& whereabouts) = 0;
 
   /// Goes to a step, which counts from 0, as a click on its name does.
   virtual void ShowStep(std::int16_t iStep) = 0;

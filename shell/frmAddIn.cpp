@@ -7,6 +7,8 @@
 #include "common/CommonFunctions.h"
 #include "common/modHTMLHelp.h"
 #include "forms/Application.h"
+#include "forms/OpenEdit.h"
+#include "forms/User.h"
 #include "host/Numbers.h"
 #include "host/iTab.h"
 
@@ -165,6 +167,7 @@ bool frmAddIn::StartWizard() {
   SetStepsData();
   ShowSteps(true);
   m_bActivated = true;
+  gAddIn().ResumeInWindow();
   return true;
 }
 
@@ -188,6 +191,25 @@ void frmAddIn::ShowSteps(bool bShow) {
 bool frmAddIn::HasOpenEdit() const {
   const forms::Control* oControl = focus().control();
   return oControl && oControl->hasOpenEdit();
+}
+
+/// Most steps store at once what they are told, and hold nothing.
+void frmAddIn::TellUnsaved(host::UnsavedAnswers& unsaved) const {
+  unsaved.whereabouts.iPage = m_iCurrentTab;
+  unsaved.whereabouts.edit = forms::openEditOf(*this);
+  for (forms::UserControl* extStep : m_colSteps) {
+    forms::ignoringErrors([&] { extStep->call<host::UnsavedAnswers&>("TellUnsaved", unsaved); });
+  }
+}
+
+void frmAddIn::ResumeWork(const host::Whereabouts& whereabouts) {
+  const std::int16_t iPage = whereabouts.iPage;
+  if (iPage != m_iCurrentTab && iPage <= LastTab()) ShowStep(iPage);
+  for (forms::UserControl* extStep : m_colSteps) {
+    forms::ignoringErrors(
+        [&] { extStep->call<const host::Whereabouts&>("ResumeUnsaved", whereabouts); });
+  }
+  forms::User(App()).resume(*this, whereabouts.edit);
 }
 
 bool frmAddIn::SaveData() {
@@ -275,6 +297,7 @@ void frmAddIn::cmdFolder_Click() {
   lblSaved.setCaption("");
   ctlTabs.SetCurrentTab(0);
   SetStepsData();
+  gAddIn().ResumeInWindow();
 }
 
 void frmAddIn::cmdFinish_Click() {

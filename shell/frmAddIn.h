@@ -29,6 +29,8 @@ class frmAddIn : public forms::Form, public addin::WizardWindow {
   const std::vector<forms::UserControl*>& GetControls() const override { return m_colSteps; }
   bool HasOpenEdit() const override;
   void TakeOpenEdit() override { focus().moveByUser(cmdSave); }
+  void TellUnsaved(host::UnsavedAnswers& unsaved) const override;
+  void ResumeWork(const host::Whereabouts& whereabouts) override;
   void ShowStep(std::int16_t iStep) override { ctlTabs.SetCurrentTab(iStep); }
   bool SaveData() override;
 

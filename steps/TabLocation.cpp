@@ -10,6 +10,7 @@
 #include "forms/Rows.h"
 #include "forms/Text.h"
 #include "host/Numbers.h"
+#include "host/UnsavedWork.h"
 
 namespace steps {
 namespace {
@@ -47,6 +48,10 @@ TabLocation::TabLocation(forms::Container& container, std::string strName)
   offer("SetData", [this] { SetData(); });
   offer<bool&>("BeforeTabChange", [this](bool& bCancel) { BeforeTabChange(bCancel); });
   offer("OtherTabClicked", [this] { OtherTabClicked(); });
+  offer<host::UnsavedAnswers&>("TellUnsaved", [this](host::UnsavedAnswers& unsaved) {
+    unsaved.strPath = AddBackslash(m_strLocation);
+    unsaved.strName = NameToSave();
+  });
   LayOut();
 }
 
@@ -111,10 +116,14 @@ bool TabLocation::CheckName() {
 bool TabLocation::iTab_SaveData() {
   if (!addin::IsDocumentSet()) return false;
   gDocument().put_Path(AddBackslash(m_strLocation));
-  if (!forms::equalsIgnoringCase(gDocument().get_Name(), TrimmedName())) {
-    gDocument().put_Name(TrimmedName());
-  }
+  gDocument().put_Name(NameToSave());
   return false;
+}
+
+/// One that differs in case alone keeps the spelling that it has.
+std::string TabLocation::NameToSave() const {
+  const std::string strName = gDocument().get_Name();
+  return forms::equalsIgnoringCase(strName, TrimmedName()) ? strName : TrimmedName();
 }
 
 void TabLocation::txtSystemName_KeyPress(forms::KeyPress& key) {

@@ -39,6 +39,7 @@ class TabLocation : public WizardStep {
   void PutLocation(const std::string& strFolder, const std::string& strParent);
   void MoveRegistrationIfFolderChanged();
   std::string TrimmedName() const;
+  std::string NameToSave() const;
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " Name && Location"};

@@ -69,6 +69,8 @@ void TabOrigination::ConnectEvents() {
   chkUse3OLReceiver.click.connect([this] { chkUse3OLReceiver_Click(); });
   offer("SetData", [this] { SetData(); });
   offer("OtherTabClicked", [this] { OtherTabClicked(); });
+  KeepsUnsaved([this] { return GetUnsaved(); },
+               [this](const UnsavedTexts& colTexts) { ResumeUnsaved(colTexts); });
 }
 
 void TabOrigination::SetTabStops(bool bValue) {
@@ -273,6 +275,30 @@ bool TabOrigination::iTab_SaveData() {
   SaveOriginationPoints();
   gAddIn().put_bUse3OLReceiver(chkUse3OLReceiver.value());
   return true;
+}
+
+/// The tick, and then label and type of each row.
+TabOrigination::UnsavedTexts TabOrigination::GetUnsaved() const {
+  UnsavedTexts colTexts{Tick(chkUse3OLReceiver)};
+  for (std::int32_t lRow = 0; lRow < lvwTransmitters.rowCount(); ++lRow) {
+    colTexts.push_back(lvwTransmitters.text(lRow, lLabelColumn));
+    colTexts.push_back(lvwTransmitters.text(lRow, lTypeColumn));
+  }
+  return colTexts;
+}
+
+void TabOrigination::ResumeUnsaved(const UnsavedTexts& colTexts) {
+  {
+    const forms::Guard loading(m_bLoading);
+    PutTick(chkUse3OLReceiver, colTexts.front());
+  }
+  lvwTransmitters.clear();
+  for (std::size_t i = 1; i + 1 < colTexts.size() && lvwTransmitters.rowCount() < lPorts; i += 2) {
+    AddRow(colTexts[i], colTexts[i + 1]);
+  }
+  SelectFirstRow();
+  UpdateButtons();
+  UpdateReceiverText();
 }
 
 void TabOrigination::SaveOriginationPoints() {

@@ -56,6 +56,8 @@ class TabOrigination : public WizardStep {
   void RenumberRow(std::int32_t lRow);
   void SavePort(std::int16_t iPort) const;
   void SaveReceiver() const;
+  UnsavedTexts GetUnsaved() const;
+  void ResumeUnsaved(const UnsavedTexts& colTexts);
   void ShowPictureOf(const std::string& strType);
   /// The transmitter type of this name, whatever its case; nothing when the library has none.
   static std::shared_ptr<host::LibraryDevice> FindType(const std::string& strName);

@@ -74,6 +74,8 @@ void TabRoomOptions::ConnectEvents() {
   offer("SetData", [this] { SetData(); });
   offer<bool&>("BeforeTabChange", [this](bool& bCancel) { BeforeTabChange(bCancel); });
   offer("OtherTabClicked", [this] { OtherTabClicked(); });
+  KeepsUnsaved([this] { return GetUnsaved(); },
+               [this](const UnsavedTexts& colTexts) { ResumeUnsaved(colTexts); });
 }
 
 void TabRoomOptions::SetTabStops(bool bValue) {
@@ -283,6 +285,23 @@ void TabRoomOptions::lblKestrum_Click() {
 void TabRoomOptions::OtherTabClicked() {
   SetTabStops(false);
   ValidateBoxes();
+}
+
+/// The boxes that are written when the page is left.
+TabRoomOptions::UnsavedTexts TabRoomOptions::GetUnsaved() const {
+  if (!isShown()) return {};
+  return {Tick(chkEnablePwd), txtFenletPassword.text(), Tick(chkPowerTimeout),
+          txtPowerOffTimeout.text()};
+}
+
+void TabRoomOptions::ResumeUnsaved(const UnsavedTexts& colTexts) {
+  if (colTexts.size() != 4) return;
+  const forms::Guard loading(m_bLoading);
+  PutTick(chkEnablePwd, colTexts[0]);
+  EnablePassword(chkEnablePwd.isChecked() && chkInclude(iFenlet).isChecked());
+  txtFenletPassword.setText(colTexts[1]);
+  PutTick(chkPowerTimeout, colTexts[2]);
+  txtPowerOffTimeout.setText(colTexts[3]);
 }
 
 void TabRoomOptions::ValidateBoxes() {

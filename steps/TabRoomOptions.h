@@ -56,6 +56,8 @@ class TabRoomOptions : public WizardStep {
   void EnablePassword(bool bEnabled);
   void EnableTimeout(bool bEnabled);
   void EnableOccupancyOptions(bool bEnabled);
+  UnsavedTexts GetUnsaved() const;
+  void ResumeUnsaved(const UnsavedTexts& colTexts);
   void ValidateBoxes();
   static void ApplyTimeout();
   void LayOut();

@@ -5,6 +5,7 @@
 #include "forms/Application.h"
 #include "forms/Rows.h"
 #include "forms/Text.h"
+#include "host/UnsavedWork.h"
 
 namespace steps {
 
@@ -41,6 +42,21 @@ void WizardStep::OnEnter(forms::TextBox& box, const std::function<void()>& actio
   box.keyDown.connect([action](forms::KeyDown& key) {
     if (key.code == forms::keys::enter) action();
   });
+}
+
+void WizardStep::KeepsUnsaved(std::function<UnsavedTexts()> Get,
+                              std::function<void(const UnsavedTexts&)> Resume) {
+  offer<host::UnsavedAnswers&>("TellUnsaved", [this, Get](host::UnsavedAnswers& unsaved) {
+    if (auto colTexts = Get(); !colTexts.empty()) {
+      unsaved.whereabouts.colOnPages[m_strTabName] = std::move(colTexts);
+    }
+  });
+  offer<const host::Whereabouts&>("ResumeUnsaved",
+                                  [this, Resume](const host::Whereabouts& whereabouts) {
+                                    const auto found = whereabouts.colOnPages.find(m_strTabName);
+                                    const bool bTold = found != whereabouts.colOnPages.end();
+                                    if (bTold && !found->second.empty()) Resume(found->second);
+                                  });
 }
 
 void WizardStep::Inform(const std::string& strText) {

@@ -4,7 +4,9 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "forms/CheckBox.h"
 #include "forms/Geometry.h"
 #include "forms/Label.h"
 #include "forms/Picture.h"
@@ -40,6 +42,16 @@ class WizardStep : public forms::UserControl, public host::iTab {
   static void OnEnter(forms::TextBox& box, const std::function<void()>& action);
 
  protected:
+  /// What a step holds that is stored only later, in texts of its own.
+  using UnsavedTexts = std::vector<std::string>;
+  /// For a step that holds any: how it tells it, empty for none, and takes it again.
+  void KeepsUnsaved(std::function<UnsavedTexts()> Get,
+                    std::function<void(const UnsavedTexts&)> Resume);
+  static std::string Tick(const forms::CheckBox& box) { return box.isChecked() ? "1" : "0"; }
+  static void PutTick(forms::CheckBox& box, const std::string& strTick) {
+    box.setChecked(strTick == "1");
+  }
+
   /// The heading at the top of a page.
   static void MakeBanner(forms::Label& lblBanner);
   /// The heading of the first and the last page, which is the add-in's title.

@@ -24,19 +24,22 @@ namespace fs = std::filesystem;
   std::_Exit(exitStatus::wrongInput);
 }
 
+fs::path settingsFolder() { return trellisar::Preferences::usualFile().parent_path(); }
+
 /// What a window of the program stands on. How the windows are left is kept beside the preferences.
 struct Stage {
   explicit Stage(forms::FrontEnd& frontEnd)
-      : desktop(frontEnd.makeDesktop(
-            {.memory = trellisar::Preferences::usualFile().parent_path() / "windows.ini",
-             .formShown = [this] { hadSystem = hadSystem || host.document(); },
-             .noDisplay = endWithoutDisplay})) {}
+      : desktop(
+            frontEnd.makeDesktop({.memory = settingsFolder() / "windows.ini",
+                                  .formShown = [this] { hadSystem = hadSystem || host.document(); },
+                                  .noDisplay = endWithoutDisplay})) {}
 
   bool hadSystem = false;  // whether one was open when a form had been shown
   std::unique_ptr<forms::Desktop> desktop;
   forms::Application application{*desktop, forms::fromMachinePath(dataFolder())};
   trellisar::Host host{{.dataFolder = dataFolder(),
                         .preferencesFile = trellisar::Preferences::usualFile(),
+                        .recovery = {.folder = settingsFolder() / "recovery"},
                         .printer = reportPrinter()}};
 };
 
@@ -87,6 +90,8 @@ int openWizard(const std::optional<fs::path>& systemFile) {
     const bool isOpen = isThere(*systemFile) && stage.host.mainWindow()->FileOpen(
                                                     wholePath(*systemFile), /*bUseRecovery=*/true);
     if (!isOpen) return exitStatus::refused;
+    addIn.runOnOpenSystem();
+  } else if (stage.host.mainWindow()->offerUnsaved()) {
     addIn.runOnOpenSystem();
   } else {
     addIn.runOnNewSystem();

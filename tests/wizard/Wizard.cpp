@@ -32,10 +32,11 @@ std::int32_t rowOf(const forms::ListView& list, const std::string& text) {
 
 }  // namespace
 
-Wizard::Wizard() : application(desktop, forms::fromMachinePath(dataFolder())) {
+Wizard::Wizard(trellisar::RecoveryOptions recovery)
+    : application(desktop, forms::fromMachinePath(dataFolder())) {
   setenv("TRELLISAR_SYSTEMS", systems_.path().c_str(), 1);
   host = std::make_unique<trellisar::Host>(trellisar::HostOptions{
-      .dataFolder = dataFolder(), .library = shippedLibrary(), .preferencesFile = {}});
+      .dataFolder = dataFolder(), .library = shippedLibrary(), .recovery = std::move(recovery)});
   addIn = createAddIn();
   load(nullptr);
 }
@@ -44,6 +45,10 @@ Wizard::~Wizard() = default;
 
 void Wizard::givenOpenSystem(const std::filesystem::path& file) {
   host->mainWindow()->FileOpen(forms::fromMachinePath(file), false);
+  givenOpenDocument();
+}
+
+void Wizard::givenOpenDocument() {
   load(host->document());
   addIn->IAddInContract_UseOpenFile(true);
 }
@@ -63,7 +68,9 @@ void Wizard::run(const std::function<void()>& script) {
     }
     window_ = nullptr;
   });
+  host->mainWindow()->setUnsavedWork(addIn.get());
   addIn->IAddInContract_Run(host->mainWindow());
+  host->mainWindow()->setUnsavedWork(nullptr);
 }
 
 forms::UserControl& Wizard::step(const std::string& name) const {

@@ -25,9 +25,11 @@ namespace tests {
 ///     });
 class Wizard {
  public:
-  Wizard();
+  explicit Wizard(trellisar::RecoveryOptions recovery = {});
   ~Wizard();
 
+  /// Has the wizard work on the system that the host has open.
+  void givenOpenDocument();
   /// Opens a system in the host and has the wizard work on it.
   void givenOpenSystem(const std::filesystem::path& file);
 

@@ -13,5 +13,6 @@ inline constexpr std::int16_t documentation = 904;
 inline constexpr std::int16_t preferences = 905;
 inline constexpr std::int16_t audioSettings = 906;
 inline constexpr std::int16_t comparison = 907;
+inline constexpr std::int16_t unsavedSystem = 908;
 
 }  // namespace trellisar::help

@@ -51,14 +51,13 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
     if (forms::lowerCase(path).ends_with(archiveExtension)) file = unpack(file);
     bCancelled = file.empty();
     if (bCancelled) return nullptr;
+    if (bUseRecovery && offerUnsavedOf(file)) return session_->document;
     const DocumentPtr data = readSystemFile(file, session_->library);
-    data->journal = session_->journal;
-    data->panelSource = session_->panelSource;
     forgetMissingProgram(*data, file.parent_path());
     // A template is where systems come from and never where one is saved to without a question.
     if (!bUseRecovery) data->ownFile.clear();
-    if (session_->document) session_->document->Close();
-    session_->document = std::make_shared<Document>(data);
+    openDocument(data);
+    session_->recovery->begin(data);
     if (bUseRecovery) session_->preferences.remember(forms::fromMachinePath(file));
     if (bUseRecovery && session_->isBeforePerson()) data->showInUse();
     return session_->document;
@@ -68,6 +67,14 @@ std::shared_ptr<host::Document> MainWindowOperations::FileOpen(const std::string
         forms::Icon::critical);
     return nullptr;
   }
+}
+
+void MainWindowOperations::openDocument(const DocumentPtr& data) {
+  data->journal = session_->journal;
+  data->panelSource = session_->panelSource;
+  session_->recovery->end();
+  if (session_->document) session_->document->Close();
+  session_->document = std::make_shared<Document>(data);
 }
 
 std::optional<Overwriting> MainWindowOperations::mayOverwrite(const fs::path& file) const {
@@ -118,10 +125,14 @@ bool MainWindowOperations::FileSaveAs(const std::string& strFile,
   try {
     const std::string path = withSystemExtension(strFile);
     const std::optional<Overwriting> overwriting = mayOverwrite(forms::toMachinePath(path));
-    if (!overwriting || !mayReplaceProgram(forms::toMachinePath(path))) return false;
+    if (!overwriting || !mayReplaceProgram(forms::toMachinePath(path))) {
+      session_->recovery->saveFailed();
+      return false;
+    }
     raisingHostErrors([&] { save(path, strApplication, *overwriting); });
     return true;
   } catch (const host::Error& error) {
+    session_->recovery->saveFailed();
     forms::Application::current().messageBox(
         "The system could not be saved.\r\n\r\n" + error.description(), forms::Buttons::ok,
         forms::Icon::critical);
@@ -131,6 +142,7 @@ bool MainWindowOperations::FileSaveAs(const std::string& strFile,
 
 void MainWindowOperations::DestroyDoc() {
   note("DestroyDoc");
+  session_->recovery->end();
   if (session_->document) session_->document->Close();
   session_->document = nullptr;
   session_->openSystems.clear();

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@
 namespace trellisar {
 
 class UIManagerObject;
+struct UnsavedSystem;
 
 /// The operations of the host's main window. Messages and dialogs go to the thread's
 /// forms::Application.
@@ -25,6 +27,13 @@ class MainWindowOperations : public host::OwnerForm {
 
   /// The add-in that is running, where it can tell its pages; null: nobody can.
   void setGuide(host::ProgramGuide* guide) { guide_ = guide; }
+  /// The same, where it can tell what it has not stored yet.
+  void setUnsavedWork(host::UnsavedWork* work) { session_->recovery->setWork(work); }
+
+  bool keepsUnsaved() const { return !session_->recovery->options().folder.empty(); }
+  /// Offers, one after the other, what programs that run no longer left unsaved, but what the user
+  /// has put off. True: he has had one restored, which is the open system.
+  bool offerUnsaved();
 
   using host::OwnerForm::FileOpen;
 
@@ -68,6 +77,11 @@ class MainWindowOperations : public host::OwnerForm {
   void ShowAddressBook(std::int32_t hwnd) override;
 
  private:
+  bool offerUnsavedOf(const std::filesystem::path& file);
+  bool offer(const std::shared_ptr<RecoverySlot>& slot, const std::filesystem::path& ownFile);
+  bool restore(const std::shared_ptr<RecoverySlot>& slot, const UnsavedSystem& unsaved);
+  /// Makes it the open system, in the place of one that is open.
+  void openDocument(const DocumentPtr& data);
   void note(const std::string& call) const { session_->journal->note(call); }
   std::string chooseFile() const;
   /// Asks where the system of an archive goes, and answers its file; empty: the user cancelled.
@@ -82,6 +96,7 @@ class MainWindowOperations : public host::OwnerForm {
   std::int16_t chooseDevice(host::DeviceDialogArguments& arguments, const DefinitionPtr& chosen);
 
   std::shared_ptr<Session> session_;
+  std::set<std::filesystem::path> putOff_;  // recovery files
   forms::Form* form_ = nullptr;
   host::ProgramGuide* guide_ = nullptr;
   std::shared_ptr<UIManagerObject> uiManager_;  // made when it is first asked for

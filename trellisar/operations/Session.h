@@ -12,6 +12,7 @@
 #include "trellisar/objects/Document.h"
 #include "trellisar/objects/LibraryObjects.h"
 #include "trellisar/panels/PanelState.h"
+#include "trellisar/recovery/RecoveryKeeper.h"
 #include "trellisar/reports/ReportPrinter.h"
 #include "trellisar/settings/Preferences.h"
 
@@ -32,6 +33,7 @@ struct Session {
   Preferences preferences;
   std::weak_ptr<host::CommObject> communication;
   Replacing replacing = Replacing::ask;
+  std::shared_ptr<RecoveryKeeper> recovery;
   ReportPrinter* printer = nullptr;    // outlives the host; nothing: it can't print
   std::filesystem::path exportFile;    // where an export goes; empty: the user is asked
   std::filesystem::path exportedFile;  // the archive that was written last; empty: none

@@ -104,7 +104,11 @@ void run(host::IAddInContract& addIn, Host& host, bool useOpenFile) {
                             host.smallPictures(), host.largePictures(), host.mainWindow());
   addIn.IAddInContract_UseOpenFile(useOpenFile);
   host.mainWindow()->setGuide(dynamic_cast<host::ProgramGuide*>(&addIn));
-  const forms::AtEnd ended([&] { host.mainWindow()->setGuide(nullptr); });
+  host.mainWindow()->setUnsavedWork(dynamic_cast<host::UnsavedWork*>(&addIn));
+  const forms::AtEnd ended([&] {
+    host.mainWindow()->setGuide(nullptr);
+    host.mainWindow()->setUnsavedWork(nullptr);
+  });
   addIn.IAddInContract_Run(host.mainWindow());
 }
 

@@ -36,6 +36,7 @@ Host::Host(const HostOptions& options)
       session_->library, forms::fromMachinePath(dataFolder_ / "pictures"));
   session_->panelSource->templates = dataFolder_ / "PanelTemplates";
   session_->preferences = Preferences(options.preferencesFile, tellPreferences);
+  session_->recovery = std::make_shared<RecoveryKeeper>(options.recovery);
   session_->replacing = options.replacing;
   session_->exportFile = options.exportFile.empty() ? fs::path() : fs::absolute(options.exportFile);
   session_->printer = options.printer;

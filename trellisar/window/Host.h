@@ -20,6 +20,8 @@ struct HostOptions {
   std::shared_ptr<const DeviceLibrary> library = {};
   /// Where the user's preferences are kept; empty: nowhere, and there are none.
   std::filesystem::path preferencesFile = {};
+  /// Where what is not saved is kept; without a folder nowhere.
+  RecoveryOptions recovery = {};
   Replacing replacing = Replacing::ask;
   /// The archive that an export writes, without asking. It replaces a file only with
   /// Replacing::always. Empty: the user chooses.

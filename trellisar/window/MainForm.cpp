@@ -89,8 +89,11 @@ void MainForm::connect() {
 
 void MainForm::run(const std::string& system) {
   hostAgain();
-  if (!system.empty()) {
-    forms::Application::current().runLater([this, system] { open(system); });
+  if (!system.empty() || host_.mainWindow()->keepsUnsaved()) {
+    forms::Application::current().runLater([this, system] {
+      while (host_.mainWindow()->offerUnsaved()) editOpenSystem();
+      if (!system.empty()) open(system);
+    });
   }
   showModal(nullptr);
   unload();

@@ -241,27 +241,58 @@ def walk_wizard(address):
     walk_upload(wizard, address)
 
 
+def walk_recovery(restart):
+    """The program is killed while a name is typed, and offers it when it starts again."""
+    press(window("Trellisar"), "New System...")
+    wizard = window("Orlena")
+    press(wizard, "Next >")
+    type_into(wizard, "System Name:", "Lecture Hall")
+    time.sleep(2)
+    restart()
+    dialog = window("Unsaved System")
+    told = check(dialog)
+    for button in ("Restore", "Discard", "Later"):
+        expect(told, "push button", button)
+    close(dialog, "Restore")
+    name = find(window("Orlena"), "text", "System Name:").queryText().getText(0, -1)
+    if name != "Lecture Hall":
+        failures.append(f'the name that was restored is "{name}"')
+    restart()
+    close(window("Unsaved System"), "Discard")
+
+
 @contextlib.contextmanager
 def running(command):
-    """The program on a display of its own, with no more of the user's than that."""
+    """The program on a display of its own, with no more of the user's than that. What is given kills it and starts it
+    again."""
     folder = tempfile.TemporaryDirectory(prefix="orlena-test-")
     display = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     environment = dict(os.environ, DISPLAY=":" + display.stdout.readline().strip(), QT_QPA_PLATFORM="xcb",
                        QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", XDG_CONFIG_HOME=folder.name,
                        TRELLISAR_SYSTEMS=folder.name + "/systems")
-    program = subprocess.Popen(command, env=environment)
+    programs = []
+
+    def restart():
+        for program in programs:
+            program.kill()
+            program.wait()
+        programs[:] = [subprocess.Popen(command, env=environment)]
+
+    restart()
     try:
-        yield
+        yield restart
     finally:
-        program.kill()
-        program.wait()
+        for program in programs:
+            program.kill()
+            program.wait()
         display.kill()
         display.wait()
 
 
 def main():
-    with running([sys.argv[1]]):
+    with running([sys.argv[1]]) as restart:
+        walk_recovery(restart)
         host = window("Trellisar")
         check(host)
         press(host, "Preferences...")

@@ -26,6 +26,7 @@
 #include "trellisar/compare/Compare.h"
 #include "trellisar/dialogs/ComparisonDialog.h"
 #include "trellisar/document/SystemFile.h"
+#include "trellisar/dialogs/RecoveryDialog.h"
 #include "trellisar/window/AddIns.h"
 #include "trellisar/window/MainForm.h"
 
@@ -344,6 +345,21 @@ void drawComparison(DrawnDesktop& desktop) {
   trellisar::confirmChanges("Orlena EXAMPLE", differences);
 }
 
+/// What is asked about a system that was never saved, and about one whose file has changed.
+void drawRecovery(DrawnDesktop& desktop) {
+  const std::string what =
+      "The room \"Lecture Hall\" was not saved when the program ended at 14:02.";
+  for (const auto& [name, where] :
+       {std::pair{"recovery-new", "It has never been saved."},
+        std::pair{"recovery-changed",
+                  "Its file \"/Rooms/Building 4/Lecture Hall/Lecture "
+                  "Hall.tsy\" has been changed since. A save asks before it replaces it."}}) {
+    trellisar::RecoveryDialog dialog({what, where});
+    desktop.act("RecoveryDialog", [&](forms::Form& form) { desktop.draw(form, name); });
+    dialog.run();
+  }
+}
+
 /// On its way to a receiver that listens and never answers.
 void drawTransfer(DrawnDesktop& desktop, const fs::path& folder) {
   receiver::Server::Options options;
@@ -384,6 +400,7 @@ void drawWindows(const ScreenshotOptions& options) {
   const Walk walk(application, desktop, host);
   drawMainWindow(desktop, host);
   drawComparison(desktop);
+  drawRecovery(desktop);
   drawTransfer(desktop, systems.folder() / "receiver");
   app::AddIn(host).runOnNewSystem();
   if (!desktop.failure().empty()) throw std::runtime_error(desktop.failure());

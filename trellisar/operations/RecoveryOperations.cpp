@@ -66,6 +66,7 @@ bool MainWindowOperations::restore(const std::shared_ptr<RecoverySlot>& slot,
   const DocumentPtr data = documentOf(unsaved, session_->library);
   openDocument(data);
   session_->recovery->resume(data, slot, unsaved.whereabouts);
+  if (!data->ownFile.empty()) data->showInUse();
   return true;
 }
 

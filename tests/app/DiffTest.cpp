@@ -110,5 +110,28 @@ TEST_F(OrlenaDiff, isWhatGitShowsOfARoom) {
   expectHas(renamed.output, "No device, no answer and no step differs.");
 }
 
+TEST_F(OrlenaDiff, showsInARepositoryWhatOneAnswerChanged) {
+  const std::string source = ORLENA_SOURCE_FOLDER;
+  const Outcome made = program.shell(
+      "set -e; export GIT_CONFIG_GLOBAL=/dev/null GIT_CONFIG_SYSTEM=/dev/null; "
+      "mkdir campus; cd campus; git init -q; echo '*.tsy diff=orlena' > .gitattributes; "
+      "git config diff.orlena.command 'orlena git-diff'; "
+      "git config user.name Test; git config user.email test@localhost; "
+      "orlena build " +
+      source +
+      "/examples/*.json --out . > systems.txt; "
+      "while read -r system; do orlena answers \"$system\" > \"${system%.tsy}.json\"; done"
+      " < systems.txt; git add .; git commit -qm Rooms; "
+      "cd 'Lecture Hall'; sed -i 's/\"on\": 60/\"on\": 45/' 'Lecture Hall.json'; "
+      "orlena build 'Lecture Hall.json' --onto 'Lecture Hall.tsy'; "
+      "orlena answers 'Lecture Hall.tsy' | cmp - 'Lecture Hall.json'; "
+      "git --no-pager diff -- '*.tsy'");
+  EXPECT_EQ(made.status, 0) << made.errors;
+  expectHas(made.output,
+            "Lecture Hall.tsy\nAnswers\n    lockout.on (seconds of lockout after power "
+            "on): 60 became 45\n");
+  EXPECT_EQ(made.output.find("Meeting"), std::string::npos) << made.output;
+}
+
 }  // namespace
 }  // namespace app

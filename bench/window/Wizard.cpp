@@ -4,7 +4,7 @@
 
 #include "app/AddIn.h"
 #include "app/Environment.h"
-#include "app/ReportPrinter.h"
+#include "app/PagePrinter.h"
 #include "app/WindowModule.h"
 #include "forms/Application.h"
 #include "forms/Paths.h"

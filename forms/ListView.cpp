@@ -6,15 +6,17 @@ namespace forms {
 
 std::string ListView::shownText() const {
   std::string all;
-  for (const Row& row : rows_) {
+  for (std::int32_t row = 0; row < rowCount(); ++row) {
     if (!all.empty()) all += " / ";
-    for (std::size_t i = 0; i < row.texts.size(); ++i) all += (i ? " | " : "") + row.texts[i];
+    for (std::int32_t i = 0; i < columnCount(row); ++i) all += (i ? " | " : "") + text(row, i);
   }
   return all;
 }
 
 void ListView::setColumns(const std::vector<std::string>& headings) {
-  for (Row& row : rows_) row.texts.resize(std::max(headings.size(), row.texts.size()));
+  if (!textOf_) {
+    for (Row& row : rows_) row.texts.resize(std::max(headings.size(), row.texts.size()));
+  }
   set(columns_, headings);
 }
 
@@ -23,6 +25,14 @@ std::int32_t ListView::addRow(const std::vector<std::string>& texts, std::int32_
   rows_.back().texts.resize(std::max(columns_.size(), texts.size()));
   changed();
   return rowCount() - 1;
+}
+
+void ListView::setRows(const std::vector<std::int32_t>& data, TextOf textOf) {
+  clear();
+  rows_.reserve(data.size());
+  for (const std::int32_t each : data) rows_.push_back({{}, each});
+  textOf_ = std::move(textOf);
+  changed();
 }
 
 void ListView::removeRow(std::int32_t row) {
@@ -35,6 +45,7 @@ void ListView::removeRow(std::int32_t row) {
 
 void ListView::clear() {
   rows_.clear();
+  textOf_ = nullptr;
   selected_ = -1;
   editing_ = false;
   changed();
@@ -48,22 +59,26 @@ const ListView::Row& ListView::rowAt(std::int32_t row) const {
   return rows_[static_cast<std::size_t>(row)];
 }
 
-std::string& ListView::place(std::int32_t row, std::int32_t column) {
-  rowAt(row);
-  auto& texts = rows_[static_cast<std::size_t>(row)].texts;
-  if (column < 0 || column >= static_cast<std::int32_t>(texts.size())) {
+std::int32_t ListView::columnCount(std::int32_t row) const {
+  return static_cast<std::int32_t>(textOf_ ? columns_.size() : rowAt(row).texts.size());
+}
+
+void ListView::requireColumn(std::int32_t row, std::int32_t column) const {
+  if (rowAt(row); column < 0 || column >= columnCount(row)) {
     throw Error(errors::indexOutOfRange,
                 "The list \"" + name() + "\" has no column " + std::to_string(column) + ".");
   }
-  return texts[static_cast<std::size_t>(column)];
 }
 
-const std::string& ListView::text(std::int32_t row, std::int32_t column) const {
-  return const_cast<ListView*>(this)->place(row, column);
+std::string ListView::text(std::int32_t row, std::int32_t column) const {
+  requireColumn(row, column);
+  if (textOf_) return textOf_(rowAt(row).data, column);
+  return rowAt(row).texts[static_cast<std::size_t>(column)];
 }
 
 void ListView::setText(std::int32_t row, std::int32_t column, const std::string& text) {
-  set(place(row, column), text);
+  requireColumn(row, column);
+  set(rows_[static_cast<std::size_t>(row)].texts.at(static_cast<std::size_t>(column)), text);
 }
 
 void ListView::setSelectedRow(std::int32_t row) {
@@ -101,7 +116,7 @@ void ListView::userEndLabelEdit(bool accept) {
     std::string label = editedText_;
     const std::int32_t row = selected_;
     afterLabelEdit.raise(cancel, label);
-    if (!cancel && row < rowCount()) place(row, 0) = label;  // a handler may have removed rows
+    if (!cancel && row < rowCount()) setText(row, 0, label);  // a handler may have removed rows
   }
   changed();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "forms/Control.h"
@@ -32,13 +34,17 @@ class ListView : public Control {
 
   /// Adds a row at the end and answers its number. Missing columns are empty.
   std::int32_t addRow(const std::vector<std::string>& texts, std::int32_t data = 0);
+  /// A row for each number, in the place of all that there are. Their texts are asked for when they
+  /// are looked at, with the number and the column, and can't be set.
+  using TextOf = std::function<std::string(std::int32_t data, std::int32_t column)>;
+  void setRows(const std::vector<std::int32_t>& data, TextOf textOf);
   /// Where the selected row is removed, the one that takes its place is selected, or the new last
   /// one. Like `clear`, it gives up a label edit and raises nothing.
   void removeRow(std::int32_t row);
   void clear();
   std::int32_t rowCount() const { return static_cast<std::int32_t>(rows_.size()); }
   /// Raise Error 9 for a row or column that there is not.
-  const std::string& text(std::int32_t row, std::int32_t column) const;
+  std::string text(std::int32_t row, std::int32_t column) const;
   void setText(std::int32_t row, std::int32_t column, const std::string& text);
   std::int32_t data(std::int32_t row) const { return rowAt(row).data; }
 
@@ -65,11 +71,12 @@ class ListView : public Control {
  private:
   friend class User;
   struct Row {
-    std::vector<std::string> texts;
+    std::vector<std::string> texts;  // of a row that was added
     std::int32_t data;
   };
   const Row& rowAt(std::int32_t row) const;
-  std::string& place(std::int32_t row, std::int32_t column);
+  std::int32_t columnCount(std::int32_t row) const;
+  void requireColumn(std::int32_t row, std::int32_t column) const;
 
   void userSelect(std::int32_t row);
   void userDoubleClick(std::int32_t row);
@@ -80,6 +87,7 @@ class ListView : public Control {
 
   std::vector<std::string> columns_;
   std::vector<Row> rows_;
+  TextOf textOf_;  // of rows that were not added one by one
   std::int32_t selected_ = -1;
   std::int32_t sortedColumn_ = -1;
   bool headings_ = true;

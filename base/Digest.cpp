@@ -33,4 +33,13 @@ std::string Digest::of(std::string_view bytes) {
   return digest.finish();
 }
 
+std::string checksum(std::string_view bytes) {
+  constexpr std::array<unsigned char, crypto_shorthash_siphashx24_KEYBYTES> noKey{};
+  std::array<unsigned char, crypto_shorthash_siphashx24_BYTES> hash{};
+  crypto_shorthash_siphashx24(hash.data(), reinterpret_cast<const unsigned char*>(bytes.data()),
+                              bytes.size(), noKey.data());
+  std::array<char, 2 * crypto_shorthash_siphashx24_BYTES + 1> text{};
+  return sodium_bin2hex(text.data(), text.size(), hash.data(), hash.size());
+}
+
 }  // namespace base

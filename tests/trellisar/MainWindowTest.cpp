@@ -318,9 +318,12 @@ TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
 TEST_F(MainWindowTest, DeviceDialogFindsWordsInAnyOrderAndSorts) {
   using Rows = std::vector<std::string>;
   const auto library = host.library();
-  trellisar::DeviceDialog dialog(
-      "Select", {library->findEntry(1101), library->findEntry(2202), library->findEntry(2001)},
-      library->findEntry(2001));
+  auto offered = library->listed(trellisar::Definition::Form::device);
+  std::erase_if(offered, [](const trellisar::ListedDefinition* device) {
+    const int entry = device->controlEntry;
+    return entry != 1101 && entry != 2202 && entry != 2001;
+  });
+  trellisar::DeviceDialog dialog("Select", *library, offered, library->findEntry(2001));
   const auto shown = [&] {
     Rows rows;
     for (std::int32_t row = 0; row < dialog.lvwDevices.rowCount(); ++row) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -9,7 +8,7 @@
 #include "forms/ListView.h"
 #include "forms/TextBox.h"
 #include "trellisar/dialogs/Dialog.h"
-#include "trellisar/library/Definition.h"
+#include "trellisar/library/DeviceLibrary.h"
 
 namespace trellisar {
 
@@ -17,11 +16,12 @@ namespace trellisar {
 /// and sorted by any of its columns.
 class DeviceDialog : public Dialog {
  public:
-  /// `current` is the device that is in the system, which is selected at first; nothing: none is.
-  DeviceDialog(const std::string& title, std::vector<DefinitionPtr> offered,
-               const DefinitionPtr& current);
+  /// `offered` is of the library, in its order, which outlives the dialog. `current` is the device
+  /// that is in the system, which is selected at first; nothing: none is.
+  DeviceDialog(const std::string& title, const DeviceLibrary& library,
+               std::vector<const ListedDefinition*> offered, const DefinitionPtr& current);
 
-  /// The selected device; nothing when none is.
+  /// The selected device; nothing when none is. Raises what DeviceLibrary raises.
   DefinitionPtr chosen() const;
 
   forms::Label lblFind{*this, "lblFind", "&Find:"};
@@ -35,24 +35,23 @@ class DeviceDialog : public Dialog {
   forms::Label lblDescription{*this, "lblDescription"};
 
  private:
-  static constexpr std::size_t columnCount = 4;
-  struct Row {
-    DefinitionPtr device;
-    std::array<std::string, columnCount> texts;
-  };
-
   void connect();
   void fillMakers();
   /// Lists what is looked for. What the user selected stays selected; while it is not among it, the
   /// first one is, so that Enter takes what was found.
   void listFound();
-  bool isLookedFor(const Row& row) const;
+  bool isLookedFor(const ListedDefinition& device) const;
   void sort();
   void selectAgain();
   void deviceSelected();
 
-  std::vector<Row> rows_;
-  std::string selected_;  // by the user, or what is in the system
+  const ListedDefinition& deviceAt(std::int32_t row) const;
+  /// Null when none is.
+  const ListedDefinition* selectedDevice() const;
+
+  const DeviceLibrary& library_;
+  std::vector<const ListedDefinition*> devices_;  // as they are sorted
+  std::string selected_;                          // by the user, or what is in the system
 };
 
 }  // namespace trellisar

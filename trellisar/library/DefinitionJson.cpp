@@ -26,6 +26,14 @@ constexpr Choices<Connection> connections = {
     {"sensor", Connection::sensor}, {"network", Connection::network},
     {"link", Connection::link},     {"none", Connection::none}};
 
+template <typename T>
+std::optional<T> valueNamed(std::string_view name, Choices<T> choices) {
+  for (const auto& [candidate, value] : choices) {
+    if (name == candidate) return value;
+  }
+  return std::nullopt;
+}
+
 constexpr std::int16_t mostPorts = 100;  // of one connection, far above what is built
 
 constexpr Choices<Connection> portConnections = {{"link", Connection::link},
@@ -327,5 +335,13 @@ base::Json definitionJson(const Definition& definition) {
 const char* formName(Form form) { return nameOf(form, definitionForms); }
 
 Form readForm(const base::JsonReader& reader) { return reader.choice(definitionForms); }
+
+std::optional<Form> formNamed(std::string_view name) { return valueNamed(name, definitionForms); }
+
+const char* connectionWord(Connection connection) { return nameOf(connection, connections); }
+
+std::optional<Connection> connectionNamed(std::string_view word) {
+  return valueNamed(word, connections);
+}
 
 }  // namespace trellisar

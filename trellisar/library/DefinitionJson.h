@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/Json.h"
 #include "trellisar/library/Definition.h"
@@ -16,5 +18,10 @@ base::Json definitionJson(const Definition& definition);
 /// "device", "module", "interface", "receiver".
 const char* formName(Definition::Form form);
 Definition::Form readForm(const base::JsonReader& reader);
+std::optional<Definition::Form> formNamed(std::string_view name);
+
+/// "serial", as files have it.
+const char* connectionWord(Definition::Connection connection);
+std::optional<Definition::Connection> connectionNamed(std::string_view word);
 
 }  // namespace trellisar

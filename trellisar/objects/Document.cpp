@@ -107,7 +107,9 @@ std::shared_ptr<host::SlotDefinition> Document::GetSlotDefinition(std::int16_t i
                                                                   std::string& strError) const {
   strError.clear();
   try {
-    return makeSlotDefinition(*data().library, iSlot);
+    auto& slot = slots_[iSlot];
+    if (!slot) slot = makeSlotDefinition(data().library, iSlot);
+    return slot;
   } catch (const host::Error& error) {
     strError = error.description();
     return makeEmptySlotDefinition();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 
@@ -49,6 +50,8 @@ class Document : public host::Document {
   bool remove(std::int16_t id, DeviceData::Kind kind, const char* what);
 
   DocumentPtr data_;
+  /// The slots that were asked for: what the library offers for them stays as it is.
+  mutable std::map<std::int16_t, std::shared_ptr<host::SlotDefinition>> slots_;
 };
 
 }  // namespace trellisar

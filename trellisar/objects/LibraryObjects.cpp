@@ -46,16 +46,26 @@ class Models : public host::Models {
 
 class LibraryDevice : public host::LibraryDevice {
  public:
-  explicit LibraryDevice(DefinitionPtr definition) : definition_(std::move(definition)) {}
-  std::string get_Name() const override { return definition_->name; }
-  std::string get_Description() const override { return definition_->description; }
-  std::int16_t get_ControlEntryID() const override { return definition_->controlEntry; }
-  std::int16_t get_ModelID() const override { return definition_->modelId; }
-  std::int32_t get_PartID() const override { return definition_->part; }
-  std::int16_t get_Kind() const override { return definition_->kind; }
+  LibraryDevice(const DeviceLibrary& library, const ListedDefinition& listing)
+      : library_(library), listing_(listing) {}
+  std::string get_Name() const override { return std::string(listing_.name); }
+  std::string get_Description() const override {
+    return library_.definition(listing_)->description;
+  }
+  std::int16_t get_ControlEntryID() const override { return listing_.controlEntry; }
+  std::int16_t get_ModelID() const override { return listing_.modelId; }
+  std::int32_t get_PartID() const override { return listing_.part; }
+  std::int16_t get_Kind() const override { return listing_.kind; }
 
  private:
-  DefinitionPtr definition_;
+  const DeviceLibrary& library_;
+  const ListedDefinition& listing_;
+};
+
+/// What holds the devices of a slot, and the library that their texts are of, as long as one lives.
+struct SlotDevices {
+  std::shared_ptr<const DeviceLibrary> library;
+  std::vector<LibraryDevice> devices = {};
 };
 
 class SlotDefinition : public host::SlotDefinition {
@@ -92,9 +102,9 @@ std::vector<std::shared_ptr<host::LibraryModule>> LibraryManager::get_Modules() 
   return items;
 }
 
-std::vector<DefinitionPtr> LibraryManager::offered(const std::string& category) const {
-  std::vector<DefinitionPtr> devices = library_->all(Definition::Form::device);
-  std::erase_if(devices, [&](const DefinitionPtr& device) {
+std::vector<const ListedDefinition*> LibraryManager::offered(const std::string& category) const {
+  std::vector<const ListedDefinition*> devices = library_->listed(Definition::Form::device);
+  std::erase_if(devices, [&](const ListedDefinition* device) {
     if (device->category != category) return true;
     const DeviceFilter& types = *filter_;
     return types && std::find(types->begin(), types->end(), device->type) == types->end();
@@ -102,12 +112,17 @@ std::vector<DefinitionPtr> LibraryManager::offered(const std::string& category) 
   return devices;
 }
 
-std::shared_ptr<host::SlotDefinition> makeSlotDefinition(const DeviceLibrary& library,
-                                                         std::int16_t slot) {
-  std::vector<std::shared_ptr<host::LibraryDevice>> devices;
-  for (const DefinitionPtr& device : library.all(Definition::Form::device)) {
-    if (device->slot == slot) devices.push_back(std::make_shared<LibraryDevice>(device));
+std::shared_ptr<host::SlotDefinition> makeSlotDefinition(
+    const std::shared_ptr<const DeviceLibrary>& library, std::int16_t slot) {
+  const auto held = std::make_shared<SlotDevices>(SlotDevices{library});
+  const auto listed = library->listed(Definition::Form::device);
+  held->devices.reserve(listed.size());
+  for (const ListedDefinition* device : listed) {
+    if (device->slot == slot) held->devices.emplace_back(*library, *device);
   }
+  std::vector<std::shared_ptr<host::LibraryDevice>> devices;
+  devices.reserve(held->devices.size());
+  for (LibraryDevice& device : held->devices) devices.emplace_back(held, &device);
   return std::make_shared<SlotDefinition>(std::move(devices));
 }
 

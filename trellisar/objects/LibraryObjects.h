@@ -41,7 +41,7 @@ class LibraryManager : public host::LibraryManager {
   std::string get_PicturesFolder() const override { return picturesFolder_; }
 
   /// The devices of a category among the types of the filter, in the library's order.
-  std::vector<DefinitionPtr> offered(const std::string& category) const;
+  std::vector<const ListedDefinition*> offered(const std::string& category) const;
 
  private:
   std::shared_ptr<const DeviceLibrary> library_;
@@ -50,8 +50,8 @@ class LibraryManager : public host::LibraryManager {
 };
 
 /// What the library offers for a slot.
-std::shared_ptr<host::SlotDefinition> makeSlotDefinition(const DeviceLibrary& library,
-                                                         std::int16_t slot);
+std::shared_ptr<host::SlotDefinition> makeSlotDefinition(
+    const std::shared_ptr<const DeviceLibrary>& library, std::int16_t slot);
 std::shared_ptr<host::SlotDefinition> makeEmptySlotDefinition();
 
 }  // namespace trellisar

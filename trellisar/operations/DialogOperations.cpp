@@ -17,7 +17,8 @@ std::int16_t MainWindowOperations::ShowAddReplaceDeviceDialog(
   const std::string& category =
       arguments.strCategory12.empty() ? arguments.strCategory6 : arguments.strCategory12;
   const DevicePtr current = session_->data()->find(arguments.iDeviceID, DeviceData::Kind::device);
-  DeviceDialog dialog(arguments.strTitle, session_->libraryManager->offered(category),
+  DeviceDialog dialog(arguments.strTitle, *session_->library,
+                      session_->libraryManager->offered(category),
                       current ? current->definition : nullptr);
   if (dialog.run()) return chooseDevice(arguments, dialog.chosen());
   return arguments.iDeviceID == 0 ? host::deviceDialogNone : host::deviceDialogUnchanged;

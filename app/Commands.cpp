@@ -10,6 +10,7 @@
 #include "app/Answers.h"
 #include "app/Build.h"
 #include "app/Diff.h"
+#include "app/NamesOfLibrary.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
 #include "app/Rooms.h"
@@ -184,6 +185,20 @@ Command schemaCommand(CLI::App& program) {
            {"2", "the command line is wrong, or the library can't be read"}}};
 }
 
+Command libraryCommand(CLI::App& program) {
+  auto options = std::make_shared<LibraryOptions>();
+  CLI::App* command =
+      program.add_subcommand("library", "Checks a device library and lists its names");
+  named(command->add_option("FOLDER", options->folder, "A device library"))->required();
+  command->add_flag("--for-copies", options->forCopies,
+                    "Writes a list that holds where the folder is copied to, and is slower");
+  return {command,
+          [options] { return listNames(*options); },
+          {{"0", "the list is written"},
+           {"1", "the list can't be written"},
+           {"2", "the command line is wrong, or the library can't be read or has a fault"}}};
+}
+
 Command wizardCommand(CLI::App& program) {
   auto file = std::make_shared<std::optional<std::filesystem::path>>();
   CLI::App* command =
@@ -224,10 +239,10 @@ Commands::Commands()
     : program("Room solutions: the wizard, with a person or unattended", "orlena") {
   program.require_subcommand(0, 1);
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
-  all = {buildCommand(program),   wizardCommand(program), answersCommand(program),
-         roomsCommand(program),   showCommand(program),   diffCommand(program),
-         gitDiffCommand(program), reportCommand(program), schemaCommand(program),
-         receiverCommand(program)};
+  all = {buildCommand(program),   wizardCommand(program),  answersCommand(program),
+         roomsCommand(program),   showCommand(program),    diffCommand(program),
+         gitDiffCommand(program), reportCommand(program),  schemaCommand(program),
+         libraryCommand(program), receiverCommand(program)};
   CLI::Option* opened =
       named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
           ->check(isSystemOrArchive);

@@ -37,5 +37,18 @@ TEST(OrlenaSchema, isThatOfTheLibrary) {
   EXPECT_NE(outcome.errors.find("missing"), std::string::npos) << outcome.errors;
 }
 
+TEST(OrlenaLibrary, listsTheNamesOfALibraryWithoutAFault) {
+  TemporaryFolder folder;
+  Program program(folder);
+  folder.write("own/index.json", R"({"format": "trellisar-device-library", "version": 1,
+                                     "files": []})");
+  EXPECT_EQ(program.run({"library", "own/"}).output, "own/names.tsv\n");
+  EXPECT_EQ(fileText(folder / "own/names.tsv").substr(0, 25), "trellisar-device-names\t1\t");
+  folder.write("own/forgotten.json", "{}");
+  const Outcome outcome = program.run({"library", "own"});
+  EXPECT_EQ(outcome.status, 2);
+  expectHas(outcome.errors, "own/forgotten.json: the index does not name it");
+}
+
 }  // namespace
 }  // namespace app

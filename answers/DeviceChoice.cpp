@@ -1,7 +1,5 @@
 #include "answers/DeviceChoice.h"
 
-#include <algorithm>
-
 #include "answers/Nearest.h"
 #include "answers/Shape.h"
 #include "forms/Form.h"
@@ -12,17 +10,20 @@ namespace {
 
 constexpr const char* dialogName = "DeviceDialog";
 
-void choose(forms::Form& dialog, const Page& page, const Answer& answer) {
-  auto& list = dynamic_cast<forms::ListView&>(dialog.control("lvwDevices"));
+std::string whyNot(const forms::ListView& list, const std::string& wanted) {
   std::vector<std::string> offered;
   for (std::int32_t row = 0; row < list.rowCount(); ++row) offered.push_back(list.text(row, 0));
-  const auto found = std::find(offered.begin(), offered.end(), answer.text());
-  if (found == offered.end()) {
-    page.refuse(answer, offered.empty() ? "the library offers no device for this place"
-                                        : quoted(answer.text()) + " is none of " +
-                                              among(answer.text(), offered));
-  }
-  page.user().select(list, static_cast<std::int32_t>(found - offered.begin()));
+  if (offered.empty()) return "the library offers no device for this place";
+  return quoted(wanted) + " is none of " + among(wanted, offered);
+}
+
+void choose(forms::Form& dialog, const Page& page, const Answer& answer) {
+  auto& list = dynamic_cast<forms::ListView&>(dialog.control("lvwDevices"));
+  const std::string& wanted = answer.text();
+  std::int32_t row = 0;
+  while (row < list.rowCount() && list.text(row, 0) != wanted) ++row;
+  if (row == list.rowCount()) page.refuse(answer, whyNot(list, wanted));
+  page.user().select(list, row);
   page.user().click(dialog.control("cmdOK"));
 }
 

@@ -109,10 +109,10 @@ void TabOrigination::LoadTransmitters() {
 void TabOrigination::LoadTypes() {
   if (!addin::IsDocumentSet()) return;
   listDevices.clear();
-  const auto colTypes =
+  m_colTypes =
       common::SortCollection(gAddIn().GetLibraryOriginationPoints(),
                              [](const host::LibraryDevice& oType) { return oType.get_Name(); });
-  for (const auto& oType : colTypes) {
+  for (const auto& oType : m_colTypes) {
     listDevices.add(oType->get_Name(), oType->get_ControlEntryID());
   }
   if (listDevices.count() > 0) listDevices.setSelected(0);
@@ -145,12 +145,11 @@ void TabOrigination::UpdateReceiverText() {
                                        : "Receiver is OL-RX1/OL-RXV1/OL-RXV1-M");
 }
 
-std::shared_ptr<host::LibraryDevice> TabOrigination::FindType(const std::string& strName) {
-  const auto colTypes = gAddIn().GetLibraryOriginationPoints();
-  const auto it = std::find_if(colTypes.begin(), colTypes.end(), [&](const auto& oType) {
+std::shared_ptr<host::LibraryDevice> TabOrigination::FindType(const std::string& strName) const {
+  const auto it = std::find_if(m_colTypes.begin(), m_colTypes.end(), [&](const auto& oType) {
     return forms::equalsIgnoringCase(oType->get_Name(), strName);
   });
-  return it == colTypes.end() ? nullptr : *it;
+  return it == m_colTypes.end() ? nullptr : *it;
 }
 
 void TabOrigination::listDevices_Click() {

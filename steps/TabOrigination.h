@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
@@ -60,7 +61,7 @@ class TabOrigination : public WizardStep {
   void ResumeUnsaved(const UnsavedTexts& colTexts);
   void ShowPictureOf(const std::string& strType);
   /// The transmitter type of this name, whatever its case; nothing when the library has none.
-  static std::shared_ptr<host::LibraryDevice> FindType(const std::string& strName);
+  std::shared_ptr<host::LibraryDevice> FindType(const std::string& strName) const;
   void LayOut();
 
   forms::Label lblBanner{*this, "lblBanner", " OL Transmitters"};
@@ -80,6 +81,7 @@ class TabOrigination : public WizardStep {
                                     "Always use the 3 OL input Orlena receiver"};
   HintFrame frameInfo{*this, {}, {.strSign = "ctlInfoImage"}};
 
+  std::vector<std::shared_ptr<host::LibraryDevice>> m_colTypes;  // those that are offered
   bool m_bLoading = false;
   std::string m_strOldLabel;
 };

@@ -2,8 +2,11 @@
 #include "base/FileIO.h"
 #include "base/Json.h"
 #include "bench/Figure.h"
+#include "bench/LargeLibrary.h"
 #include "bench/Process.h"
 #include "bench/Room.h"
+#include "forms/Paths.h"
+#include "trellisar/document/SystemFile.h"
 
 namespace bench {
 namespace {
@@ -19,6 +22,8 @@ fs::path templateSystem() {
   return app::dataFolder() / "TemplateSystems" / "Orlena TEMPLATE" / "Orlena TEMPLATE.tsy";
 }
 
+fs::path shippedLibrary() { return app::dataFolder() / "library"; }
+
 std::vector<Side> againstFloor() {
   const Place place = std::make_shared<TemporaryFolder>();
   const fs::path system = buildFullRoom(place->emptied("built"));
@@ -29,12 +34,25 @@ std::vector<Side> againstFloor() {
   };
   const auto floor = [place, system] {
     const fs::path out = place->emptied("floor");
-    return costOfProcesses({{ORLENA_FLOOR, fullAnswers().string(), templateSystem().string(),
-                             (app::dataFolder() / "library").string(), system.string(),
-                             (out / "Room" / "Room.tsy").string()}});
+    return costOfProcesses(
+        {{ORLENA_FLOOR, fullAnswers().string(), templateSystem().string(),
+          shippedLibrary().string(), system.string(), (out / "Room" / "Room.tsy").string()}});
   };
   return {{"orlena build, a full room", build},
           {"a process that reads and writes the same files", floor}};
+}
+
+std::vector<Side> withLargeLibrary() {
+  const Place place = std::make_shared<TemporaryFolder>();
+  const fs::path large = writeLargeLibrary(place->path() / "large", 10'000);
+  Process({ORLENA_PROGRAM, "library", large.string()}).wait();
+  const auto buildWith = [place](const fs::path& library) {
+    const fs::path out = place->emptied("out");
+    return costOfProcesses({{ORLENA_PROGRAM, "build", fullAnswers().string(), "--out", out.string(),
+                             "--library", library.string()}});
+  };
+  return {{"orlena build, a library of 10,000 devices", [=] { return buildWith(large); }},
+          {"orlena build, the shipped one", [=] { return buildWith(shippedLibrary()); }}};
 }
 
 /// Answers files for the full room under names of their own.
@@ -71,6 +89,30 @@ std::vector<Side> batches() {
   return {batchOf(1000, place), batchOf(10, place)};
 }
 
+/// What no way of making a room can do without.
+Side parts(const Place& place) {
+  constexpr int times = 20;
+  const fs::path system = buildFullRoom(place->emptied("parts"));
+  const auto room = std::make_shared<Room>(system);
+  const auto library = std::make_shared<const trellisar::DeviceLibrary>(shippedLibrary());
+  const auto run = [=] {
+    room->choose();
+    return costOf([&] {
+      for (int i = 0; i < times; ++i) {
+        Room::generate();
+        trellisar::readSystemFile(system, library);
+        trellisar::saveSystemFile(room->data(), forms::fromMachinePath(system));
+      }
+    });
+  };
+  return {"one run of the generator, one open and one save", run, times};
+}
+
+std::vector<Side> batchAgainstParts() {
+  const Place place = std::make_shared<TemporaryFolder>();
+  return {batchOf(1000, place), parts(place)};
+}
+
 std::vector<Side> sideBySide() {
   constexpr int rooms = 100;
   const Place place = std::make_shared<TemporaryFolder>();
@@ -94,7 +136,9 @@ std::vector<Side> sideBySide() {
 
 std::vector<Figure> processFigures() {
   return {{"a room as a process", {Aim::Bound::atMost, 3}, 101, againstFloor},
-          {"a room in a batch", {Aim::Bound::atMost, 1.05}, 5, batches},
+          {"a large library", {Aim::Bound::atMost, 1.3}, 101, withLargeLibrary},
+          {"a room in a batch", {Aim::Bound::atMost, 1.5}, 5, batchAgainstParts},
+          {"a large batch", {Aim::Bound::atMost, 1.05}, 5, batches},
           {"two jobs", {Aim::Bound::atLeast, 0.9}, 11, sideBySide}};
 }
 

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <fstream>
+#include <iomanip>
 #include <random>
 #include <thread>
 
@@ -15,7 +16,6 @@
 #include "tests/support/Shipped.h"
 #include "tests/support/Texts.h"
 #include "tests/wizard/Wizard.h"
-#include "trellisar/document/SystemFile.h"
 #include "trellisar/recovery/RecoveryFile.h"
 
 namespace tests {
@@ -31,11 +31,7 @@ using Clock = std::chrono::steady_clock;
 /// 14:02 of a day in the zone of this machine.
 std::time_t twoPastTwo() {
   std::tm time{};
-  time.tm_year = 126;
-  time.tm_mon = 2;
-  time.tm_mday = 30;
-  time.tm_hour = 14;
-  time.tm_min = 2;
+  std::istringstream("2026-03-30 14:02") >> std::get_time(&time, "%Y-%m-%d %H:%M");
   time.tm_isdst = -1;
   return std::mktime(&time);
 }
@@ -53,14 +49,24 @@ class Recovery : public testing::Test {
     return files;
   }
 
+  static void end(Wizard& wizard) {
+    wizard.addIn.reset();
+    wizard.host.reset();
+  }
   /// Runs the wizard, which then ends as in a crash: nobody closes its system.
   void crash(Wizard& wizard, const std::function<void()>& script) const {
     wizard.run([&] {
       script();
       wizard.desktop.pass(1s);
     });
-    wizard.addIn.reset();
-    wizard.host.reset();
+    end(wizard);
+  }
+  /// Longer than a minute for the program, and a second for its disk.
+  static void passLong(Wizard& wizard) {
+    for (int i = 0; i < 100; ++i) {
+      wizard.desktop.pass(1s);
+      std::this_thread::sleep_for(10ms);
+    }
   }
 
   /// What the dialog says, which is answered by one of its buttons, or Escape without one.
@@ -183,8 +189,7 @@ TEST_F(Recovery, AfterACrashAnywhereThePagesAreTheSameAndASaveGivesTheSameBytes)
       next.desktop.pass(2s);
       EXPECT_EQ(fileText(crashed.systemFile("Lecture Hall")), expected);
     });
-    next.addIn.reset();
-    next.host.reset();
+    end(next);
     EXPECT_TRUE(left().empty()) << "saved";
   }
 }
@@ -193,11 +198,7 @@ TEST_F(Recovery, IsOfferedUntilItIsSavedOrDiscardedAndNotByALivingProgram) {
   Wizard crashed(options());
   crash(crashed, [&] {
     nameIt(crashed);
-    for (int i = 0; i < 100;
-         ++i) {  // longer than a minute for the program, and a second for its disk
-      crashed.desktop.pass(1s);
-      std::this_thread::sleep_for(10ms);
-    }
+    passLong(crashed);
     EXPECT_TRUE(left().empty()) << "its program lives";
   });
   ASSERT_EQ(left().size(), 1U);
@@ -305,20 +306,16 @@ TEST_F(Recovery, ThatCantBeWrittenIsToldOnceAndNothingStops) {
     const rlimit none{0, before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &none);
     wizard.desktop.expectMessageWith(Icon::exclamation, "the file would be larger");
-    for (int i = 0; i < 100; ++i) {
-      wizard.desktop.pass(1s);
-      std::this_thread::sleep_for(10ms);
-    }
+    passLong(wizard);
     setrlimit(RLIMIT_FSIZE, &before);
     wizard.desktop.pass(1s);
   });
-  wizard.addIn.reset();
-  wizard.host.reset();
+  end(wizard);
   EXPECT_EQ(left().size(), 1U) << "there is room again";
 }
 
-/// A program that is killed at any moment: it names its system anew again and again, saves now and
-/// then, and tells each name with its time to a file once it stands on the page.
+/// A program that is killed at any moment: it names its system anew again and again, and tells each
+/// name with its time to a file once it stands on the page.
 [[noreturn]] void answerUntilKilled(const fs::path& folder, unsigned seed) {
   std::ofstream told(folder / "told");
   Wizard wizard({folder / "recovery"});
@@ -330,7 +327,6 @@ TEST_F(Recovery, ThatCantBeWrittenIsToldOnceAndNothingStops) {
     for (int number = 1;; ++number) {
       wizard.enter("txtSystemName", "Room " + std::to_string(number));
       told << number << " " << Clock::now().time_since_epoch().count() << std::endl;
-      if (random() % 20 == 0) wizard.clickInWindow("cmdSave");
       std::this_thread::sleep_for(std::chrono::milliseconds(random() % 120));
       const auto now = Clock::now();
       const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(now - last);
@@ -340,8 +336,6 @@ TEST_F(Recovery, ThatCantBeWrittenIsToldOnceAndNothingStops) {
   });
   std::_Exit(1);
 }
-
-int numberOf(const std::string& name) { return std::stoi(name.substr(name.find(' ') + 1)); }
 
 /// The last one that was told two seconds before the end.
 int oldNumber(const fs::path& folder, Clock::time_point end) {
@@ -354,18 +348,13 @@ int oldNumber(const fs::path& folder, Clock::time_point end) {
   return found;
 }
 
-/// The last one that is in a file of either sort, each of which is whole.
+/// The last one that is in a file, which is whole; 0 without a file.
 int keptNumber(const fs::path& folder) {
   int number = 0;
   for (const auto& slot : trellisar::RecoverySlot::left(folder / "recovery")) {
     const auto unsaved = trellisar::readRecoveryFile(slot->file());
-    number = std::max(number, numberOf(trellisar::documentOf(unsaved, shippedLibrary())->name));
-  }
-  std::error_code none;
-  for (const auto& entry : fs::recursive_directory_iterator(
-           folder / "systems", fs::directory_options::follow_directory_symlink, none)) {
-    if (entry.path().extension() != ".tsy") continue;
-    number = std::max(number, numberOf(trellisar::readSystemFile(entry.path(), nullptr)->name));
+    const std::string name = trellisar::documentOf(unsaved, shippedLibrary())->name;
+    number = std::max(number, std::stoi(name.substr(name.find(' ') + 1)));
   }
   return number;
 }

@@ -68,9 +68,9 @@ class Comparison {
     const Change change = before.is_null()  ? Change::isNew
                           : after.is_null() ? Change::gone
                                             : Change::changed;
-    found_.push_back(
-        {trellisar::Difference::Part::answers, change, path + " (" + shortMeaning(row) + ")", "",
-         before.is_null() ? "" : textOf(before), after.is_null() ? "" : textOf(after)});
+    found_.push_back({trellisar::Difference::Part::answers, change, path, shortMeaning(row),
+                      before.is_null() ? "" : textOf(before),
+                      after.is_null() ? "" : textOf(after)});
   }
 
   trellisar::Differences found_;

@@ -90,7 +90,7 @@ Command answersCommand(CLI::App& program) {
 Command diffCommand(CLI::App& program) {
   auto options = std::make_shared<DiffOptions>();
   CLI::App* command = program.add_subcommand(
-      "diff", "Prints in what a system's devices and control program differ from another one's");
+      "diff", "Prints in what a system's answers, devices and program differ from another one's");
   named(command->add_option("A.tsy", options->before, "A saved system; /dev/null for none"))
       ->required();
   named(command->add_option("B.tsy", options->after, "The one that it is compared with"))

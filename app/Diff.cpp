@@ -1,5 +1,16 @@
 #include "app/Diff.h"
 
+#include <future>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "answers/Differences.h"
+#include "answers/ErrorWords.h"
+#include "answers/Room.h"
+#include "answers/RunEnded.h"
+#include "app/AddIn.h"
+#include "app/Environment.h"
 #include "app/ExitStatus.h"
 #include "app/RunReport.h"
 #include "app/StandardStreams.h"
@@ -19,8 +30,41 @@ trellisar::DocumentPtr read(const fs::path& file) {
   return trellisar::readSystemFile(file, nullptr);
 }
 
+/// The answers that a system gives; nothing, which is told, for one that the wizard does not open.
+std::optional<base::Json> answersOf(const fs::path& file, const answers::RoomOptions& options) {
+  if (file == noFile) return base::Json::object();
+  const RunReport report(file.string());
+  try {
+    return answers::readRoom(file, options, report).answers;
+  } catch (const answers::RunEnded& ended) {
+    for (const base::Fault& fault : ended.faults()) report.fault(fault);
+  } catch (const std::exception& error) {
+    report.line(answers::wordsOf(error));
+  }
+  return std::nullopt;
+}
+
+/// Both wizards run at a time: they take longer than all else.
+trellisar::Differences differencesOfAnswers(const fs::path& before, const fs::path& after) {
+  const answers::RoomOptions options{
+      .dataFolder = dataFolder(),
+      .openWizard = openUnattended,
+      .library = std::make_shared<trellisar::DeviceLibrary>(dataFolder() / "library")};
+  auto other = std::async(std::launch::async, [&] { return answersOf(after, options); });
+  const std::optional<base::Json> was = answersOf(before, options);
+  const std::optional<base::Json> is = other.get();
+  return was && is ? answers::differences(*was, *is) : trellisar::Differences();
+}
+
 trellisar::Differences differencesOf(const fs::path& before, const fs::path& after) {
-  return trellisar::compare(*read(before), *read(after));
+  const trellisar::DocumentPtr was = read(before);
+  const trellisar::DocumentPtr is = read(after);
+  trellisar::Differences program = trellisar::compare(*was, *is);
+  // What gives the answers is the settings and the devices.
+  if (program.empty() && was->settings == is->settings) return program;
+  trellisar::Differences all = differencesOfAnswers(before, after);
+  all.insert(all.end(), program.begin(), program.end());
+  return all;
 }
 
 /// What git hands over, by its place.

@@ -40,9 +40,9 @@ TEST_F(OrlenaDiff, endsWithWhetherTwoRoomsAreTheSame) {
   EXPECT_EQ(different.status, 1);
   const Json differences = Json::parse(different.output)["differences"];
   EXPECT_EQ(differences[0].dump(),
-            R"({"part":"devices","change":"new","place":"Lift","within":[],"behind":"","what":"",)"
-            R"("before":"","after":"Hoistrel HL-30, Relay 1, Relay 2",)"
-            R"("words":"Lift is new: Hoistrel HL-30, Relay 1, Relay 2"})");
+            R"({"part":"answers","change":"new","place":"lift","within":[],"behind":"",)"
+            R"("what":"the lift is included","before":"","after":"",)"
+            R"("words":"lift (the lift is included) is new"})");
   const Outcome unreadable = program.run({"diff", "a/Hall.tsy", "text.tsy"});
   EXPECT_EQ(unreadable.status, 2);
   expectHas(unreadable.errors, "text.tsy");
@@ -92,9 +92,10 @@ TEST_F(OrlenaDiff, isWhatGitShowsOfARoom) {
   ASSERT_EQ(set.status, 0) << set.errors;
   const Outcome shown = program.shell(inRepository + "git --no-pager diff --no-renames");
   EXPECT_EQ(shown.status, 0) << shown.errors;
-  const std::size_t gone = shown.output.find("Gone.tsy is gone\nDevices\n");
-  const std::size_t hall = shown.output.find("Hall 1.tsy\nDevices\n    Lift is new: Hoistrel");
-  const std::size_t fresh = shown.output.find("New.tsy is new\nDevices\n    Receiver is new");
+  const std::size_t gone = shown.output.find("Gone.tsy is gone\nAnswers\n");
+  const std::size_t hall =
+      shown.output.find("Hall 1.tsy\nAnswers\n    lift (the lift is included) is new\n");
+  const std::size_t fresh = shown.output.find("New.tsy is new\nAnswers\n    display.device ");
   EXPECT_EQ(shown.output.find("Damaged.tsy is new\n    The systems can't be compared."), 0u)
       << shown.output;
   EXPECT_LT(gone, hall) << shown.output;

@@ -81,6 +81,9 @@ std::string happenedToPlace(const Difference& difference) {
 
 std::string inWords(const Difference& difference) {
   std::string place = difference.place;
+  if (difference.part == Difference::Part::answers) {
+    return place + " (" + difference.what + ")" + happenedToPlace(difference);
+  }
   for (const std::string& condition : difference.within) place += ", if " + condition;
   return place +
          (difference.what.empty() ? happenedToPlace(difference) : ": " + happened(difference));

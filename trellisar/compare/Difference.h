@@ -17,7 +17,8 @@ struct Difference {
   /// What it belongs to: "Display Device", "System Power Off", "when Powered_On of Receiver goes
   /// on".
   std::string place;
-  /// The property, step or other piece of the place; empty: the place itself.
+  /// The property, step or other piece of the place; empty: the place itself. Of an answer, whose
+  /// place is its key, what it means.
   std::string what = {};
   /// What it is in each of the two; of something that moved, where it stands there. Empty where it
   /// is not there, or where `what` says it all.

@@ -54,7 +54,8 @@ void save(const std::string& content, const fs::path& file) {
 /// another place.
 int main(int argc, char** argv) {
   if (argc != 6) {
-    std::fprintf(stderr, "bench_floor ANSWERS.json TEMPLATE.tsy LIBRARY FINISHED.tsy WRITTEN.tsy\n");
+    std::fprintf(stderr,
+                 "bench_floor ANSWERS.json TEMPLATE.tsy LIBRARY FINISHED.tsy WRITTEN.tsy\n");
     return 2;
   }
   try {

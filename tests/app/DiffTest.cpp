@@ -112,15 +112,14 @@ TEST_F(OrlenaDiff, isWhatGitShowsOfARoom) {
 }
 
 TEST_F(OrlenaDiff, showsInARepositoryWhatOneAnswerChanged) {
-  const std::string source = ORLENA_SOURCE_FOLDER;
+  const std::string examples = "EXAMPLES=" ORLENA_SOURCE_FOLDER "/examples; ";
   const Outcome made = program.shell(
+      examples +
       "set -e; export GIT_CONFIG_GLOBAL=/dev/null GIT_CONFIG_SYSTEM=/dev/null; "
       "mkdir campus; cd campus; git init -q; echo '*.tsy diff=orlena' > .gitattributes; "
       "git config diff.orlena.command 'orlena git-diff'; "
       "git config user.name Test; git config user.email test@localhost; "
-      "orlena build " +
-      source +
-      "/examples/*.json --out . > systems.txt; "
+      "orlena build $EXAMPLES/*.json --out . > systems.txt; "
       "while read -r system; do orlena answers \"$system\" > \"${system%.tsy}.json\"; done"
       " < systems.txt; git add .; git commit -qm Rooms; "
       "cd 'Lecture Hall'; sed -i 's/\"on\": 60/\"on\": 45/' 'Lecture Hall.json'; "

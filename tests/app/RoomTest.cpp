@@ -85,6 +85,7 @@ TEST_F(OrlenaRoom, isBuiltFromEachExample) {
 void writeLibraryWithout(const std::string& device, const fs::path& folder) {
   fs::copy(fs::path(ORLENA_SOURCE_FOLDER) / "data/library", folder);
   for (const auto& file : fs::directory_iterator(folder)) {
+    if (file.path().extension() != ".json") continue;
     Json json = Json::parse(fileText(file.path()));
     if (!json.contains("devices")) continue;
     Json kept = Json::array();

@@ -1,5 +1,4 @@
 #include "base/Digest.h"
-#include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/library/DeviceLibrary.h"
 

@@ -25,8 +25,8 @@
 #include "trellisar/communication/TransferDialog.h"
 #include "trellisar/compare/Compare.h"
 #include "trellisar/dialogs/ComparisonDialog.h"
-#include "trellisar/document/SystemFile.h"
 #include "trellisar/dialogs/RecoveryDialog.h"
+#include "trellisar/document/SystemFile.h"
 #include "trellisar/window/AddIns.h"
 #include "trellisar/window/MainForm.h"
 

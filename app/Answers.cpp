@@ -1,6 +1,7 @@
 #include "app/Answers.h"
 
 #include "answers/ErrorWords.h"
+#include "answers/LeftOver.h"
 #include "answers/Room.h"
 #include "answers/RunEnded.h"
 #include "app/AddIn.h"
@@ -11,6 +12,22 @@
 #include "base/Json.h"
 
 namespace app {
+namespace {
+
+void tellLeftOver(const std::filesystem::path& system, const base::Json& answers,
+                  const answers::RoomOptions& options, const RunReport& report) {
+  try {
+    for (const std::string& words : answers::leftOver(system, answers, options)) {
+      report.line("no answers build this: " + words);
+    }
+  } catch (const answers::RunEnded& ended) {
+    for (const base::Fault& fault : ended.faults()) {
+      report.line("these answers build nothing: " + fault.text());
+    }
+  }
+}
+
+}  // namespace
 
 int printAnswers(const AnswersOptions& options) {
   const RunReport report(options.systemFile.string());
@@ -22,6 +39,7 @@ int printAnswers(const AnswersOptions& options) {
     const answers::Reading reading = answers::readRoom(options.systemFile, roomOptions, report);
     for (const base::Fault& fault : reading.unsayable) report.fault(fault);
     print(base::jsonText(reading.answers));
+    tellLeftOver(options.systemFile, reading.answers, roomOptions, report);
     return exitStatus::ok;
   } catch (const answers::RunEnded& ended) {
     for (const base::Fault& fault : ended.faults()) report.fault(fault);

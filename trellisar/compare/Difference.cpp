@@ -97,7 +97,8 @@ std::string readableText(const Differences& differences) {
       text += (text.empty() ? "" : "\n") + std::string(nameOf(difference.part).heading) + "\n";
       part = difference.part;
     }
-    text += "    " + inWords(difference) + "\n";
+    const std::string words = inWords(difference);
+    text += "    " + words + "\n";
   }
   return text;
 }

@@ -142,7 +142,10 @@ std::string StepWords::value(const StepUnit& unit) const {
       ForStep{[](const CommandStep& command) { return forms::trimmed(words::valueOf(command)); },
               [](const DelayStep&) { return std::string(); },
               [](const CallStep&) { return std::string(); },
-              [&](const BranchStep& branch) { return "(" + all(branch.branch()) + ")"; }},
+              [&](const BranchStep& branch) {
+                const std::string steps = all(branch.branch());
+                return "(" + steps + ")";
+              }},
       *unit.step);
 }
 

@@ -90,7 +90,8 @@ class Reader {
       if (port != device.name) text += ", " + port;
     }
     if (!powerControl.empty()) text += ", power control: " + powerControl;
-    text += "\n" + properties(device, "        ");
+    text += "\n";
+    text += properties(device, "        ");
     for (const DevicePtr& module : device.modules) {
       text += "        module " + module->shortName + " (" + module->name + ")\n" +
               properties(*module, "            ") + slots(*module);

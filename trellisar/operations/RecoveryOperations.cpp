@@ -34,7 +34,8 @@ std::string timeAt(std::time_t time, std::time_t now) {
 /// Where its file stands now against what it was.
 std::string fileWords(const UnsavedSystem& unsaved) {
   if (unsaved.ownFile.empty()) return "It has never been saved.";
-  const std::string path = "\"" + unsaved.ownFile.string() + "\"";
+  const std::string file = unsaved.ownFile.string();
+  const std::string path = "\"" + file + "\"";
   try {
     const std::string content = base::readFile(unsaved.ownFile);
     if (base::Digest::of(content) == unsaved.ownDigest) return "Its file is " + path + ".";

@@ -94,7 +94,9 @@ std::string readableText(const Differences& differences) {
   std::optional<Difference::Part> part;
   for (const Difference& difference : differences) {
     if (part != difference.part) {
-      text += (text.empty() ? "" : "\n") + std::string(nameOf(difference.part).heading) + "\n";
+      if (!text.empty()) text += "\n";
+      text += nameOf(difference.part).heading;
+      text += "\n";
       part = difference.part;
     }
     const std::string words = inWords(difference);

@@ -29,6 +29,11 @@ void BackgroundWriter::wait() {
   changed_.wait(lock, [this] { return !next_ && !isWriting_; });
 }
 
+bool BackgroundWriter::isBusy() {
+  const std::lock_guard lock(mutex_);
+  return next_ || isWriting_;
+}
+
 std::string BackgroundWriter::takeFailure() {
   const std::lock_guard lock(mutex_);
   return std::exchange(failure_, {});

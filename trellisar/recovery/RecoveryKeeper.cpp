@@ -85,7 +85,10 @@ std::optional<host::UnsavedAnswers> RecoveryKeeper::unsavedAnswers() const {
 
 void RecoveryKeeper::write(const host::UnsavedAnswers& answers) {
   std::string text = recoveryFileText(unsavedSystem(*document_, answers));
-  if (text == kept_) return;
+  if (text == kept_) {
+    if (writer_.isBusy()) lookLater();  // how the write went
+    return;
+  }
   try {
     if (!slot_) slot_ = RecoverySlot::make(options_.folder);
   } catch (const base::Error& error) {

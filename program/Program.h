@@ -95,19 +95,32 @@ struct Slot {
   std::string command;
 };
 
-/// How long a display or a motor takes, in seconds.
+/// How long a display or a motor takes, in seconds; these are the values of a driver that does not
+/// tell.
 struct Timing {
   std::int32_t warmUp = 30;
   std::int32_t coolDown = 60;
   std::int32_t travel = 20;
+
+  bool operator==(const Timing&) const = default;
+};
+
+/// The most seconds that something may take.
+inline constexpr std::int32_t longestTiming = 24 * 60 * 60;
+
+/// A command that a unit takes.
+struct Input {
+  std::string name;
+  Command::Type type = Command::Type::digital;
+  std::string send = {};  // what goes to the port, a byte for each code point; empty: not told
 };
 
 /// A button of a panel's page: it sends a command or runs a preset, or does nothing.
 struct Button {
-  std::int32_t id = 0;  // unique on the panel
-  std::string text;
+  std::int32_t id = 0;  // unique on the panel, from 1
+  std::string text;     // lines end with CR LF
   Place unit = none;
-  std::string command;
+  std::string command = {};
   Place preset = none;
 };
 
@@ -116,19 +129,31 @@ struct Page {
   std::vector<Button> buttons;
 };
 
+/// Where a power sensor is attached.
+struct SensorPort {
+  std::int32_t handle = 0;
+  std::string format;
+};
+
 struct Unit {
   enum class Kind { receiver, device, module, panel };
 
   std::string name;  // "Display Device/PWRSENSE" for a module
   Kind kind = Kind::device;
   Place parent = none;
-  std::vector<std::string> commands;  // the digital ones that it takes
-  std::vector<std::string> outputs;   // the digital ones
+  std::int32_t handle = 0;           // under which the receiver addresses it; 0 for a module
+  std::string driver;                // the name of its definition in the library
+  std::string port;                  // "Relay 1", "IP-ID 03"; empty: none
+  std::string address;               // of a unit on the network; empty: none is set
+  std::optional<SensorPort> sensor;  // of a power sensing module
+  std::vector<Input> inputs;
+  std::vector<std::string> outputs;  // the digital ones
   std::vector<std::pair<std::string, std::string>> properties;
   std::vector<Slot> slots;                               // of a module
   std::map<std::int32_t, std::string> standardCommands;  // by the standard command's id
   Timing timing;
-  std::vector<Page> pages;  // of a panel with a project
+  std::int32_t staleAfter = 3;  // seconds after which a command is not worth sending any more
+  std::vector<Page> pages;      // of a panel with a project
 };
 
 struct Program {

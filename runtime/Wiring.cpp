@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <string>
+#include <utility>
 
 namespace runtime {
 namespace {
@@ -55,6 +56,15 @@ Time secondsOf(const Unit& unit, std::string_view property) {
     if (name == property) return leadingNumber(value) * second;
   }
   return 0;
+}
+
+/// Goes through the steps and those of all branches.
+template <typename See>
+void eachStep(const Code& code, const See& see) {
+  for (const auto& step : code.steps) {
+    see(step);
+    if (const auto* branch = std::get_if<If>(&step)) eachStep(*branch->then, see);
+  }
 }
 
 /// A digital value above 0 is a hold time.
@@ -118,7 +128,7 @@ Delivery& Wiring::deliveryTo(Place unit, std::string_view command) {
 void Wiring::wireUnit(Place place) {
   const Unit& unit = program_.units[static_cast<std::size_t>(place)];
   for (const std::string& output : unit.outputs) intern(place, output);
-  for (const std::string& command : unit.commands) deliveryTo(place, command);
+  for (const program::Input& input : unit.inputs) deliveryTo(place, input.name);
   switch (role(place)) {
     case Role::receiver:
       receiver_ = {intern(place, "Powered_On"), intern(place, "Powered_Off"),
@@ -224,27 +234,24 @@ const Code* Wiring::codeOf(const std::vector<program::Step>& steps) {
 
 void Wiring::wirePresets() {
   for (const program::Preset& preset : program_.presets) presets_.push_back({codeOf(preset.steps)});
+  std::vector<std::vector<Place>> callers(presets_.size());
+  std::vector<Place> waiting;
   for (std::size_t i = 0; i < presets_.size(); ++i) {
-    std::vector<char> seen(presets_.size());
-    presets_[i].hasWait = waits(static_cast<Place>(i), seen);
+    const auto place = static_cast<Place>(i);
+    eachStep(*presets_[i].code, [&](const auto& step) {
+      if (std::holds_alternative<Pause>(step)) waiting.push_back(place);
+      if (const auto* call = std::get_if<CallPreset>(&step)) {
+        callers[static_cast<std::size_t>(call->preset)].push_back(place);
+      }
+    });
   }
-}
-
-bool Wiring::waits(Place preset, std::vector<char>& seen) const {
-  if (std::exchange(seen[static_cast<std::size_t>(preset)], true)) return false;
-  struct Waits {
-    const Wiring& wiring;
-    std::vector<char>& seen;
-    bool operator()(const Send&) const { return false; }
-    bool operator()(const Pause&) const { return true; }
-    bool operator()(const CallPreset& call) const { return wiring.waits(call.preset, seen); }
-    bool operator()(const If& branch) const { return in(*branch.then); }
-    bool in(const Code& code) const {
-      return std::any_of(code.steps.begin(), code.steps.end(),
-                         [this](const auto& step) { return std::visit(*this, step); });
-    }
-  };
-  return Waits{*this, seen}.in(*presets_[static_cast<std::size_t>(preset)].code);
+  // A preset waits when one that it calls does, however far that is.
+  while (!waiting.empty()) {
+    const auto place = static_cast<std::size_t>(waiting.back());
+    waiting.pop_back();
+    if (std::exchange(presets_[place].hasWait, true)) continue;
+    waiting.insert(waiting.end(), callers[place].begin(), callers[place].end());
+  }
 }
 
 void Wiring::wireEvents() {

@@ -173,7 +173,6 @@ class Wiring {
   void wireEvents();
   void wireSources();
   const Code* codeOf(const std::vector<program::Step>& steps);
-  bool waits(Place preset, std::vector<char>& seen) const;
 
   Send send(const program::Command& command);
 

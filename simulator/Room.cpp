@@ -101,10 +101,10 @@ void Room::switchMains(Machine& machine, const Arrival& command) {
 }
 
 void Room::commandDisplay(Machine& machine, const Arrival& command) {
-  if (command.type != program::Command::Type::digital) return;
   if (!devices_.hasMains) return lose(machine, command, "it has no mains");
   if (devices_.power == Power::warming) return lose(machine, command, "it warms up");
   if (devices_.power == Power::cooling) return lose(machine, command, "it cools down");
+  if (command.type != program::Command::Type::digital) return;
   const auto is = [&](std::int32_t id) { return isStandard(display_, id, command.command); };
   const bool isToggle =
       command.command == toggleCommand || (is(program::standardOn) && is(program::standardOff));

@@ -1,5 +1,6 @@
 #include "simulator/Trial.h"
 
+#include <charconv>
 #include <utility>
 
 namespace simulator {
@@ -16,7 +17,11 @@ std::string shownValue(const Line& line) {
   if (line.type != Type::digital) return " = " + std::string(line.text);
   if (line.text == program::Command::levelOn) return " on";
   if (line.text == program::Command::levelOff) return " off";
-  return " (held " + inSeconds(std::stoll(std::string(line.text))) + " s)";
+  Time held = 0;
+  const char* end = line.text.data() + line.text.size();
+  const auto [read, error] = std::from_chars(line.text.data(), end, held);
+  if (error != std::errc() || read != end || held < 0) return " = " + std::string(line.text);
+  return " (held " + inSeconds(held) + " s)";
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ Unit& RoomProgram::addUnit(const std::string& name, Unit::Kind kind,
   unit.name = name;
   unit.kind = kind;
   unit.parent = kind == Unit::Kind::receiver ? program::none : 0;
-  unit.commands = std::move(commands);
+  for (std::string& command : commands) unit.inputs.push_back({std::move(command)});
   unit.outputs = std::move(outputs);
   return program_.units.emplace_back(std::move(unit));
 }

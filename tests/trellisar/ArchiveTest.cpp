@@ -137,7 +137,7 @@ TEST_F(ArchiveTest, HostileArchivesAreRefused) {
       {{{"...tsy", system.content}}, "has no usable name"},
       {{{"Room.tsy", "{}"}}, "Room.tsy: format: is missing"},
       {{system}, "it lacks the compiled program \"Büro.tsp\""},
-      {{system, {"Büro.tsp", "trellisar-program 1 0 0\n"}},
+      {{system, {"Büro.tsp", "trellisar-program 2 0 0\n"}},
        "the compiled program \"Büro.tsp\" is damaged"},
       {many, "more than 1,000 entries"},
       {{system, {"bomb", std::string(129U << 20U, '0')}}, "more than 128 MB"},

@@ -7,6 +7,7 @@
 #include "forms/ListBox.h"
 #include "forms/ProgressBar.h"
 #include "host/Error.h"
+#include "program/ProgramText.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/compile/ProgramCheck.h"
@@ -102,6 +103,36 @@ TEST_F(CompileTest, ProgramKnowsWhereEveryDeviceIsAndWhatFeedsASignal) {
   EXPECT_EQ(places["Screen"], "Relay 2 ");
   EXPECT_EQ(program["sources"].dump(),
             R"([{"unit":0,"input":"Lock","output":"","type":1,"from":0,"signal":"Powered_On"}])");
+}
+
+TEST_F(CompileTest, ProgramKnowsWhatItsMachineNeeds) {
+  auto definition = std::make_shared<trellisar::Definition>(*data().find(display)->definition);
+  definition->timing = {25, 90, 20};
+  definition->commands.front().send = "\x02PON\r";
+  data().find(display)->definition = definition;
+  const auto own = std::make_shared<host::StandardCommand>();
+  own->put_StandardID(host::scVideo1);
+  own->put_CommandName("Composite");
+  data().find(display)->standardCommands.push_back(own);
+  auto panel = window().AddInterface(host::modelFenlet, receiver, "");
+  ASSERT_TRUE(window().CreateTouchpanels(panel));
+
+  const auto program = program::readProgram(trellisar::compileProgram(data()), "Room.tsp");
+  std::map<std::string, const program::Unit*> units;
+  for (const program::Unit& unit : program.units) units[unit.name] = &unit;
+  const program::Unit& compiled = *units.at("Display Device");
+  EXPECT_EQ(compiled.timing.coolDown, 90);
+  EXPECT_EQ(compiled.inputs.front().send, "\x02PON\r");
+  EXPECT_EQ(compiled.standardCommands.at(host::scVideo1), "Composite");
+  EXPECT_EQ(compiled.standardCommands.at(host::scOn), "Power_On");
+
+  std::map<std::string, program::Button> buttons;
+  for (const program::Page& page : units.at("Fenlet")->pages) {
+    for (const program::Button& button : page.buttons) buttons[button.text] = button;
+  }
+  EXPECT_EQ(&program.units.at(static_cast<std::size_t>(buttons["DISPLAY\r\nON"].unit)), &compiled);
+  EXPECT_EQ(buttons["DISPLAY\r\nON"].command, "Power_On");
+  EXPECT_EQ(buttons["SYSTEM\r\nON"].preset, 0);
 }
 
 TEST_F(CompileTest, EverythingThatIsNotThereIsAnErrorWithItsPlace) {

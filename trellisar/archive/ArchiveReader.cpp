@@ -13,9 +13,9 @@
 #include "forms/Paths.h"
 #include "forms/Text.h"
 #include "host/Error.h"
+#include "program/ProgramText.h"
 #include "trellisar/archive/Archive.h"
 #include "trellisar/archive/ArchiveHandle.h"
-#include "trellisar/compile/ProgramHead.h"
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/document/SystemNames.h"
@@ -229,9 +229,13 @@ void checkSystem(const fs::path& file, const ZipReader& reader) {
   const std::string name = "\"" + document->compiledProgram + "\"";
   std::error_code error;
   if (!fs::is_regular_file(storedProgramFile(*document), error)) renameProgram(*document);
-  const fs::path program = storedProgramFile(*document);
-  if (!fs::is_regular_file(program, error)) reader.refuse("it lacks the compiled program " + name);
-  if (!isWholeProgram(base::readFile(program))) {
+  const fs::path stored = storedProgramFile(*document);
+  if (!fs::is_regular_file(stored, error)) reader.refuse("it lacks the compiled program " + name);
+  try {
+    program::requireWholeProgram(base::readFile(stored), stored.filename().string());
+  } catch (const program::EarlierForm&) {
+    // The system is compiled again before the program goes anywhere.
+  } catch (const base::ContentError&) {
     reader.refuse("the compiled program " + name + " is damaged");
   }
 }

@@ -7,8 +7,9 @@
 #include "base/FileIO.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
+#include "program/ProgramText.h"
 #include "trellisar/compile/ProgramCheck.h"
-#include "trellisar/compile/ProgramHead.h"
+#include "trellisar/compile/ProgramValues.h"
 #include "trellisar/document/ProgramFile.h"
 #include "trellisar/document/SystemFile.h"
 #include "trellisar/library/HostErrors.h"
@@ -52,6 +53,10 @@ class FileKeeper {
 
 }  // namespace
 
+std::string compileProgram(const DocumentData& document) {
+  return program::programText(compiledValues(document));
+}
+
 void storeCompiledProgram(DocumentData& document, const std::string& program) {
   return raisingHostErrors([&] {
     if (document.ownFile.empty()) {
@@ -85,9 +90,8 @@ std::string storedProgram(const DocumentData& document) {
                             "\" has no compiled program yet. Build the system first.");
     }
     std::string program = base::readFile(file);
-    if (isWholeProgram(program)) return program;
-    throw host::Error(host::errBadFile, "The compiled program \"" + file.string() +
-                                            "\" is damaged. Save and build the system again.");
+    program::requireWholeProgram(program, file.string());
+    return program;
   });
 }
 
@@ -98,6 +102,8 @@ bool isProgramCurrent(const DocumentData& document) {
     return base::readFile(storedProgramFile(document)) == compileProgram(document);
   } catch (const base::FileError&) {
     return false;  // building it again tells what is wrong
+  } catch (const host::Error&) {
+    return false;  // the same for the project of a panel
   }
 }
 

@@ -7,7 +7,9 @@
 /// The program of a system as the receiver takes it. Its form is in docs/compiled-program.md.
 namespace trellisar {
 
-/// The compiled program of a system without errors. The same system gives the same bytes.
+/// The compiled program of a system without errors. The same system, with the same projects of its
+/// panels, gives the same bytes. Raises host::Error errFile or errBadFile for a project that can't
+/// be read.
 std::string compileProgram(const DocumentData& document);
 
 /// Stores a compiled program beside the system's file, and in that file that it is there and

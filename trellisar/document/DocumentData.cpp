@@ -28,6 +28,15 @@ host::StandardCommand* DeviceData::findStandardCommand(std::int16_t standardId) 
   return nullptr;
 }
 
+std::string DeviceData::commandFor(std::int16_t standardId) const {
+  for (const auto& own : standardCommands) {
+    if (own->get_StandardID() == standardId && !own->get_CommandName().empty()) {
+      return own->get_CommandName();
+    }
+  }
+  return definition->defaultCommand(standardId);
+}
+
 void DocumentData::putSettings(const std::string& title, const std::string& text) {
   for (auto& [titleThere, textThere] : settings) {
     if (titleThere != title) continue;

@@ -95,6 +95,9 @@ struct DeviceData {
 
   std::string* findProperty(std::string_view propertyName);
   host::StandardCommand* findStandardCommand(std::int16_t standardId);
+  /// The command that stands for a standard command: the document's own comes before the driver's.
+  /// Empty: none does.
+  std::string commandFor(std::int16_t standardId) const;
 };
 
 using DevicePtr = std::shared_ptr<DeviceData>;

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "program/Program.h"
+
 namespace trellisar {
 
 /// A row of a device's signal table. Commands are rows too: digital inputs.
@@ -21,7 +23,8 @@ struct SignalRow {
 
 struct CommandDefinition {
   std::string name;
-  std::int16_t type;  // host::enumCommandType
+  std::int16_t type;      // host::enumCommandType
+  std::string send = {};  // what goes to the port, a byte for each code point; empty: not told
   bool operator==(const CommandDefinition&) const = default;
 };
 
@@ -69,7 +72,9 @@ struct Definition {
   std::string description;
   Connection connection = Connection::none;
   bool secondOff = false;
-  bool projectPanel = false;  // of a user interface
+  bool projectPanel = false;                             // of a user interface
+  program::Timing timing;                                // of a device
+  std::int32_t staleAfter = program::Unit().staleAfter;  // of a device, in seconds
   /// What each wire of a device does, where it takes more than one port of its connection.
   std::vector<std::string> terminals;
   /// How many ports of a connection a receiver has; a connection that is not here has no limit.

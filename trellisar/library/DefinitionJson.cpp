@@ -4,7 +4,9 @@
 
 #include "base/Fields.h"
 #include "forms/Numbers.h"
+#include "forms/Text.h"
 #include "host/Numbers.h"
+#include "program/ProgramFields.h"
 
 namespace trellisar {
 namespace {
@@ -77,6 +79,8 @@ void driverFields(Fields& fields, Device& device) {
   fields("type", device.type, 0);
   fields("connection", device.connection, connections);
   fields.unless(false, "second_off", device.secondOff);
+  fields.unless(Definition().staleAfter, "stale_after", device.staleAfter, 1,
+                program::longestTiming);
 }
 
 bool hasDriver(const Definition& definition) {
@@ -151,10 +155,27 @@ struct SignalNames {
   Names outputs;
 };
 
+template <typename Fields, typename Command>
+void commandFields(Fields& fields, Command& command) {
+  fields("name", command.name);
+  fields("kind", command.type, commandKinds);
+  fields.unless("", "send", command.send);
+}
+
+/// A port sends bytes.
+void requireBytes(const base::JsonReader& reader) {
+  for (const char32_t c : forms::toCodePoints(reader.text())) {
+    if (c > 255) reader.fail("must have no code point above 255");
+  }
+}
+
 void readCommands(const base::JsonReader& list, Definition& definition, SignalNames& names) {
   list.each([&](base::JsonReader reader) {
-    CommandDefinition command{names.inputs.take(reader.at("name")),
-                              reader.at("kind").choice(commandKinds)};
+    CommandDefinition command{{}, host::commandMomentary};
+    base::FieldReader fields(reader);
+    commandFields(fields, command);
+    names.inputs.take(reader.at("name"));
+    reader.ifPresent("send", requireBytes);
     reader.finish();
     definition.commands.push_back(std::move(command));
   });
@@ -237,6 +258,11 @@ void readDriver(base::JsonReader& reader, Definition& definition) {
         [&](const base::JsonReader& name) { definition.terminals.push_back(names.take(name)); });
     if (definition.terminals.size() > mostPorts) list.fail("are more than a receiver has");
   });
+  reader.ifPresent("timing", [&](base::JsonReader timing) {
+    base::FieldReader times(timing);
+    program::form::timingFields(times, definition.timing);
+    timing.finish();
+  });
 }
 
 void readModule(base::JsonReader& reader, Definition& definition) {
@@ -266,9 +292,9 @@ base::Json signalRows(const std::vector<SignalRow>& rows) {
 base::Json commandList(const std::vector<CommandDefinition>& commands) {
   base::Json list = base::Json::array();
   for (const CommandDefinition& command : commands) {
-    base::Json item = base::emptyObject(2);
-    item["name"] = command.name;
-    item["kind"] = nameOf(command.type, commandKinds);
+    base::Json item = base::emptyObject(3);
+    base::FieldWriter fields(item);
+    commandFields(fields, command);
     list.push_back(std::move(item));
   }
   return list;
@@ -322,6 +348,10 @@ base::Json definitionJson(const Definition& definition) {
   }
   if (hasDriver(definition)) driverFields(fields, definition);
   if (!definition.terminals.empty()) json["terminals"] = definition.terminals;
+  if (definition.timing != program::Timing()) {
+    base::FieldWriter times(json["timing"] = base::Json::object());
+    program::form::timingFields(times, definition.timing);
+  }
   addSignals(json, definition);
   for (const auto& [id, command] : definition.standardCommands) {
     json["standard_commands"][forms::decimal(id)] = command;

@@ -74,18 +74,10 @@ class Builder {
     return document_.findByName(DeviceData::Kind::device, from.device, receiver_->name);
   }
 
-  /// The document's own command for a standard command comes before the driver's.
-  static std::string standardCommand(DeviceData& device, std::int16_t id) {
-    const host::StandardCommand* own = device.findStandardCommand(id);
-    if (own && !own->get_CommandName().empty()) return own->get_CommandName();
-    return device.definition->defaultCommand(id);
-  }
-
-  void takeCommand(const TemplateObject& from, DeviceData& device, const std::string& page,
+  void takeCommand(const TemplateObject& from, const DeviceData& device, const std::string& page,
                    PanelObject& object) const {
     const bool isStandard = from.standardId != 0;
-    const std::string command =
-        isStandard ? standardCommand(device, from.standardId) : from.command;
+    const std::string command = isStandard ? device.commandFor(from.standardId) : from.command;
     if (device.definition->findCommand(command)) {
       object.device = device.name;
       object.command = command;

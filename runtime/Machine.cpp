@@ -84,6 +84,13 @@ std::optional<Time> Machine::nextDeadline() const {
   return state_.deadlines.front().at;
 }
 
+std::optional<Time> Machine::nextEffect() const {
+  for (const Deadline& deadline : state_.deadlines) {
+    if (!std::holds_alternative<Release>(deadline.work.what)) return deadline.at;
+  }
+  return std::nullopt;
+}
+
 void Machine::advance(Time time) {
   auto& deadlines = state_.deadlines;
   while (!deadlines.empty() && deadlines.front().at <= time) {

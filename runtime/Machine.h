@@ -101,8 +101,9 @@ struct State {
   std::vector<Waiting> line;
   Turn turn = Turn::free;
 
-  /// The same for states that go on alike, whenever they were reached.
-  std::size_t hash() const;
+  /// The same for states that go on alike, whenever they were reached, for whom only some signals
+  /// matter, and the end of a held command does not.
+  std::size_t hash(const std::vector<char>& signalsThatMatter) const;
 };
 
 /// Runs a program. It has no clock, no thread, no input and no output: what happens is told to it,
@@ -120,6 +121,8 @@ class Machine {
   /// Lets time pass up to `time`, with all that is due then.
   void advance(Time time);
   std::optional<Time> nextDeadline() const;
+  /// As above, leaving out when commands are released.
+  std::optional<Time> nextEffect() const;
   bool isAtRest() const { return state_.deadlines.empty(); }
 
   // What a person does, now. Names and numbers are those of the program.

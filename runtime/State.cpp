@@ -24,7 +24,7 @@ class Hash {
     }
   }
   void add(const Begin& begin) { add(begin.event); }
-  void add(const Release& release) { add(release.send->to); }
+  void add(const Release&) {}
   void add(const GoesOff& level) { add(static_cast<std::size_t>(level.signal)); }
   void add(const PortDue& port) { add(static_cast<std::size_t>(port.unit)); }
 
@@ -36,12 +36,15 @@ class Hash {
 
 }  // namespace
 
-std::size_t State::hash() const {
+std::size_t State::hash(const std::vector<char>& signalsThatMatter) const {
   Hash hash;
-  hash.add(levels);
+  for (std::size_t i = 0; i < levels.size(); ++i) {
+    if (signalsThatMatter[i]) hash.add(static_cast<std::size_t>(levels[i]));
+  }
   hash.add(switches);
-  hash.add(static_cast<std::size_t>(volume) * 4 + (isLocked ? 2U : 0U) + (isMuted ? 1U : 0U));
+  hash.add(static_cast<std::size_t>(isLocked));  // nothing depends on volume and mute
   for (const Deadline& deadline : deadlines) {
+    if (std::holds_alternative<Release>(deadline.work.what)) continue;
     hash.add(static_cast<std::size_t>(deadline.at - now));
     hash.add(deadline.work.what.index());
     std::visit([&](const auto& what) { hash.add(what); }, deadline.work.what);

@@ -7,6 +7,8 @@
 #include <unordered_set>
 #include <utility>
 
+#include "simulator/Influence.h"
+
 namespace simulator {
 namespace {
 
@@ -98,7 +100,10 @@ class Search {
         room_(wiring_),
         machine_(wiring_, room_, &trace_),
         truths_(machine_, room_),
-        acts_(actsOf(wiring_)) {}
+        influence_(wiring_),
+        acts_(actsOf(wiring_)) {
+    std::erase_if(acts_, [this](const Act& act) { return !influence_.matters(act); });
+  }
 
   SearchResult run(int depth) {
     isKept_ = depth > 0;
@@ -142,13 +147,13 @@ class Search {
     const Time end = machine_.now() + day;
     std::size_t seenLines = 0;
     look(way, view, seenLines);
-    while (const auto next = machine_.nextDeadline()) {
+    while (const auto next = machine_.nextEffect()) {
       if (*next > end) return add({Truth::comesToRest, "it goes on for over a day"}, way);
       advance(*next - 1, way, view);
       machine_.advance(*next);
       look(way, view, seenLines);
       keep(way, view);
-      if (const auto after = machine_.nextDeadline(); after && *after > *next + 1) {
+      if (const auto after = machine_.nextEffect(); after && *after > *next + 1) {
         advance(*next + 1, way, view);
       }
     }
@@ -177,7 +182,7 @@ class Search {
 
   std::size_t hashNow(const HelpDeskView& view) const {
     const Devices& devices = room_.devices();
-    Hash hash(machine_.state().hash());
+    Hash hash(machine_.state().hash(influence_.signals()));
     hash.add(static_cast<std::size_t>(devices.power) * 2 + (devices.hasMains ? 1 : 0));
     hash.add(std::hash<std::string_view>{}(devices.input));
     hash.add(static_cast<std::size_t>(devices.screen) * 4 + static_cast<std::size_t>(devices.lift));
@@ -225,6 +230,7 @@ class Search {
   runtime::Trace trace_;
   Machine machine_;
   Truths truths_;
+  const Influence influence_;
   std::vector<Act> acts_;
   std::deque<Node> nodes_;
   std::unordered_set<std::size_t> seen_;

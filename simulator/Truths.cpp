@@ -1,5 +1,6 @@
 #include "simulator/Truths.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -11,8 +12,6 @@ using runtime::Line;
 using Told = HelpDeskView::Told;
 using Power = Devices::Power;
 using Position = Devices::Position;
-
-constexpr std::string_view contactInput = "Digital Input 2";
 
 Told toldOf(bool is) { return is ? Told::yes : Told::no; }
 
@@ -30,6 +29,19 @@ int stateNumber(Power power) {
   }
   return -1;
 }
+
+struct Telling {
+  std::string_view command;
+  Told HelpDeskView::*told;
+  bool isSo;
+};
+
+constexpr std::array tellings{Telling{"System_Powered_On", &HelpDeskView::isOn, true},
+                              Telling{"System_Powered_Off", &HelpDeskView::isOn, false},
+                              Telling{"System_Locked", &HelpDeskView::isLocked, true},
+                              Telling{"System_Unlocked", &HelpDeskView::isLocked, false}};
+
+constexpr std::string_view displayStateCommand = "Display_Power_State";
 
 constexpr std::array<const char*, 4> stateNames{"off", "on", "warming up", "cooling down"};
 
@@ -74,16 +86,21 @@ Truths::Truths(const runtime::Machine& machine, const Room& room)
   isContactUsed_ = signal.goesOn || signal.goesOff;
 }
 
+bool Truths::tells(std::string_view command) {
+  return command == displayStateCommand ||
+         std::any_of(tellings.begin(), tellings.end(),
+                     [&](const Telling& telling) { return telling.command == command; });
+}
+
 void Truths::watch(const runtime::Trace& trace, std::size_t first, HelpDeskView& view) const {
   if (monitoring_ == program::none) return;
   for (std::size_t i = first; i < trace.size(); ++i) {
     const Line& line = trace[i];
     if (line.kind != Line::Kind::sent || line.unit != monitoring_) continue;
-    if (line.name == "System_Powered_On") view.isOn = Told::yes;
-    if (line.name == "System_Powered_Off") view.isOn = Told::no;
-    if (line.name == "System_Locked") view.isLocked = Told::yes;
-    if (line.name == "System_Unlocked") view.isLocked = Told::no;
-    if (line.name == "Display_Power_State" && !line.text.empty()) {
+    for (const auto& [command, told, isSo] : tellings) {
+      if (line.name == command) view.*told = toldOf(isSo);
+    }
+    if (line.name == displayStateCommand && !line.text.empty()) {
       view.displayState = line.text.front() - '0';
     }
   }

@@ -46,6 +46,9 @@ struct Fault {
   auto operator<=>(const Fault&) const = default;
 };
 
+/// The contact that may forbid to switch the room on.
+inline constexpr std::string_view contactInput = "Digital Input 2";
+
 /// What this room is made of, as far as the truths ask.
 class Truths {
  public:
@@ -55,6 +58,8 @@ class Truths {
   /// Takes note of what the lines from `first` on told the help desk, and of what it did.
   void watch(const runtime::Trace& trace, std::size_t first, HelpDeskView& view) const;
   void watch(const Act& act, HelpDeskView& view) const;
+  /// Whether the help desk is told something by that command that the truths look at.
+  static bool tells(std::string_view command);
 
   /// The fault that a line is; nothing for most lines.
   std::optional<Fault> faultOf(const runtime::Line& line) const;

@@ -15,9 +15,12 @@
 #include "forms/Application.h"
 #include "forms/Paths.h"
 #include "host/Error.h"
+#include "program/ProgramHead.h"
+#include "program/ProgramText.h"
 #include "receiver/Error.h"
 #include "receiver/Frame.h"
 #include "receiver/Messages.h"
+#include "simulator/Search.h"
 #include "tests/fuzz/Structure.h"
 #include "tests/support/Files.h"
 #include "tests/support/Shipped.h"
@@ -144,6 +147,29 @@ void project(std::string_view bytes) {
   }
 }
 
+/// A program that is taken is written and read again as the same, and runs.
+void run(const std::string& bytes) {
+  try {
+    const program::Program read = program::readProgram(bytes, "Room.tsp");
+    const std::string text = programText(read);
+    require(programText(program::readProgram(text, "Room.tsp")) == text,
+            "the program changed when it was read again");
+    constexpr simulator::Time second = 100;
+    simulator::Trial trial(read);
+    for (const simulator::Act& act : simulator::actsOf(trial.wiring())) {
+      trial.act(trial.machine().now() + second, act);
+    }
+  } catch (const base::ContentError&) {
+  } catch (const runtime::EndlessLoop&) {
+  }
+}
+
+/// Few bytes have the hash that their head tells, so that they are tried behind a head too.
+void program(std::string_view bytes) {
+  run(std::string(bytes));
+  run(program::withHead(std::string(bytes)));
+}
+
 /// A file that can't be read is kept beside; one that can be keeps what was not changed.
 void preferences(std::string_view bytes) {
   const fs::path parent = folder() / "preferences";
@@ -163,8 +189,8 @@ void preferences(std::string_view bytes) {
 
 /// The kinds of file whose structure is changed. Each has a valid file among its kept cases.
 constexpr std::pair<const char*, FuzzTarget> structured[] = {
-    {"system", system},           {"library", library}, {"project", project},
-    {"preferences", preferences}, {"archive", archive}, {"answers", answers}};
+    {"system", system},   {"library", library}, {"project", project}, {"preferences", preferences},
+    {"archive", archive}, {"answers", answers}, {"program", program}};
 
 base::Json wholeFile(const std::string& kind) {
   const fs::path file = fs::path(ORLENA_SOURCE_FOLDER "/tests/fuzz/cases") / kind / "whole";
@@ -191,7 +217,7 @@ const std::map<std::string, FuzzTarget>& fuzzTargets() {
       {"settings", settings}, {"system", system},           {"library", library},
       {"answers", answers},   {"archive", archive},         {"protocol", protocol},
       {"project", project},   {"preferences", preferences}, {"structure", structure},
-      {"table", table}};
+      {"table", table},       {"program", program}};
   return targets;
 }
 

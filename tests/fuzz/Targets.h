@@ -11,7 +11,7 @@ namespace tests {
 using FuzzTarget = void (*)(std::string_view bytes);
 
 /// By name: settings, system, library, answers, archive, protocol, project, preferences,
-/// table, and structure, which changes a valid file of one of the others by what the bytes decide.
+/// table, program, and structure, which changes a valid file of one of the others by what the bytes decide.
 const std::map<std::string, FuzzTarget>& fuzzTargets();
 
 }  // namespace tests

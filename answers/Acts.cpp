@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "answers/DeviceChoice.h"
-#include "answers/Nearest.h"
 #include "answers/Shape.h"
+#include "base/Nearest.h"
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/OptionButton.h"
@@ -67,7 +67,8 @@ std::int32_t placeOfCommand(const Page& page, const forms::DropDownList& list,
   const std::vector<std::string> offered = offeredBy(list);
   const auto found = std::find(offered.begin(), offered.end(), answer.text());
   if (found == offered.end()) {
-    page.refuse(answer, quoted(answer.text()) + " is none of " + among(answer.text(), offered));
+    page.refuse(answer,
+                base::quoted(answer.text()) + " is none of " + base::among(answer.text(), offered));
   }
   return static_cast<std::int32_t>(found - offered.begin());
 }
@@ -93,7 +94,8 @@ forms::OptionButton& offeredButton(const Page& page, const std::vector<OptionWor
   }
   const std::string word = answer.text();
   if (!offered.empty() && std::find(offered.begin(), offered.end(), word) == offered.end()) {
-    page.refuse(answer, quoted(word) + " is not offered in this room; this is: " + quoted(offered));
+    page.refuse(answer, base::quoted(word) +
+                            " is not offered in this room; this is: " + base::quoted(offered));
   }
   return page.usable<forms::OptionButton>(buttonFor(buttons, answer), answer);
 }

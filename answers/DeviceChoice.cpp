@@ -1,7 +1,7 @@
 #include "answers/DeviceChoice.h"
 
-#include "answers/Nearest.h"
 #include "answers/Shape.h"
+#include "base/Nearest.h"
 #include "forms/Form.h"
 #include "forms/ListView.h"
 
@@ -14,7 +14,7 @@ std::string whyNot(const forms::ListView& list, const std::string& wanted) {
   std::vector<std::string> offered;
   for (std::int32_t row = 0; row < list.rowCount(); ++row) offered.push_back(list.text(row, 0));
   if (offered.empty()) return "the library offers no device for this place";
-  return quoted(wanted) + " is none of " + among(wanted, offered);
+  return base::quoted(wanted) + " is none of " + base::among(wanted, offered);
 }
 
 void choose(forms::Form& dialog, const Page& page, const Answer& answer) {

@@ -1,6 +1,6 @@
 #include "answers/Page.h"
 
-#include "answers/Shape.h"
+#include "base/Nearest.h"
 
 namespace answers {
 
@@ -11,7 +11,7 @@ host::Document& Hands::document() const {
 }
 
 void Page::refuseUnusable(const forms::Control& control, const Answer& answer) const {
-  refuse(answer, "is not asked for in this room: the step " + quoted(name_) +
+  refuse(answer, "is not asked for in this room: the step " + base::quoted(name_) +
                      (control.isShown() ? " has it disabled" : " does not show it") +
                      "; leave it out");
 }

@@ -5,7 +5,7 @@
 #include <map>
 
 #include "answers/AnswersShape.h"
-#include "answers/Nearest.h"
+#include "base/Nearest.h"
 #include "forms/Text.h"
 
 namespace answers {
@@ -51,7 +51,7 @@ std::string noColumn(const std::string& name) {
   if (name.empty()) return "the column has no name; give it one, or take it away";
   std::vector<std::string> known;
   for (const auto& [path, shape] : knownPaths()) known.push_back(path);
-  return quoted(name) + " is no path of an answer; known are " + among(name, known);
+  return base::quoted(name) + " is no path of an answer; known are " + base::among(name, known);
 }
 
 Json integerOf(const std::string& text) {
@@ -90,7 +90,7 @@ std::vector<RoomColumn> roomColumns(const std::vector<std::string>& names,
     const auto [column, isNew] = columns.try_emplace(path, RoomColumn{place, path, shape});
     if (!isNew) {
       faults.push_back({firstRow, place,
-                        quoted(path) + " stands above column " +
+                        base::quoted(path) + " stands above column " +
                             columnLetters(column->second.place) + " already"});
     }
   }

@@ -8,6 +8,7 @@
 #include "answers/CsvReader.h"
 #include "answers/RoomColumns.h"
 #include "answers/Shape.h"
+#include "base/Nearest.h"
 #include "forms/Text.h"
 
 namespace answers {
@@ -129,13 +130,14 @@ class Names {
   std::string faultOf(const std::string& name, std::size_t row) {
     if (name.empty()) return "name: is missing; of several rooms each must have one";
     if (!canNameAFile(name)) {
-      return "name: " + quoted(name) +
+      return "name: " + base::quoted(name) +
              " can't name a file: it holds a slash, a backslash or a "
              "control character, or begins with a point";
     }
     const auto [first, isNew] = rows_.emplace(forms::lowerCase(name), row);
     if (isNew) return {};
-    return "name: " + quoted(name) + " stands in row " + std::to_string(first->second) + " already";
+    return "name: " + base::quoted(name) + " stands in row " + std::to_string(first->second) +
+           " already";
   }
 
  private:

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "answers/Nearest.h"
 #include "base/JsonText.h"
+#include "base/Nearest.h"
 #include "forms/Text.h"
 
 namespace answers {
@@ -88,7 +88,8 @@ void checkObject(const Json& value, const Shape& shape, std::vector<base::Fault>
     const auto key = std::find_if(shape.keys.begin(), shape.keys.end(),
                                   [&known = name](const Key& k) { return k.name == known; });
     if (key == shape.keys.end()) {
-      faults.push_back({"is no key; known here are " + among(name, namesOf(shape.keys)), place});
+      faults.push_back(
+          {"is no key; known here are " + base::among(name, namesOf(shape.keys)), place});
     } else {
       check(member, key->shape, faults, place);
     }
@@ -112,7 +113,8 @@ std::string faultOf(const Json& value, const Shape& shape) {
   if (shape.kind != Shape::Kind::word) return {};
   const auto& word = value.get_ref<const std::string&>();
   const bool isKnown = std::find(shape.words.begin(), shape.words.end(), word) != shape.words.end();
-  return isKnown ? std::string() : quoted(word) + " is none of " + among(word, shape.words);
+  return isKnown ? std::string()
+                 : base::quoted(word) + " is none of " + base::among(word, shape.words);
 }
 
 }  // namespace
@@ -196,7 +198,7 @@ std::string described(const Shape& shape) {
     case Shape::Kind::text:
       return describedText(shape);
     case Shape::Kind::word:
-      return "one of " + quoted(shape.words);
+      return "one of " + base::quoted(shape.words);
     case Shape::Kind::integer:
       return "a whole number from " + std::to_string(shape.minimum) + " to " +
              std::to_string(shape.maximum);
@@ -210,14 +212,6 @@ std::string described(const Shape& shape) {
       return "anything";
   }
   return {};
-}
-
-std::string quoted(const std::string& text) { return "\"" + text + "\""; }
-
-std::string quoted(const std::vector<std::string>& texts) {
-  std::string all;
-  for (const std::string& text : texts) all += (all.empty() ? "" : ", ") + quoted(text);
-  return all;
 }
 
 }  // namespace answers

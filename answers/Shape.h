@@ -81,8 +81,4 @@ void check(const base::Json& value, const Shape& shape, std::vector<base::Fault>
 /// "a whole number from 0 to 999", as it ends the sentence "must be".
 std::string described(const Shape& shape);
 
-/// The texts in quotation marks, with commas between.
-std::string quoted(const std::vector<std::string>& texts);
-std::string quoted(const std::string& text);
-
 }  // namespace answers

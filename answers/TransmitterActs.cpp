@@ -4,8 +4,8 @@
 #include <optional>
 #include <utility>
 
-#include "answers/Nearest.h"
 #include "answers/Shape.h"
+#include "base/Nearest.h"
 #include "forms/CommandButton.h"
 #include "forms/ListBox.h"
 #include "forms/ListView.h"
@@ -55,9 +55,9 @@ void add(const Page& page, const Answer& type) {
   for (std::int32_t place = 0; place < types.count(); ++place) offered.push_back(types.text(place));
   const auto found = std::find(offered.begin(), offered.end(), type.text());
   if (found == offered.end()) {
-    page.refuse(type, offered.empty()
-                          ? "the library offers no transmitter"
-                          : quoted(type.text()) + " is none of " + among(type.text(), offered));
+    page.refuse(type, offered.empty() ? "the library offers no transmitter"
+                                      : base::quoted(type.text()) + " is none of " +
+                                            base::among(type.text(), offered));
   }
   page.user().select(types, static_cast<std::int32_t>(found - offered.begin()));
   page.user().click(page.usable<forms::CommandButton>("cmdAdd", type));

@@ -7,6 +7,7 @@
 #include "answers/SystemPlace.h"
 #include "answers/Table.h"
 #include "base/FileIO.h"
+#include "base/Nearest.h"
 #include "forms/CommandButton.h"
 #include "forms/Form.h"
 #include "forms/TabStrip.h"
@@ -44,7 +45,7 @@ void Wizard::next() const {
   hands_.user.click(window_.control("cmdNext"));
   goOn(hands_);
   if (strip(window_).currentPage() != before + 1) {
-    const std::string step = quoted(strip(window_).pageCaption(before));
+    const std::string step = base::quoted(strip(window_).pageCaption(before));
     throw RunEnded(RunEnded::refused, "the step " + step + " can't be left");
   }
 }

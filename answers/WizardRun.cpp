@@ -4,6 +4,7 @@
 #include "answers/SystemPlace.h"
 #include "answers/Table.h"
 #include "answers/Wizard.h"
+#include "base/Nearest.h"
 #include "forms/CommandButton.h"
 #include "forms/Form.h"
 
@@ -13,7 +14,7 @@ namespace {
 [[noreturn]] void refuse(const std::string& what) { throw RunEnded(RunEnded::refused, what); }
 
 [[noreturn]] void refuseNotTaken(const Page& page, const Answer& answer) {
-  const std::string what = "the step " + quoted(page.name()) + " did not take ";
+  const std::string what = "the step " + base::quoted(page.name()) + " did not take ";
   throw RunEnded(RunEnded::refused, {base::Fault{what + answer.value.dump(), answer.path}});
 }
 

@@ -1,13 +1,11 @@
-#include "answers/Nearest.h"
+#include "base/Nearest.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
 #include <utility>
 
-#include "answers/Shape.h"
-
-namespace answers {
+namespace base {
 namespace {
 
 constexpr std::size_t shortList = 8;
@@ -52,4 +50,12 @@ std::string among(const std::string& text, const std::vector<std::string>& known
          meant;
 }
 
-}  // namespace answers
+std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+
+std::string quoted(const std::vector<std::string>& texts) {
+  std::string all;
+  for (const std::string& text : texts) all += (all.empty() ? "" : ", ") + quoted(text);
+  return all;
+}
+
+}  // namespace base

@@ -134,14 +134,16 @@ class Places : public nlohmann::json_sax<Json> {
 };
 
 /// 5.0 and 5e0 are the whole number 5, as a schema has it too.
-bool keepWhole(int, Json::parse_event_t event, Json& value) {
+void keepWhole(Json& value) {
   constexpr double mostExact = 9007199254740992.0;
-  if (event != Json::parse_event_t::value || !value.is_number_float()) return true;
-  const auto number = value.get<double>();
-  if (std::trunc(number) == number && std::abs(number) <= mostExact) {
-    value = static_cast<std::int64_t>(number);
+  for (Json& part : value) {
+    if (part.is_structured()) keepWhole(part);
+    if (!part.is_number_float()) continue;
+    const auto number = part.get<double>();
+    if (std::trunc(number) == number && std::abs(number) <= mostExact) {
+      part = static_cast<std::int64_t>(number);
+    }
   }
-  return true;
 }
 
 }  // namespace
@@ -154,7 +156,10 @@ JsonText::JsonText(std::string text, const JsonLimits& limits) : value(Json::val
     return;
   }
   blankSlips(text, faults);
-  if (Places(text, limits, lines_, faults).read()) value = Json::parse(text, keepWhole);
+  if (!Places(text, limits, lines_, faults).read()) return;
+  // Not in a callback of the parser, whose time would grow with the square of a list's length.
+  value = Json::parse(text);
+  keepWhole(value);
 }
 
 std::size_t JsonText::lineOf(std::string path) const {

@@ -28,16 +28,30 @@ std::string shownValue(const Line& line) {
 
 Trial::Trial(const program::Program& program)
     : wiring_(program), room_(wiring_), machine_(wiring_, room_, &trace_) {
-  machine_.start();
+  try {
+    machine_.start();
+  } catch (const runtime::EndlessLoop&) {
+    loopAtStart_ = std::current_exception();
+  }
+}
+
+void Trial::raiseLoopAtStart() {
+  if (loopAtStart_) std::rethrow_exception(std::exchange(loopAtStart_, nullptr));
+}
+
+void Trial::advance(Time to) {
+  raiseLoopAtStart();
+  machine_.advance(to);
 }
 
 void Trial::act(Time at, Act act) {
-  machine_.advance(at);
+  advance(at);
   acts_.emplace(trace_.size() + 1, act);
   perform(machine_, act);
 }
 
 bool Trial::runToRest() {
+  raiseLoopAtStart();
   const Time latest = machine_.now() + day;
   while (const auto next = machine_.nextDeadline()) {
     if (*next > latest) {

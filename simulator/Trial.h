@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <map>
 #include <string>
 #include <vector>
@@ -17,13 +18,13 @@ namespace simulator {
 ///     trial.runToRest();
 class Trial {
  public:
-  /// The program starts at once.
+  /// The program starts at once. An endless loop in that is raised by what is called next.
   explicit Trial(const program::Program& program);
 
   /// Lets time pass up to `at`, which is not before now, and does the act then. Raises
   /// runtime::EndlessLoop, as the other two do.
   void act(Time at, Act act);
-  void advance(Time to) { machine_.advance(to); }
+  void advance(Time to);
   /// Goes on until nothing is due any more, at most a day. False when the day was over first.
   bool runToRest();
 
@@ -37,16 +38,20 @@ class Trial {
   struct Done {
     Time at = 0;
     Act act;
+    bool operator==(const Done&) const = default;
   };
   /// All that was done, in order: the script of this trial.
   std::vector<Done> script() const;
 
  private:
+  void raiseLoopAtStart();
+
   runtime::Wiring wiring_;
   Room room_;
   runtime::Trace trace_;
   runtime::Machine machine_;
   std::map<runtime::LineNumber, Act> acts_;
+  std::exception_ptr loopAtStart_;
 };
 
 /// A line of a trace for reading, without number and time: `Display Device is warming`.

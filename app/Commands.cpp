@@ -9,6 +9,7 @@
 
 #include "app/Answers.h"
 #include "app/Build.h"
+#include "app/Check.h"
 #include "app/Diff.h"
 #include "app/NamesOfLibrary.h"
 #include "app/Receiver.h"
@@ -113,6 +114,25 @@ Command gitDiffCommand(CLI::App& program) {
           {{"0", "done, whether they differ or not"},
            {"1", "the output can't be written"},
            {"2", "the command line is wrong"}}};
+}
+
+Command checkCommand(CLI::App& program) {
+  auto options = std::make_shared<CheckOptions>();
+  CLI::App* command = program.add_subcommand(
+      "check", "Looks for faults of rooms: in the program, and in what people's acts bring about");
+  named(command->add_option("FILE.tsy", options->systemFiles, "Saved systems"))->required();
+  command
+      ->add_option("--depth", options->depth,
+                   "How many acts in a row are tried; each more takes some twenty times as long")
+      ->check(CLI::Range(0, deepestCheck).description(""))
+      ->type_name("N")
+      ->capture_default_str();
+  command->add_flag("--json", options->asJson, "Prints what was found for other programs");
+  return {command,
+          [options] { return check(*options); },
+          {{"0", "nothing was found"},
+           {"1", "a fault was found, or the output can't be written"},
+           {"2", "the command line is wrong, or a file can't be read"}}};
 }
 
 Command receiverCommand(CLI::App& program) {
@@ -241,8 +261,8 @@ Commands::Commands()
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
   all = {buildCommand(program),   wizardCommand(program),  answersCommand(program),
          roomsCommand(program),   showCommand(program),    diffCommand(program),
-         gitDiffCommand(program), reportCommand(program),  schemaCommand(program),
-         libraryCommand(program), receiverCommand(program)};
+         gitDiffCommand(program), checkCommand(program),   reportCommand(program),
+         schemaCommand(program),  libraryCommand(program), receiverCommand(program)};
   CLI::Option* opened =
       named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
           ->check(isSystemOrArchive);

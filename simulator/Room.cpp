@@ -101,9 +101,9 @@ void Room::switchMains(Machine& machine, const Arrival& command) {
 }
 
 void Room::commandDisplay(Machine& machine, const Arrival& command) {
-  if (!devices_.hasMains) return lose(machine, command, "it has no mains");
-  if (devices_.power == Power::warming) return lose(machine, command, "it warms up");
-  if (devices_.power == Power::cooling) return lose(machine, command, "it cools down");
+  if (!devices_.hasMains) return lose(machine, command, lostWithoutMains);
+  if (devices_.power == Power::warming) return lose(machine, command, lostWhileWarming);
+  if (devices_.power == Power::cooling) return lose(machine, command, lostWhileCooling);
   if (command.type != program::Command::Type::digital) return;
   const auto is = [&](std::int32_t id) { return isStandard(display_, id, command.command); };
   const bool isToggle =
@@ -112,7 +112,7 @@ void Room::commandDisplay(Machine& machine, const Arrival& command) {
   if (is(program::standardOn)) return turn(machine, true, command.line);
   if (is(program::standardOff)) return turn(machine, false, command.line);
   if (!is(program::standardRGB) && !is(program::standardComposite)) return;
-  if (devices_.power == Power::off) return lose(machine, command, "it is off");
+  if (devices_.power == Power::off) return lose(machine, command, lostWhileOff);
   devices_.input = command.command;
 }
 

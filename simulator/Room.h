@@ -12,6 +12,12 @@ namespace simulator {
 using program::Place;
 using runtime::Time;
 
+// Why a display does not take a command.
+inline constexpr std::string_view lostWithoutMains = "it has no mains";
+inline constexpr std::string_view lostWhileWarming = "it warms up";
+inline constexpr std::string_view lostWhileCooling = "it cools down";
+inline constexpr std::string_view lostWhileOff = "it is off";
+
 /// What the devices of a room remember; a copy of it goes on from there.
 struct Devices {
   enum class Power { off, warming, on, cooling };

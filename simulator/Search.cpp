@@ -64,6 +64,19 @@ std::vector<Act> actsOf(const runtime::Wiring& wiring) {
   return acts;
 }
 
+bool isEveryday(const Act& act, const program::Program& program) {
+  if (const auto* press = std::get_if<PressPage>(&act)) {
+    for (const program::Page& page : program.units[static_cast<std::size_t>(press->panel)].pages) {
+      for (const program::Button& button : page.buttons) {
+        if (button.id != press->object) continue;
+        const bool isLock = button.command == "Lock" || button.command == "Unlock";
+        return button.preset != program::none || (button.unit == program.receiver && !isLock);
+      }
+    }
+  }
+  return !std::holds_alternative<HelpDesk>(act);
+}
+
 namespace {
 
 /// How a state was reached: by an act in another state. The first state has no act.
@@ -95,14 +108,16 @@ class Hash {
 
 class Search {
  public:
-  explicit Search(const program::Program& program)
+  Search(const program::Program& program, bool isEverydayAlone)
       : wiring_(program),
         room_(wiring_),
         machine_(wiring_, room_, &trace_),
         truths_(machine_, room_),
         influence_(wiring_),
         acts_(actsOf(wiring_)) {
-    std::erase_if(acts_, [this](const Act& act) { return !influence_.matters(act); });
+    std::erase_if(acts_, [&](const Act& act) {
+      return !influence_.matters(act) || (isEverydayAlone && !isEveryday(act, program));
+    });
   }
 
   SearchResult run(int depth) {
@@ -136,7 +151,7 @@ class Search {
       const bool wasForbidden = truths_.isForbidden() && !truths_.isSwitchedOn();
       perform(machine_, acts_[act]);
       if (wasForbidden && isPress(acts_[act]) && truths_.isSwitchedOn()) {
-        add({Truth::contactForbids, "the receiver is switched on"}, way);
+        add({Truth::contactForbids, Concern::lock, "the receiver is switched on"}, way);
       }
       follow(way, view);
     });
@@ -148,7 +163,8 @@ class Search {
     std::size_t seenLines = 0;
     look(way, view, seenLines);
     while (const auto next = machine_.nextEffect()) {
-      if (*next > end) return add({Truth::comesToRest, "it goes on for over a day"}, way);
+      if (*next > end)
+        return add({Truth::comesToRest, Concern::endless, "it goes on for over a day"}, way);
       advance(*next - 1, way, view);
       machine_.advance(*next);
       look(way, view, seenLines);
@@ -205,7 +221,7 @@ class Search {
     try {
       work();
     } catch (const runtime::EndlessLoop& loop) {
-      add({Truth::comesToRest, loop.what()}, way);
+      add({Truth::comesToRest, Concern::endless, loop.what()}, way);
     }
   }
 
@@ -241,7 +257,19 @@ class Search {
 }  // namespace
 
 SearchResult search(const program::Program& program, int depth) {
-  return Search(program).run(depth);
+  SearchResult result = Search(program, /*isEverydayAlone=*/true).run(depth);
+  for (Finding& finding : result.findings) finding.isEveryday = true;
+  const std::size_t everyday = result.findings.size();
+  SearchResult all = Search(program, /*isEverydayAlone=*/false).run(depth);
+  for (Finding& finding : all.findings) {
+    const auto end = result.findings.begin() + static_cast<std::ptrdiff_t>(everyday);
+    const auto isKnown = [&](const Finding& known) { return known.fault == finding.fault; };
+    if (std::none_of(result.findings.begin(), end, isKnown)) {
+      result.findings.push_back(std::move(finding));
+    }
+  }
+  result.states = all.states;
+  return result;
 }
 
 }  // namespace simulator

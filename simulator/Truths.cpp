@@ -13,6 +13,12 @@ using Told = HelpDeskView::Told;
 using Power = Devices::Power;
 using Position = Devices::Position;
 
+Concern concernOf(std::string_view whyLost) {
+  if (whyLost == lostWhileWarming) return Concern::warmUp;
+  if (whyLost == lostWhileCooling) return Concern::coolDown;
+  return whyLost == lostWithoutMains ? Concern::mains : Concern::displayPower;
+}
+
 Told toldOf(bool is) { return is ? Told::yes : Told::no; }
 
 /// What the display's state is called when the help desk is told.
@@ -69,7 +75,8 @@ std::string inWords(Truth truth) {
   return {};
 }
 
-Fault::Fault(Truth itsTruth, std::string itsWords) : truth(itsTruth), what(std::move(itsWords)) {}
+Fault::Fault(Truth itsTruth, Concern itsConcern, std::string itsWords)
+    : truth(itsTruth), concern(itsConcern), what(std::move(itsWords)) {}
 
 Truths::Truths(const runtime::Machine& machine, const Room& room)
     : machine_(machine),
@@ -116,10 +123,10 @@ void Truths::watch(const Act& act, HelpDeskView& view) const {
 std::optional<Fault> Truths::faultOf(const Line& line) const {
   if (line.unit != room_.display()) return std::nullopt;
   if (line.kind == Line::Kind::lost) {
-    return Fault{Truth::nothingIsLost, inWords(line, wiring_.program())};
+    return Fault{Truth::nothingIsLost, concernOf(line.text), inWords(line, wiring_.program())};
   }
   if (line.kind == Line::Kind::cut) {
-    return Fault{Truth::mainsStay, inWords(line, wiring_.program())};
+    return Fault{Truth::mainsStay, Concern::coolDown, inWords(line, wiring_.program())};
   }
   return std::nullopt;
 }
@@ -142,59 +149,67 @@ void Truths::checkLocks(const HelpDeskView& view, std::vector<Fault>& faults) co
   if (view.hasLocked || (isContactUsed_ && !isContactClosed())) return;
   const auto& units = wiring_.program().units;
   if (machine_.isLocked()) {
-    faults.emplace_back(Truth::contactFrees, "the receiver stays locked");
+    faults.emplace_back(Truth::contactFrees, Concern::lock, "the receiver stays locked");
   }
   for (std::size_t i = 0; i < units.size(); ++i) {
     if (units[i].kind != program::Unit::Kind::panel) continue;
     if (machine_.isEnabled(static_cast<Place>(i))) continue;
-    faults.emplace_back(Truth::contactFrees, units[i].name + " stays disabled");
+    faults.emplace_back(Truth::contactFrees, Concern::lock, units[i].name + " stays disabled");
   }
 }
 
 void Truths::checkOff(std::vector<Fault>& faults) const {
   const Devices& devices = room_.devices();
-  const auto add = [&](std::string what) { faults.emplace_back(Truth::offIsOff, std::move(what)); };
+  const auto add = [&](Concern concern, std::string what) {
+    faults.emplace_back(Truth::offIsOff, concern, std::move(what));
+  };
   if (room_.display() != program::none && devices.power != Power::off) {
-    add("the display stays " + std::string(nameOf(devices.power)));
+    add(Concern::displayPower, "the display stays " + std::string(nameOf(devices.power)));
   }
-  if (relay_ != program::none && machine_.isClosed(relay_)) add("the power relay stays closed");
+  if (relay_ != program::none && machine_.isClosed(relay_))
+    add(Concern::relay, "the power relay stays closed");
   if (room_.screen() != program::none && devices.screen != Position::up) {
-    add("the screen stays down");
+    add(Concern::screen, "the screen stays down");
   }
-  if (room_.lift() != program::none && devices.lift != Position::up) add("the lift stays down");
+  if (room_.lift() != program::none && devices.lift != Position::up)
+    add(Concern::lift, "the lift stays down");
 }
 
 void Truths::checkOn(std::vector<Fault>& faults) const {
   const Devices& devices = room_.devices();
-  const auto add = [&](std::string what) { faults.emplace_back(Truth::onIsOn, std::move(what)); };
+  const auto add = [&](Concern concern, std::string what) {
+    faults.emplace_back(Truth::onIsOn, concern, std::move(what));
+  };
   if (room_.display() != program::none) {
     if (devices.power != Power::on) {
-      add("the display stays " + std::string(nameOf(devices.power)));
+      add(Concern::displayPower, "the display stays " + std::string(nameOf(devices.power)));
     } else {
       checkSource(faults);
     }
   }
   if (room_.screen() != program::none && devices.screen != Position::down) {
-    add("the screen stays up");
+    add(Concern::screen, "the screen stays up");
   }
-  if (room_.lift() != program::none && devices.lift != Position::down) add("the lift stays up");
+  if (room_.lift() != program::none && devices.lift != Position::down)
+    add(Concern::lift, "the lift stays up");
 }
 
 void Truths::checkSource(std::vector<Fault>& faults) const {
   const runtime::Wiring::ReceiverSignals& receiver = wiring_.receiver();
-  const auto check = [&](runtime::SignalPlace selected, std::string_view input,
-                         std::string_view source) {
+  const auto check = [&](runtime::SignalPlace selected, std::string_view input, Concern concern,
+                         const std::string& source) {
     if (!machine_.level(selected) || room_.devices().input == input) return;
-    faults.emplace_back(Truth::onIsOn, "the display does not show the " + std::string(source) +
-                                           " source that is selected");
+    faults.emplace_back(Truth::onIsOn, concern,
+                        "the display does not show the " + source + " source that is selected");
   };
-  check(receiver.rgb, room_.rgbCommand(), "RGB");
-  check(receiver.composite, room_.compositeCommand(), "composite video");
+  check(receiver.rgb, room_.rgbCommand(), Concern::rgbSource, "RGB");
+  check(receiver.composite, room_.compositeCommand(), Concern::compositeSource, "composite video");
 }
 
 void Truths::checkHelpDesk(const HelpDeskView& view, std::vector<Fault>& faults) const {
   const auto add = [&](std::string what) {
-    faults.emplace_back(Truth::helpDeskIsToldRight, "the help desk was told that " + what);
+    faults.emplace_back(Truth::helpDeskIsToldRight, Concern::helpDesk,
+                        "the help desk was told that " + what);
   };
   if (view.isOn != Told::nothing && view.isOn != toldOf(isSwitchedOn())) {
     add(view.isOn == Told::yes ? "the room is on, and it is off" : "the room is off, and it is on");

@@ -36,11 +36,28 @@ struct HelpDeskView {
   bool operator==(const HelpDeskView&) const = default;
 };
 
+/// What a fault is about, and so what mends it.
+enum class Concern {
+  warmUp,        // the display warms up when a command comes
+  coolDown,      // or when its mains go
+  mains,         // the display has none
+  displayPower,  // it is off or on when it should not be
+  relay,
+  screen,
+  lift,
+  rgbSource,
+  compositeSource,
+  lock,
+  endless,
+  helpDesk,
+};
+
 /// A fault: which truth does not hold, and how it shows.
 struct Fault {
-  Fault(Truth itsTruth, std::string itsWords);
+  Fault(Truth itsTruth, Concern itsConcern, std::string itsWords);
 
   Truth truth;
+  Concern concern;
   std::string what;  // `Display Device does not take On: it warms up`
 
   auto operator<=>(const Fault&) const = default;

@@ -2,9 +2,9 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "answers/AnswersShape.h"
+#include "answers/Paths.h"
 #include "answers/Table.h"
 #include "forms/Numbers.h"
 
@@ -32,16 +32,6 @@ std::optional<Json> said(const Shape& shape, const Json& held) {
   return held;
 }
 
-/// The object that holds the key of this path, and the key.
-std::pair<Json*, std::string> placeOf(Json& answers, std::string path) {
-  Json* object = &answers;
-  for (auto point = path.find('.'); point != std::string::npos; point = path.find('.')) {
-    object = &(*object)[path.substr(0, point)];
-    path.erase(0, point + 1);
-  }
-  return {object, path};
-}
-
 void readPage(const Page& page, Json& answers) {
   for (const Row& row : stepOf(page).rows) {
     const auto held = row.act.read ? row.act.read(page) : std::nullopt;
@@ -50,14 +40,6 @@ void readPage(const Page& page, Json& answers) {
     const auto [object, key] = placeOf(answers, row.key);
     (*object)[key] = *value;
   }
-}
-
-/// Takes out what a fault is about; where a key is missing, what it is missing in.
-void takeOut(Json& answers, const std::string& path) {
-  const auto [object, key] = placeOf(answers, path.substr(0, path.find('[')));
-  if (object->is_object() && object->erase(key) > 0) return;
-  const auto point = path.rfind('.');
-  if (point != std::string::npos) takeOut(answers, path.substr(0, point));
 }
 
 }  // namespace

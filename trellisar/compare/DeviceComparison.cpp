@@ -16,15 +16,31 @@ using Part = Difference::Part;
 using Change = Difference::Change;
 using Texts = std::vector<std::string>;
 
+struct Fact {
+  std::string text;
+  Pieces pieces;  // what another text makes another one
+};
+
 /// What there is to say of a device, panel or bill entry, each under a name.
-using Facts = std::vector<Named<std::string>>;
+using Facts = std::vector<Named<Fact>>;
 
 struct Item {
   std::string shownName;
   std::string type = {};
   std::string driver = {};   // which entry of the library it is, told where two have the same type
   std::string summary = {};  // what is told of it where it is new or gone
+  Pieces pieces = {};        // itself, as a whole first, without its facts
   Facts facts = {};
+
+  Pieces whole() const { return pieces.empty() ? pieces : Pieces{pieces.front()}; }
+
+  Pieces allPieces() const {
+    Pieces all = pieces;
+    for (const auto& [name, fact] : facts) {
+      all.insert(all.end(), fact.pieces.begin(), fact.pieces.end());
+    }
+    return all;
+  }
 };
 using Items = std::vector<Named<Item>>;
 
@@ -56,12 +72,14 @@ std::string commandName(std::int16_t standardId) {
 }
 
 /// A fact that is empty is none: it is new, or gone, in a room that has another one.
-void addFact(Facts& facts, const std::string& name, const std::string& text) {
-  if (!text.empty()) facts.emplace_back(name, text);
+void addFact(Facts& facts, const std::string& name, const std::string& text, const Pieces& pieces) {
+  if (!text.empty()) facts.emplace_back(name, Fact{text, pieces});
 }
 
 void addProperties(Facts& facts, const DeviceData& device) {
-  for (const auto& [name, value] : device.properties) addFact(facts, name, value);
+  for (const auto& property : device.properties) {
+    addFact(facts, property.first, property.second, {&device, &property});
+  }
 }
 
 Item deviceItem(const DeviceData& device) {
@@ -72,13 +90,17 @@ Item deviceItem(const DeviceData& device) {
   item.driver = "model " + std::to_string(definition.modelId) + ", control entry " +
                 std::to_string(definition.controlEntry);
   item.summary = joined({item.type, port == device.name ? "" : port});
-  addFact(item.facts, "label", device.label.empty() ? "" : words::inQuotes(device.label));
-  addFact(item.facts, "port", port);
-  addFact(item.facts, "address", device.address);
-  addFact(item.facts, "in the tree", device.shown ? "shown" : "hidden");
-  addFact(item.facts, "power control", power.empty() ? "none" : power);
+  item.pieces = {&device, headOf(device)};
+  addFact(item.facts, "label", device.label.empty() ? "" : words::inQuotes(device.label),
+          item.pieces);
+  // A device at another port is the same one.
+  addFact(item.facts, "port", port, {});
+  addFact(item.facts, "address", device.address, {});
+  addFact(item.facts, "in the tree", device.shown ? "shown" : "hidden", {&device});
+  addFact(item.facts, "power control", power.empty() ? "none" : power, item.pieces);
   for (const auto& command : device.standardCommands) {
-    addFact(item.facts, commandName(command->get_StandardID()), command->get_CommandName());
+    addFact(item.facts, commandName(command->get_StandardID()), command->get_CommandName(),
+            {&device});
   }
   addProperties(item.facts, device);
   return item;
@@ -86,10 +108,12 @@ Item deviceItem(const DeviceData& device) {
 
 Item moduleItem(const DocumentData& document, const DeviceData& module) {
   Item item{.shownName = document.shownName(module.id), .summary = module.name};
-  addFact(item.facts, "in the tree", module.shown ? "shown" : "hidden");
+  item.pieces = {&module, headOf(module)};
+  addFact(item.facts, "in the tree", module.shown ? "shown" : "hidden", {&module});
   addProperties(item.facts, module);
   for (const auto& slot : module.slots) {
-    addFact(item.facts, slot->name + " sends", words::slotTarget(document, *slot));
+    addFact(item.facts, slot->name + " sends", words::slotTarget(document, *slot),
+            {&module, slot.get()});
   }
   return item;
 }
@@ -110,7 +134,9 @@ Items panelItems(const DocumentData& document) {
   Items items;
   for (const DevicePtr& panel : document.panels) {
     Item item{.shownName = panel->name};
-    addFact(item.facts, "project", panel->definition->projectPanel ? "needed" : "not needed");
+    item.pieces = {panel.get(), headOf(*panel)};
+    addFact(item.facts, "project", panel->definition->projectPanel ? "needed" : "not needed",
+            item.pieces);
     items.emplace_back(panel->name, item);
   }
   return items;
@@ -120,11 +146,11 @@ Items billItems(const DocumentData& document) {
   Items items;
   for (const auto& entry : document.bill) {
     Item item{.shownName = billDevice(document, *entry)};
-    addFact(item.facts, "main item", words::billLine(entry->main));
+    addFact(item.facts, "main item", words::billLine(entry->main), {&entry->main});
     Texts lines{words::billLine(entry->main)};
     for (const BillLine& line : entry->parts) {
       addFact(item.facts, "further part " + std::to_string(line.part),
-              "x " + std::to_string(line.quantity));
+              "x " + std::to_string(line.quantity), {&line});
       lines.push_back(words::billLine(line));
     }
     item.summary = joined(lines);
@@ -142,9 +168,9 @@ class ItemComparison {
       if (was && is) {
         compare(*was, *is);
       } else if (was) {
-        add(Change::gone, was->shownName, "", was->summary, "");
+        add(Change::gone, was->shownName, "", was->summary, "", was->allPieces());
       } else {
-        add(Change::isNew, is->shownName, "", "", is->summary);
+        add(Change::isNew, is->shownName, "", "", is->summary, {});
       }
     });
   }
@@ -153,21 +179,24 @@ class ItemComparison {
   void compare(const Item& before, const Item& after) {
     const std::string& place = before.shownName;
     if (before.type != after.type) {
-      add(Change::changed, place, "type", before.type, after.type);
+      add(Change::changed, place, "type", before.type, after.type, before.pieces);
     } else if (before.driver != after.driver) {
-      add(Change::changed, place, "driver", before.driver, after.driver);
+      add(Change::changed, place, "driver", before.driver, after.driver, before.pieces);
     }
     eachMatch(before.facts, after.facts,
-              [&](const std::string& name, const std::string* was, const std::string* is) {
-                if (!is) return add(Change::gone, place, name, *was, "");
-                if (!was) return add(Change::isNew, place, name, "", *is);
-                if (*was != *is) add(Change::changed, place, name, *was, *is);
+              [&](const std::string& name, const Fact* was, const Fact* is) {
+                if (!is) return add(Change::gone, place, name, was->text, "", was->pieces);
+                if (!was) return add(Change::isNew, place, name, "", is->text, before.whole());
+                if (was->text == is->text) return;
+                add(Change::changed, place, name, was->text, is->text, was->pieces);
               });
   }
 
   void add(Change change, const std::string& place, const std::string& what,
-           const std::string& before, const std::string& after) {
-    differences_.push_back({part_, change, place, what, before, after});
+           const std::string& before, const std::string& after, const Pieces& pieces) {
+    Difference difference{part_, change, place, what, before, after};
+    difference.pieces = pieces;
+    differences_.push_back(difference);
   }
 
   Part part_;

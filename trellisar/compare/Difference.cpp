@@ -54,7 +54,7 @@ std::string orNothing(const std::string& text) { return text.empty() ? "nothing"
 
 /// What has happened to it, to stand behind its place.
 std::string happened(const Difference& difference) {
-  const auto& [part, change, place, what, before, after, within, behind] = difference;
+  const auto& [part, change, place, what, before, after, within, behind, pieces] = difference;
   const std::string where = behind.empty() ? "" : "after " + behind + ", ";
   switch (change) {
     case Difference::Change::isNew:
@@ -71,7 +71,7 @@ std::string happened(const Difference& difference) {
 
 /// The same where it has happened to the place itself.
 std::string happenedToPlace(const Difference& difference) {
-  const auto& [part, change, place, what, before, after, within, behind] = difference;
+  const auto& [part, change, place, what, before, after, within, behind, pieces] = difference;
   if (change == Difference::Change::isNew) return " is new" + followedBy(": ", after);
   if (change == Difference::Change::gone) return " is gone" + followedBy(": ", before);
   return ": " + orNothing(before) + " became " + orNothing(after);

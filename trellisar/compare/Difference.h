@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/Json.h"
+#include "trellisar/compile/Piece.h"
 
 namespace trellisar {
 
@@ -28,6 +29,8 @@ struct Difference {
   std::vector<std::string> within = {};
   /// Of a step that is new or gone: the one before it; empty: it is the first.
   std::string behind = {};
+  /// The pieces of the room as it was that have no like now, or are not what they were.
+  Pieces pieces = {};
 };
 
 using Differences = std::vector<Difference>;

@@ -24,6 +24,27 @@ std::string identity(const StepUnit& unit) {
   return unit.name + "\n" + unit.content + "\n" + unit.timing;
 }
 
+/// The step of a unit that has one.
+Piece own(const StepUnit& unit) { return pieceOf(*unit.step); }
+
+Pieces delaysOf(const StepUnit& unit) {
+  Pieces pieces;
+  for (const DelayStep& delay : unit.delays) pieces.push_back(&delay.data);
+  return pieces;
+}
+
+/// The unit's steps, with those of its branch.
+Pieces piecesOf(const StepUnit& unit) {
+  Pieces pieces = delaysOf(unit);
+  if (!unit.step) return pieces;
+  pieces.push_back(own(unit));
+  if (const auto* branch = std::get_if<BranchStep>(&*unit.step)) {
+    const Pieces inside = stepsOf(branch->branch());
+    pieces.insert(pieces.end(), inside.begin(), inside.end());
+  }
+  return pieces;
+}
+
 std::string orElse(const std::string& text, const char* other) {
   return text.empty() ? other : text;
 }
@@ -60,6 +81,7 @@ class PresetComparison {
     (change == Change::gone ? difference.before : difference.after) = words.details(unit);
     difference.within = within;
     if (place > 0) difference.behind = words.title(units[place - 1]);
+    if (change == Change::gone) difference.pieces = piecesOf(unit);
     found_.push_back({difference, identity(unit)});
   }
 
@@ -68,16 +90,17 @@ class PresetComparison {
     const StepWords is(after_);
     const std::string title = was.title(before);
     if (!before.isRelatedTo(after)) {
-      addChange(before.device + "'s command", signalOf(before), signalOf(after), within);
+      addChange(before.device + "'s command", signalOf(before), signalOf(after), within,
+                {own(before)});
     }
     if (before.timing != after.timing) {
       addChange(title, orElse(was.timing(before), "at once"), orElse(is.timing(after), "at once"),
-                within);
+                within, delaysOf(before));
     }
     if (branchOf(before) && branchOf(after)) return compareBranches(before, after, within);
     if (before.content == after.content) return;
     addChange(title, orElse(was.value(before), "not held"), orElse(is.value(after), "not held"),
-              within);
+              within, {own(before)});
   }
 
   void compareBranches(const StepUnit& before, const StepUnit& after, const Conditions& within) {
@@ -85,7 +108,7 @@ class PresetComparison {
     const BranchStep& to = *branchOf(after);
     const std::string condition = words::conditionOf(before_, from);
     if (before.name != after.name) {
-      addChange("condition", condition, words::conditionOf(after_, to), within);
+      addChange("condition", condition, words::conditionOf(after_, to), within, {own(before)});
     }
     Conditions inside = within;
     inside.push_back(condition);
@@ -102,12 +125,13 @@ class PresetComparison {
 
   /// Values that read the same differ in how they are written down.
   void addChange(const std::string& what, const std::string& before, const std::string& after,
-                 const Conditions& within) {
+                 const Conditions& within, const Pieces& pieces) {
     const bool readSame = before == after;
     Difference difference{place_.part, Change::changed,
                           place_.name, what,
                           before,      readSame ? after + ", written in another form" : after};
     difference.within = within;
+    difference.pieces = pieces;
     found_.push_back({difference});
   }
 
@@ -155,6 +179,12 @@ class PresetComparison {
 };
 
 }  // namespace
+
+Pieces stepsOf(const PresetData& preset) {
+  Pieces pieces;
+  everyStep(preset, [&](const Step& step) { pieces.push_back(pieceOf(step)); });
+  return pieces;
+}
 
 void comparePresets(const PresetIn& before, const PresetIn& after, const PresetPlace& place,
                     Differences& differences) {

@@ -19,6 +19,9 @@ struct PresetPlace {
   std::string name;
 };
 
+/// All steps of a preset, also those of its branches.
+Pieces stepsOf(const PresetData& preset);
+
 /// Appends in what the steps differ, those of branches with the conditions that they stand in. A
 /// step that is gone from one place and new at another one has moved.
 void comparePresets(const PresetIn& before, const PresetIn& after, const PresetPlace& place,

@@ -28,10 +28,16 @@ std::vector<Named<const PresetData*>> presetsOfEvents(const DocumentData& docume
   return presets;
 }
 
-std::vector<Named<std::string>> sources(const DocumentData& document) {
-  std::vector<Named<std::string>> fed;
+struct Source {
+  std::string text;
+  Piece signal;
+};
+
+std::vector<Named<Source>> sources(const DocumentData& document) {
+  std::vector<Named<Source>> fed;
   for (const auto& [device, signal] : fedSignals(document)) {
-    fed.emplace_back(words::fedSignal(device, *signal), words::sourceOf(document, *signal));
+    fed.emplace_back(words::fedSignal(device, *signal),
+                     Source{words::sourceOf(document, *signal), signal});
   }
   return fed;
 }
@@ -49,8 +55,10 @@ std::string inOneLine(const std::string& text) {
 
 void compareComments(const PresetData& before, const PresetData& after, Differences& differences) {
   if (before.comment == after.comment) return;
-  differences.push_back({Part::presets, Change::changed, before.name, "comment",
-                         inOneLine(before.comment), inOneLine(after.comment)});
+  Difference difference{Part::presets, Change::changed,           before.name,
+                        "comment",     inOneLine(before.comment), inOneLine(after.comment)};
+  difference.pieces = {&before};
+  differences.push_back(difference);
 }
 
 class ProgramComparison {
@@ -75,17 +83,20 @@ class ProgramComparison {
 
   void fed() {
     eachMatch(sources(before_), sources(after_),
-              [&](const std::string& name, const auto* before, const auto* after) {
-                if (!before) return add(Change::isNew, name, "", *after);
-                if (!after) return add(Change::gone, name, *before, "");
-                if (*before != *after) add(Change::changed, name, *before, *after);
+              [&](const std::string& name, const Source* before, const Source* after) {
+                if (!before) return add(Change::isNew, name, "", after->text, {});
+                if (!after) return add(Change::gone, name, before->text, "", {before->signal});
+                if (before->text == after->text) return;
+                add(Change::changed, name, before->text, after->text, {before->signal});
               });
   }
 
  private:
   void add(Change change, const std::string& place, const std::string& before,
-           const std::string& after) {
-    differences_.push_back({Part::sources, change, place, "source", before, after});
+           const std::string& after, const Pieces& pieces) {
+    Difference difference{Part::sources, change, place, "source", before, after};
+    difference.pieces = pieces;
+    differences_.push_back(difference);
   }
 
   void compare(Part part, const std::string& name, const PresetData* const* before,
@@ -93,7 +104,10 @@ class ProgramComparison {
     if (before && after) {
       comparePresets({before_, **before}, {after_, **after}, {part, name}, differences_);
     } else if (before) {
-      differences_.push_back({part, Change::gone, name, "", StepWords(before_).all(**before), ""});
+      Difference gone{part, Change::gone, name, "", StepWords(before_).all(**before), ""};
+      gone.pieces = stepsOf(**before);
+      gone.pieces.push_back(*before);
+      differences_.push_back(gone);
     } else {
       differences_.push_back({part, Change::isNew, name, "", "", StepWords(after_).all(**after)});
     }

@@ -6,6 +6,7 @@
 #include "forms/Numbers.h"
 #include "host/Numbers.h"
 #include "trellisar/compile/CompiledProgram.h"
+#include "trellisar/compile/Explained.h"
 #include "trellisar/document/Steps.h"
 
 namespace trellisar {
@@ -13,7 +14,9 @@ namespace {
 
 class Lister {
  public:
-  explicit Lister(const DocumentData& document) : document_(document) {}
+  /// Without reasons, the listing tells none.
+  Lister(const DocumentData& document, const Reasons* reasons)
+      : document_(document), reasons_(reasons) {}
 
   base::Json list() const {
     base::Json json;
@@ -72,6 +75,15 @@ class Lister {
     json["properties"] = properties(device);
     json["modules"] = base::Json::array();
     for (const DevicePtr& module : device.modules) json["modules"].push_back(this->module(*module));
+    return explained(json, &device);
+  }
+
+  base::Json explained(base::Json json, Piece piece) const {
+    if (!reasons_) return json;
+    const auto reason = reasons_->find(piece);
+    const bool isFound = reason != reasons_->end();
+    json["answers"] = isFound ? reason->second.answers : std::vector<std::string>();
+    if (isFound && reason->second.isLeftOver) json["left_over"] = true;
     return json;
   }
 
@@ -86,21 +98,24 @@ class Lister {
                                {"device", document_.shownName(slot->device)},
                                {"command", slot->command}});
     }
-    return json;
+    return explained(json, &module);
   }
 
   base::Json panels() const {
     base::Json list = base::Json::array();
     for (const DevicePtr& panel : document_.panels) {
-      list.push_back({{"name", panel->name},
-                      {"project_panel", panel->definition->projectPanel},
-                      {"project_built", panel->projectBuilt}});
+      list.push_back(explained({{"name", panel->name},
+                                {"project_panel", panel->definition->projectPanel},
+                                {"project_built", panel->projectBuilt}},
+                               panel.get()));
     }
     return list;
   }
 
-  static base::Json billLine(const std::string& device, const BillLine& line, bool isMain) {
-    return {{"device", device}, {"part", line.part}, {"quantity", line.quantity}, {"main", isMain}};
+  base::Json billLine(const std::string& device, const BillLine& line, bool isMain) const {
+    return explained(
+        {{"device", device}, {"part", line.part}, {"quantity", line.quantity}, {"main", isMain}},
+        &line);
   }
 
   base::Json bill() const {
@@ -116,8 +131,9 @@ class Lister {
   base::Json presets() const {
     base::Json list = base::Json::array();
     for (const auto& preset : document_.presets) {
-      list.push_back(
-          {{"name", preset->name}, {"comment", preset->comment}, {"steps", steps(*preset)}});
+      list.push_back(explained(
+          {{"name", preset->name}, {"comment", preset->comment}, {"steps", steps(*preset)}},
+          preset.get()));
     }
     return list;
   }
@@ -125,10 +141,11 @@ class Lister {
   base::Json events() const {
     base::Json list = base::Json::array();
     for (const ProgrammedEvent& event : programmedEvents(document_)) {
-      list.push_back({{"device", event.device},
-                      {"output", event.signal},
-                      {"event", event.event},
-                      {"steps", steps(*event.preset)}});
+      list.push_back(explained({{"device", event.device},
+                                {"output", event.signal},
+                                {"event", event.event},
+                                {"steps", steps(*event.preset)}},
+                               event.preset));
     }
     return list;
   }
@@ -136,11 +153,12 @@ class Lister {
   base::Json sources() const {
     base::Json list = base::Json::array();
     for (const auto& [device, signal] : fedSignals(document_)) {
-      list.push_back({{"device", device},
-                      {"input", signal->row.input},
-                      {"output", signal->row.output},
-                      {"from", document_.shownName(signal->sourceDevice)},
-                      {"signal", signal->sourceSignal}});
+      list.push_back(explained({{"device", device},
+                                {"input", signal->row.input},
+                                {"output", signal->row.output},
+                                {"from", document_.shownName(signal->sourceDevice)},
+                                {"signal", signal->sourceSignal}},
+                               signal));
     }
     return list;
   }
@@ -165,7 +183,7 @@ class Lister {
                          json["steps"] = steps(branch.branch());
                        }},
                step);
-    return json;
+    return explained(json, pieceOf(step));
   }
 
   void addSending(base::Json& json, const StepData& step) const {
@@ -185,11 +203,16 @@ class Lister {
   }
 
   const DocumentData& document_;
+  const Reasons* reasons_;
 };
 
 }  // namespace
 
-base::Json listing(const DocumentData& document) { return Lister(document).list(); }
+base::Json listing(const DocumentData& document) { return Lister(document, nullptr).list(); }
+
+base::Json explainedListing(const DocumentData& document, const Reasons& reasons) {
+  return Lister(document, &reasons).list();
+}
 
 std::vector<ProgrammedEvent> programmedEvents(const DocumentData& document) {
   std::vector<ProgrammedEvent> events;

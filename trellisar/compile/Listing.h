@@ -1,9 +1,11 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Json.h"
+#include "trellisar/compile/Piece.h"
 #include "trellisar/document/DocumentData.h"
 
 namespace trellisar {
@@ -14,6 +16,13 @@ base::Json listing(const DocumentData& document);
 
 /// The same for reading: devices, bill of materials and the control program in words.
 std::string readableText(const DocumentData& document);
+
+/// A line of it, without its end, and the piece of the document that it tells; null: none.
+struct TextLine {
+  std::string text;
+  Piece piece = nullptr;
+};
+std::vector<TextLine> readableLines(const DocumentData& document);
 
 /// An event whose preset has steps.
 struct ProgrammedEvent {

@@ -1,4 +1,5 @@
 #include <string>
+#include <vector>
 
 #include "forms/Paths.h"
 #include "trellisar/compile/CompiledProgram.h"
@@ -16,18 +17,20 @@ using words::inQuotes;
 /// of step 4.
 class ProgramText {
  public:
-  explicit ProgramText(const DocumentData& document) : document_(document) {}
+  ProgramText(const DocumentData& document, std::vector<TextLine>& lines)
+      : document_(document), lines_(lines) {}
 
-  std::string steps(const PresetData& preset, const std::string& number = {},
-                    std::size_t level = 1) const {
-    std::string text;
+  void addSteps(const PresetData& preset, const std::string& number = {},
+                std::size_t level = 1) const {
+    const std::string indent(level * 4, ' ');
+    const std::size_t before = lines_.size();
     eachStep(preset, [&](const Step& step, int place) {
       const std::string own = number + std::to_string(place) + ".";
-      text += std::string(level * 4, ' ') + own + " " + inWords(step) + "\n";
+      lines_.push_back({indent + own + " " + inWords(step), pieceOf(step)});
       const auto* branch = std::get_if<BranchStep>(&step);
-      if (branch) text += steps(branch->branch(), own, level + 1);
+      if (branch) addSteps(branch->branch(), own, level + 1);
     });
-    return text.empty() ? std::string(level * 4, ' ') + "(nothing)\n" : text;
+    if (lines_.size() == before) lines_.push_back({indent + "(nothing)"});
   }
 
   std::string inWords(const Step& step) const {
@@ -52,35 +55,49 @@ class ProgramText {
 
  private:
   const DocumentData& document_;
+  std::vector<TextLine>& lines_;
 };
 
 class Reader {
  public:
-  explicit Reader(const DocumentData& document) : document_(document), program_(document) {}
+  explicit Reader(const DocumentData& document) : document_(document), program_(document, lines_) {}
 
-  std::string text() const {
-    return head() + devices() + panels() + bill() + presets() + events() + sources();
+  std::vector<TextLine> lines() {
+    addHead();
+    addDevices();
+    addPanels();
+    addBill();
+    addPresets();
+    addEvents();
+    addSources();
+    return lines_;
   }
 
  private:
-  std::string head() const {
-    return inQuotes(document_.name) + " in " + forms::toMachinePath(document_.folder).string() +
-           "\n" + "Saved by: " + document_.application + "\n" + "Compiled program: " +
-           (document_.compiledProgram.empty() ? "none"
-            : isProgramCurrent(document_)     ? "up to date"
-                                              : "older than the system") +
-           "\n";
+  void add(const std::string& text, Piece piece = nullptr) { lines_.push_back({text, piece}); }
+
+  void addHeading(const std::string& text) {
+    add("");
+    add(text);
   }
 
-  static std::string properties(const DeviceData& device, const std::string& indent) {
-    std::string text;
-    for (const auto& [name, value] : device.properties) {
-      if (!value.empty()) text += indent + name + ": " + value + "\n";
+  void addHead() {
+    add(inQuotes(document_.name) + " in " + forms::toMachinePath(document_.folder).string());
+    add("Saved by: " + document_.application);
+    const char* program = document_.compiledProgram.empty() ? "none"
+                          : isProgramCurrent(document_)     ? "up to date"
+                                                            : "older than the system";
+    add(std::string("Compiled program: ") + program);
+  }
+
+  void addProperties(const DeviceData& device, const std::string& indent) {
+    for (const auto& property : device.properties) {
+      if (property.second.empty()) continue;
+      add(indent + property.first + ": " + property.second, &property);
     }
-    return text;
   }
 
-  std::string device(const DeviceData& device) const {
+  void addDevice(const DeviceData& device) {
     const std::string type = words::typeOf(device);
     const std::string powerControl = words::powerControlOf(device);
     std::string text = "    " + device.name;
@@ -90,89 +107,95 @@ class Reader {
       if (port != device.name) text += ", " + port;
     }
     if (!powerControl.empty()) text += ", power control: " + powerControl;
-    text += "\n";
-    text += properties(device, "        ");
+    add(text, headOf(device));
+    addProperties(device, "        ");
     for (const DevicePtr& module : device.modules) {
-      text += "        module " + module->shortName + " (" + module->name + ")\n" +
-              properties(*module, "            ") + slots(*module);
+      add("        module " + module->shortName + " (" + module->name + ")", headOf(*module));
+      addProperties(*module, "            ");
+      addSlots(*module);
     }
-    return text;
   }
 
-  std::string slots(const DeviceData& module) const {
-    std::string text;
+  void addSlots(const DeviceData& module) {
     for (const auto& slot : module.slots) {
-      text += "            " + slot->name + " sends " + words::slotTarget(document_, *slot) + "\n";
+      const std::string target = words::slotTarget(document_, *slot);
+      add("            " + slot->name + " sends " + target, slot.get());
     }
-    return text;
   }
 
-  std::string devices() const {
-    std::string text = "\nDevices\n";
-    for (const DevicePtr& item : listedDevices(document_)) text += device(*item);
-    for (const std::string& problem : devicesWithoutPort(document_))
-      text += "    " + problem + "\n";
-    return text;
+  void addDevices() {
+    addHeading("Devices");
+    for (const DevicePtr& item : listedDevices(document_)) addDevice(*item);
+    for (const std::string& problem : devicesWithoutPort(document_)) add("    " + problem);
   }
 
-  std::string panels() const {
-    if (document_.panels.empty()) return {};
-    std::string text = "\nTouch panels\n";
+  void addPanels() {
+    if (document_.panels.empty()) return;
+    addHeading("Touch panels");
     for (const DevicePtr& panel : document_.panels) {
-      text += "    " + panel->name;
+      std::string text = "    " + panel->name;
       if (panel->definition->projectPanel) {
         text += panel->projectBuilt ? ", project built" : ", project not built yet";
       }
-      text += "\n";
+      add(text, headOf(*panel));
     }
-    return text;
   }
 
-  std::string bill() const {
-    std::string text = "\nBill of materials\n";
+  void addBill() {
+    addHeading("Bill of materials");
     for (const auto& entry : document_.bill) {
-      text += "    " + billDevice(document_, *entry) + ": " + words::billLine(entry->main) + "\n";
-      for (const BillLine& line : entry->parts)
-        text += "        " + words::billLine(line) + ", further part\n";
+      const std::string device = billDevice(document_, *entry);
+      add("    " + device + ": " + words::billLine(entry->main), &entry->main);
+      for (const BillLine& line : entry->parts) {
+        add("        " + words::billLine(line) + ", further part", &line);
+      }
     }
-    return text;
   }
 
-  std::string presets() const {
-    std::string text = "\nPresets\n";
+  void addPresets() {
+    addHeading("Presets");
     for (const auto& preset : document_.presets) {
-      text += "  " + inQuotes(preset->name) + "\n" + program_.steps(*preset);
+      add("  " + inQuotes(preset->name), preset.get());
+      program_.addSteps(*preset);
     }
-    return text;
   }
 
-  std::string events() const {
+  void addEvents() {
     const auto all = programmedEvents(document_);
-    if (all.empty()) return {};
-    std::string text = "\nEvents\n";
+    if (all.empty()) return;
+    addHeading("Events");
     for (const ProgrammedEvent& event : all) {
-      text += "  " + words::eventOf(event) + "\n" + program_.steps(*event.preset);
+      add("  " + words::eventOf(event), event.preset);
+      program_.addSteps(*event.preset);
     }
-    return text;
   }
 
-  std::string sources() const {
+  void addSources() {
     const auto fed = fedSignals(document_);
-    if (fed.empty()) return {};
-    std::string text = "\nSources\n";
+    if (fed.empty()) return;
+    addHeading("Sources");
     for (const auto& [device, signal] : fed) {
-      text += "    " + words::fedSignal(device, *signal) + " follows " +
-              words::sourceOf(document_, *signal) + "\n";
+      add("    " + words::fedSignal(device, *signal) + " follows " +
+              words::sourceOf(document_, *signal),
+          signal);
     }
-    return text;
   }
 
   const DocumentData& document_;
+  std::vector<TextLine> lines_;
   ProgramText program_;
 };
 
 }  // namespace
 
-std::string readableText(const DocumentData& document) { return Reader(document).text(); }
+std::vector<TextLine> readableLines(const DocumentData& document) {
+  return Reader(document).lines();
+}
+
+std::string readableText(const DocumentData& document) {
+  std::string text;
+  for (const TextLine& line : readableLines(document)) text += line.text + "\n";
+  return text;
+}
 
 }  // namespace trellisar

@@ -7,6 +7,9 @@
 #include <string>
 #include <system_error>
 
+#include "answers/Interrupt.h"
+#include "answers/Paths.h"
+#include "answers/RunEnded.h"
 #include "trellisar/document/SystemFile.h"
 
 namespace answers {
@@ -53,6 +56,20 @@ fs::path build(base::Json answers, const fs::path& folder, const RoomOptions& op
 trellisar::DocumentPtr buildAnew(base::Json answers, const RoomOptions& options) {
   const TemporaryFolder folder;
   return trellisar::readSystemFile(build(std::move(answers), folder.path, options), nullptr);
+}
+
+trellisar::DocumentPtr buildOfWhatHolds(base::Json& answers, const RoomOptions& options) {
+  while (true) {
+    const TemporaryFolder folder;
+    try {
+      return trellisar::readSystemFile(build(answers, folder.path, options), nullptr);
+    } catch (const RunEnded& ended) {
+      Interrupt::endRunIfRequested();
+      const fs::path saved = folder.path / name / (std::string(name) + ".tsy");
+      if (fs::exists(saved)) return trellisar::readSystemFile(saved, nullptr);
+      if (!takeOut(answers, ended.faults().front().path)) throw;
+    }
+  }
 }
 
 }  // namespace answers

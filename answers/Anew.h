@@ -11,4 +11,9 @@ namespace answers {
 /// nothing, such as with a library that lacks a device of theirs.
 trellisar::DocumentPtr buildAnew(base::Json answers, const RoomOptions& options);
 
+/// The room of those of the answers that it can be given: what the wizard does not ask for without
+/// the others is taken out of them. A room whose program has faults is one too. Raises the same
+/// where there is none.
+trellisar::DocumentPtr buildOfWhatHolds(base::Json& answers, const RoomOptions& options);
+
 }  // namespace answers

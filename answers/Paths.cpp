@@ -1,5 +1,7 @@
 #include "answers/Paths.h"
 
+#include "forms/Text.h"
+
 namespace answers {
 
 using base::Json;
@@ -13,11 +15,23 @@ std::pair<Json*, std::string> placeOf(Json& answers, std::string path) {
   return {object, path};
 }
 
+bool isAnswered(const Json& answers, const std::string& path) {
+  const std::string pointer =
+      "/" + forms::replacedAll(forms::replacedAll(forms::replacedAll(path, "].", "/"), "[", "/"),
+                               ".", "/");
+  return answers.contains(Json::json_pointer(forms::replacedAll(pointer, "]", "")));
+}
+
 bool takeOut(Json& answers, const std::string& path) {
-  const auto [object, key] = placeOf(answers, path.substr(0, path.find('[')));
-  if (object->is_object() && object->erase(key) > 0) return true;
-  const auto point = path.rfind('.');
-  return point != std::string::npos && takeOut(answers, path.substr(0, point));
+  const std::string keys = path.substr(0, path.find('['));
+  const auto point = keys.find('.');
+  const std::string key = keys.substr(0, point);
+  if (!answers.is_object() || !answers.contains(key)) return false;
+  if (point == std::string::npos) return answers.erase(key) > 0;
+  const std::string inside = keys.substr(point + 1);
+  const bool isLast = inside.find('.') == std::string::npos;
+  if (isLast && !answers[key].contains(inside)) return answers.erase(key) > 0;
+  return takeOut(answers[key], inside);
 }
 
 }  // namespace answers

@@ -11,6 +11,7 @@
 #include "app/Build.h"
 #include "app/Check.h"
 #include "app/Diff.h"
+#include "app/Explain.h"
 #include "app/NamesOfLibrary.h"
 #include "app/Receiver.h"
 #include "app/Reports.h"
@@ -102,6 +103,18 @@ Command diffCommand(CLI::App& program) {
           {{"0", "they are the same"},
            {"1", "they differ, or the output can't be written"},
            {"2", "the command line is wrong, or a file can't be read"}}};
+}
+
+Command explainCommand(CLI::App& program) {
+  auto options = std::make_shared<ExplainOptions>();
+  CLI::App* command = program.add_subcommand(
+      "explain", "Prints what show prints, and the answers that each line is there for");
+  named(command->add_option("FILE.tsy", options->systemFile, "A saved system"))->required();
+  command->add_flag("--json", options->asJson, "Prints the listing for other programs");
+  command
+      ->add_option("--library", options->library, "Device library in the place of the shipped one")
+      ->type_name("FOLDER");
+  return {command, [options] { return explain(*options); }, statusesOfAReader()};
 }
 
 Command gitDiffCommand(CLI::App& program) {
@@ -260,9 +273,10 @@ Commands::Commands()
   program.require_subcommand(0, 1);
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
   all = {buildCommand(program),   wizardCommand(program),  answersCommand(program),
-         roomsCommand(program),   showCommand(program),    diffCommand(program),
-         gitDiffCommand(program), checkCommand(program),   reportCommand(program),
-         schemaCommand(program),  libraryCommand(program), receiverCommand(program)};
+         roomsCommand(program),   showCommand(program),    explainCommand(program),
+         diffCommand(program),    gitDiffCommand(program), checkCommand(program),
+         reportCommand(program),  schemaCommand(program),  libraryCommand(program),
+         receiverCommand(program)};
   CLI::Option* opened =
       named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
           ->check(isSystemOrArchive);

@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <random>
+#include <regex>
+#include <set>
 
 #include "answers/AnswersShape.h"
+#include "answers/Explanation.h"
 #include "answers/Room.h"
 #include "answers/RunEnded.h"
 #include "app/AddIn.h"
@@ -12,6 +16,7 @@
 #include "host/Numbers.h"
 #include "tests/app/Program.h"
 #include "tests/generator/Covering.h"
+#include "trellisar/compare/Compare.h"
 #include "trellisar/compile/Listing.h"
 #include "trellisar/document/SystemFile.h"
 
@@ -226,6 +231,59 @@ TEST_P(AnswersOfAnySystem, buildItsLike) {
   }
 }
 INSTANTIATE_TEST_SUITE_P(Part, AnswersOfAnySystem, testing::Range(0U, 5U));
+
+/// The pieces of a system that one built of these answers has not.
+std::set<trellisar::Piece> lackingIn(const trellisar::DocumentData& system, const fs::path& other) {
+  std::set<trellisar::Piece> lacking;
+  for (const auto& each : trellisar::compare(system, *trellisar::readSystemFile(other, nullptr))) {
+    lacking.insert(each.pieces.begin(), each.pieces.end());
+  }
+  return lacking;
+}
+
+Json without(Json answers, const std::vector<std::string>& paths) {
+  // From the last, so that the places of transmitters hold.
+  for (auto path = paths.rbegin(); path != paths.rend(); ++path) {
+    const Json::json_pointer place("/" +
+                                   std::regex_replace(*path, std::regex(R"(\]?[.[]|\])"), "/"));
+    const auto element = path->ends_with(']') ? place.parent_pointer() : place;
+    if (!answers.contains(element)) continue;
+    Json& parent = answers[element.parent_pointer()];
+    if (parent.is_array()) {
+      parent.erase(parent.begin() + std::stoi(element.back()), parent.end());
+    } else {
+      parent.erase(element.back());
+    }
+  }
+  return answers;
+}
+
+TEST_F(AnswersOfASystem, explainWhatIsGoneWithoutThem) {
+  for (unsigned seed = 1000; seed < 1006 && !HasFailure(); ++seed) {
+    SCOPED_TRACE(seed);
+    Json given = Chance(seed, *options.library).answer(answers::answersShape());
+    const fs::path original = buildPossible(given, "Original");
+    const auto system = trellisar::readSystemFile(original, nullptr);
+    const Json all = read(original).answers;
+    std::map<std::vector<std::string>, std::set<trellisar::Piece>> pieces;
+    for (const auto& [piece, reason] : answers::explain(*system, all, options)) {
+      EXPECT_FALSE(reason.isLeftOver || reason.nearest.empty());
+      pieces[reason.answers].insert(piece);
+    }
+    std::set<trellisar::Piece> explained;
+    for (const auto& [answers, there] : pieces) {
+      Json fewer = without(all, answers);
+      const auto lacking = lackingIn(*system, buildPossible(fewer, "Fewer"));
+      EXPECT_TRUE(std::ranges::includes(lacking, there)) << Json(answers) << all.dump(2);
+      explained.insert(there.begin(), there.end());
+      fs::remove_all(folder / "Fewer");
+    }
+    const auto lacking = lackingIn(*system, build(Json::object(), "Bare"));
+    EXPECT_TRUE(std::ranges::includes(explained, lacking)) << all.dump(2);
+    fs::remove_all(folder / "Original");
+    fs::remove_all(folder / "Bare");
+  }
+}
 
 }  // namespace
 }  // namespace app

@@ -9,7 +9,7 @@ struct NumberBox {
   float (*stored)(const addin::IAddIn&);
   std::vector<std::pair<const char*, float>> held;
   bool isStoredByEnter;
-  const char *bad, *refusal;  // null: any number is taken
+  const char *bad = nullptr, *refusal = nullptr;  // null: any number is taken
 };
 
 void PrintTo(const NumberBox& box, std::ostream* out) { *out << box.name; }
@@ -86,18 +86,14 @@ const NumberBox boxes[] = {
      {"chkSecondOff"},
      [](const IAddIn& addIn) -> float { return addIn.get_iSecondPowerOff(); },
      {{"9e9", 32767}, {"-5", -5}},
-     true,
-     nullptr,
-     nullptr},
+     true},
     {"Power On/Off Lockout",
      "txtPowerLockoutTime(1)",
      "chkContact",
      {},
      [](const IAddIn& addIn) -> float { return addIn.get_PowerOnLockoutTime(); },
      {{"1234", 123}, {"9e9", 32767}, {"-45", 45}},
-     true,
-     nullptr,
-     nullptr},
+     true},
     {"Display Options",
      "txtPulseTimeOff(0)",
      "chkInclude(1)",

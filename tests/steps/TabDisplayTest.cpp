@@ -39,20 +39,6 @@ TEST_F(TabDisplayTest, ChosenDeviceShowsItsCommandsAndPagesAndCancelKeepsAll) {
   });
 }
 
-TEST_F(TabDisplayTest, SelectedCommandGoesToTheDevice) {
-  onStep([&] {
-    chooseDisplay("Bravonne P2200");
-    document().MarkUnchanged();
-    selectCommand("ctlCommands(0)", "RGB_2");
-    EXPECT_EQ(device("Display Device")->GetCommandName("187"), "RGB_2");
-    EXPECT_TRUE(isModified());
-    selectCommand("ctlCommands(0)", "");
-    goTo("Start");
-    goTo("Display Device");
-    EXPECT_EQ(selected(0), "[ Unassigned ]");
-  });
-}
-
 TEST_F(TabDisplayTest, RelayComesAndGoesWithItsBoxAndStaysWithAnotherDisplay) {
   onStep("Bravonne P2200", [&] {
     click("chkPowerRelay");

@@ -95,12 +95,14 @@ TEST_F(TabLocationTest, BrowsedFolderTakesTheNameAndMovesTheRegistration) {
   const tests::TemporaryFolder elsewhere;
   onStep([&] {
     const std::string parent = elsewhere.path();
-    desktop.expectFolderDialog("Save your system in this folder:", "");
-    click("cmdBrowse");
+    const auto browse = [&](const std::string& answer) {
+      desktop.expectFolderDialog("Save your system in this folder:", answer);
+      click("cmdBrowse");
+    };
+    browse("");
     EXPECT_EQ(location(), folder("My Orlena System"));
     EXPECT_FALSE(isModified());
-    desktop.expectFolderDialog("Save your system in this folder:", forms::fromMachinePath(parent));
-    click("cmdBrowse");
+    browse(forms::fromMachinePath(parent));
     EXPECT_EQ(location(), parent + "/My Orlena System/");
     EXPECT_TRUE(isModified());
     host->journal().clear();
@@ -108,21 +110,14 @@ TEST_F(TabLocationTest, BrowsedFolderTakesTheNameAndMovesTheRegistration) {
     EXPECT_EQ(callsOf("CreateProjectFolder"), 0);
     EXPECT_EQ(callsOf("ResetApplicationStatus"), 1);
     EXPECT_EQ(callsOf("SetApplicationStatus"), 1);
-  });
-}
 
-TEST_F(TabLocationTest, FolderBrowsedWithoutANameHoldsTheNameTypedAfterwards) {
-  const tests::TemporaryFolder elsewhere;
-  const std::string parent = elsewhere.path();
-  onStep([&] {
+    goTo("Name and Location");
     for (const char* blank : {"", "  "}) {
       enter("txtSystemName", blank);
       desktop.expectMessageWith(Icon::information, "name");
-      desktop.expectFolderDialog("Save your system in this folder:",
-                                 forms::fromMachinePath(parent));
-      click("cmdBrowse");
+      browse(forms::fromMachinePath(parent));
       enter("txtSystemName", "Room");
-      EXPECT_EQ(location(), parent + "/Room/");
+      EXPECT_EQ(location(), parent + "/Room/") << "holds the name typed afterwards";
     }
   });
 }

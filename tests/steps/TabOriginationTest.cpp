@@ -67,10 +67,6 @@ TEST_F(TabOriginationTest, AddingNumbersTheRowsUpToThree) {
     add("Wall");
     EXPECT_EQ(rows(), "Podium=Wall, Input 2=Wall");
     EXPECT_FALSE(text("lblDescription").empty());
-    types().add("Withdrawn Transmitter");
-    add("Withdrawn");
-    EXPECT_EQ(text("lblDescription"), "No OL transmitter assigned to this input.");
-    EXPECT_TRUE(!isVisible("img") && list().rowCount() == 2);
   });
 }
 

@@ -105,10 +105,7 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
     document().MarkUnchanged();
     click("chkEnablePwd");
     EXPECT_TRUE(isModified());
-    for (int clicks = 0; clicks < 2; ++clicks) {
-      EXPECT_EQ(password(), ".an Open Door of 20");
-      click("chkInclude(1)");
-    }
+    EXPECT_EQ(password(), ".an Open Door of 20");
     click("chkEnablePwd");
     EXPECT_EQ(password(), "oan Open Door of 20");
     click("chkInclude(1)");
@@ -121,10 +118,6 @@ TEST_F(TabRoomOptionsTest, PasswordLivesWhileItsTwoBoxesAreTicked) {
     click("chkInclude(1)");
     click("chkEnablePwd");
     EXPECT_EQ(password(), "o");
-    for (int clicks = 0; clicks < 2; ++clicks) click("chkInclude(1)");
-    EXPECT_EQ(states({"chkEnablePwd"}) + password(), "o.");
-
-    click("chkEnablePwd");
     enterAndLeave("txtFenletPassword", "lantern", "chkEnablePwd");
     EXPECT_EQ(addIn->get_FenletPassword(), "lantern");
     click("chkEnablePwd");

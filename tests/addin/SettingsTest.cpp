@@ -5,7 +5,15 @@
 
 namespace {
 
-using tests::Wizard;
+class Settings : public testing::Test, public tests::Wizard {
+ protected:
+  void givenBlock(const std::string& block) {
+    document().get_SystemInfo()->SetAddInAttributes("Orlena", block);
+    addIn->FileOpen();
+  }
+};
+
+using Contract = Settings;
 
 constexpr const char* freshBlock =
     "Volume Knob Control=0d;Mic Mode Control=0d;Mute on Digital Input 3 contact=False;"
@@ -25,27 +33,20 @@ constexpr const char* answeredBlock =
     "Power On Pulse Time 1=250;Power Off Pulse Time 0=30;Power Off Pulse Time 1=40;"
     "Fenlet Password(6)=a=b; c;Motion Sensor Timeout=600;";
 
-void givenBlock(Wizard& wizard, const std::string& block) {
-  wizard.document().get_SystemInfo()->SetAddInAttributes("Orlena", block);
-  wizard.addIn->FileOpen();
-}
-
-TEST(Settings, FreshSystemSavesTheWholeBlockAndTwiceTheSame) {
-  Wizard wizard;
-  wizard.run([&] {
-    wizard.clickInWindow("cmdSave");
-    EXPECT_EQ(wizard.settingsBlock(), freshBlock);
-    const std::string file = tests::fileText(wizard.systemFile("My Orlena System"));
-    wizard.clickInWindow("cmdSave");
-    EXPECT_EQ(wizard.settingsBlock(), freshBlock);
-    EXPECT_EQ(tests::fileText(wizard.systemFile("My Orlena System")), file);
+TEST_F(Settings, FreshSystemSavesTheWholeBlockAndTwiceTheSame) {
+  run([&] {
+    clickInWindow("cmdSave");
+    EXPECT_EQ(settingsBlock(), freshBlock);
+    const std::string file = tests::fileText(systemFile("My Orlena System"));
+    clickInWindow("cmdSave");
+    EXPECT_EQ(settingsBlock(), freshBlock);
+    EXPECT_EQ(tests::fileText(systemFile("My Orlena System")), file);
   });
 }
 
-TEST(Settings, EachAnswerHasItsRowAndIsReadFromIt) {
-  Wizard wizard;
-  wizard.run([&] {
-    addin::IAddIn& settings = *wizard.addIn;
+TEST_F(Settings, EachAnswerHasItsRowAndIsReadFromIt) {
+  run([&] {
+    addin::IAddIn& settings = *addIn;
     settings.put_VolumeKnobControl(true);
     settings.put_bUse3OLReceiver(1);
     settings.put_bSecondPowerOff(2);  // no tick
@@ -63,18 +64,17 @@ TEST(Settings, EachAnswerHasItsRowAndIsReadFromIt) {
     settings.put_FenletPassword("  a=b; c ");
     settings.put_MotionSensorTimeout(600);
     settings.SaveAttributes();
-    EXPECT_EQ(wizard.settingsBlock(), answeredBlock);
+    EXPECT_EQ(settingsBlock(), answeredBlock);
     settings.FileOpen();
     EXPECT_FLOAT_EQ(settings.get_PowerOnPulseTime(1), 2.5F);
     settings.SaveAttributes();
-    EXPECT_EQ(wizard.settingsBlock(), answeredBlock);
+    EXPECT_EQ(settingsBlock(), answeredBlock);
   });
 }
 
-TEST(Settings, WhatAResetAndAMissingBlockLeaveIsNotTheSame) {
-  Wizard wizard;
-  wizard.run([&] {
-    addin::IAddIn& settings = *wizard.addIn;
+TEST_F(Settings, WhatAResetAndAMissingBlockLeaveIsNotTheSame) {
+  run([&] {
+    addin::IAddIn& settings = *addIn;
     const auto answer = [&] {
       settings.put_VolumeKnobControl(true);
       settings.put_bMuteOnDigInp3(1);
@@ -88,7 +88,7 @@ TEST(Settings, WhatAResetAndAMissingBlockLeaveIsNotTheSame) {
     EXPECT_EQ(settings.get_MotionSensorTimeout(), 600);
     EXPECT_EQ(settings.get_PowerRelayOffDelay(), 120);
     answer();
-    wizard.document().get_SystemInfo()->SetAddInAttributes("Orlena", "");
+    document().get_SystemInfo()->SetAddInAttributes("Orlena", "");
     settings.LoadAttributes();
     EXPECT_FALSE(settings.get_VolumeKnobControl());
     EXPECT_EQ(settings.get_bMuteOnDigInp3(), 1);
@@ -97,55 +97,26 @@ TEST(Settings, WhatAResetAndAMissingBlockLeaveIsNotTheSame) {
   });
 }
 
-TEST(Settings, RowsThatAreMissingReadAsNothing) {
-  Wizard wizard;
-  wizard.run([&] {
-    givenBlock(wizard, "Second Power Off command Send=yes;Power Off Lockout Time=-45");
-    EXPECT_EQ(wizard.addIn->get_bSecondPowerOff(), 1);
-    EXPECT_EQ(wizard.addIn->get_PowerOnLockoutTime(), 0);
-    EXPECT_EQ(wizard.addIn->get_PowerOffLockoutTime(), 45);
-    EXPECT_EQ(wizard.addIn->get_PowerRelayOffDelay(), 0);
-    EXPECT_EQ(wizard.addIn->get_FenletPassword(), "");
+TEST_F(Settings, RowsThatAreMissingReadAsNothing) {
+  run([&] {
+    givenBlock("Second Power Off command Send=yes;Power Off Lockout Time=-45");
+    EXPECT_EQ(addIn->get_bSecondPowerOff(), 1);
+    EXPECT_EQ(addIn->get_PowerOnLockoutTime(), 0);
+    EXPECT_EQ(addIn->get_PowerOffLockoutTime(), 45);
+    EXPECT_EQ(addIn->get_PowerRelayOffDelay(), 0);
+    EXPECT_EQ(addIn->get_FenletPassword(), "");
   });
 }
 
-TEST(Settings, NumberThatDoesNotFitIsTold) {
-  Wizard wizard;
-  wizard.run([&] {
-    const std::string block = "Power On Lockout Time=40000;";
-    wizard.desktop.expectMessage("Overflow Error",
-                                 "Overflow error in GetAttributeValueInt: \r\nData: " + block +
-                                     "\r\nKey: Power On Lockout Time\r\nSeparator: ;\r\n"
-                                     "This error should be reported to Velmondo Technical Support.",
-                                 forms::Buttons::ok, forms::Icon::exclamation);
-    givenBlock(wizard, block);
-    EXPECT_EQ(wizard.addIn->get_PowerOnLockoutTime(), 0);
-  });
-}
-
-TEST(Contract, UseOpenFileFalseLetsTheDocumentGo) {
-  Wizard wizard;
-  wizard.addIn->IAddInContract_UseOpenFile(false);
-  wizard.givenOpenSystem(std::filesystem::path(ORLENA_SOURCE_FOLDER) /
-                         "data/TemplateSystems/Orlena EXAMPLE/Orlena EXAMPLE.tsy");
+TEST_F(Contract, UseOpenFileFalseLetsTheDocumentGo) {
+  addIn->IAddInContract_UseOpenFile(false);
+  givenOpenSystem(std::filesystem::path(ORLENA_SOURCE_FOLDER) /
+                  "data/TemplateSystems/Orlena EXAMPLE/Orlena EXAMPLE.tsy");
   ASSERT_TRUE(addin::IsDocumentSet());
-  wizard.document().MarkChanged();
-  wizard.addIn->IAddInContract_UseOpenFile(false);
+  document().MarkChanged();
+  addIn->IAddInContract_UseOpenFile(false);
   EXPECT_FALSE(addin::IsDocumentSet());
-  EXPECT_FALSE(wizard.document().get_Modified());
-}
-
-TEST(Contract, SecondLoadCopiesNoPictures) {
-  Wizard wizard;
-  const std::int16_t small = addin::frmImages().get_ImageList().count();
-  const std::int16_t large = addin::frmImages().get_ImageListLarge().count();
-  EXPECT_GE(small, 166);
-  EXPECT_GE(large, 174);
-  wizard.addIn->IAddInContract_Load(nullptr, wizard.host->libraryManager(),
-                                    wizard.host->communication(), wizard.host->smallPictures(),
-                                    wizard.host->largePictures(), wizard.host->mainWindow());
-  EXPECT_EQ(addin::frmImages().get_ImageList().count(), small);
-  EXPECT_EQ(addin::frmImages().get_ImageListLarge().count(), large);
+  EXPECT_FALSE(document().get_Modified());
 }
 
 }  // namespace

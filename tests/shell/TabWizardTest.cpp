@@ -95,24 +95,11 @@ TEST_F(TabWizardTest, StepWithoutMembersByNameIsLeftWithoutAnErrorAndARefusalLea
   EXPECT_EQ(tabs.GetCurrentTab(), 2);
 }
 
-TEST_F(TabWizardTest, AddingLaterStepsTellsTheParent) {
-  tabs.AddTab("test.probe", "ctl0");
-  EXPECT_EQ(calls, Calls{});
-  tabs.AddTab("test.probe", "ctl1");
-  EXPECT_EQ(calls, Calls{"OnTabChanged 1,0"});
-}
-
 TEST_F(TabWizardTest, StepThatCannotBeAddedIsToldAndLeftOut) {
   desktop.expectMessage("",
                         "Can't create \"test.unknown\": no component is registered under this id.",
                         forms::Buttons::ok, forms::Icon::critical);
   EXPECT_EQ(tabs.AddTab("test.unknown", "ctl0"), nullptr);
-
-  for (int i = 0; i < 16; ++i) ASSERT_TRUE(tabs.AddTab("test.plain", "ctl" + std::to_string(i)));
-  desktop.expectMessage("", "The tab strip \"tabControl\" has no page 16.", forms::Buttons::ok,
-                        forms::Icon::critical);
-  EXPECT_EQ(tabs.AddTab("test.plain", "ctl16"), nullptr);
-  EXPECT_EQ(tabs.GetControls().size(), 16U);
 }
 
 TEST_F(TabWizardTest, OnlyTheStepEnteredLastIsHeard) {
@@ -132,19 +119,6 @@ TEST_F(TabWizardTest, PagesAreFoundByCaptionInAnyCase) {
   EXPECT_EQ(tabs.GetCurrentTab(), 1);
   EXPECT_FALSE(tabs.SetTabVisible("nowhere", false));
   EXPECT_TRUE(tabs.SetTabVisible("page ctl0", false));
-}
-
-TEST_F(TabWizardTest, OwnButtonsShowTheNeighbourWithoutAsking) {
-  givenSteps({"refusing", "probe"});
-  auto& next = dynamic_cast<forms::CommandButton&>(tabs.control("cmdNext"));
-  tabs.put_ShowBackNext(true);
-  EXPECT_EQ(next.caption(), "&Next");
-  next.click.raise();
-  EXPECT_EQ(calls, (Calls{"OnTabChanged 0,1", "OtherTabClicked ctl0", "iTab_TabClicked ctl1"}));
-  EXPECT_FALSE(next.isEnabled());
-  tabs.put_ShowBackNext(false);
-  EXPECT_EQ(next.caption(), "");
-  EXPECT_FALSE(next.tabStop());
 }
 
 }  // namespace

@@ -8,7 +8,9 @@
 #include "forms/ListView.h"
 #include "forms/TextBox.h"
 #include "host/Numbers.h"
+#include "tests/support/Shipped.h"
 #include "tests/wizard/Wizard.h"
+#include "trellisar/objects/LibraryObjects.h"
 
 namespace {
 
@@ -27,8 +29,7 @@ void expectSaveQuestion(Wizard& wizard, Answer answer) {
 }
 
 /// A library that knows the filter that was set last, and has no memory left when it is taken away.
-class WatchedLibrary : public host::LibraryManager {
- public:
+struct WatchedLibrary : trellisar::LibraryManager {
   struct Types : host::DeviceTypes {
     void put_DeviceFilter(const std::optional<std::vector<std::int16_t>>& ids) override {
       filter = ids;
@@ -37,20 +38,10 @@ class WatchedLibrary : public host::LibraryManager {
     std::optional<std::vector<std::int16_t>> filter;
   };
 
-  explicit WatchedLibrary(std::shared_ptr<host::LibraryManager> library)
-      : library_(std::move(library)) {}
-
+  WatchedLibrary() : LibraryManager(tests::shippedLibrary(), "\\pictures") {}
   std::shared_ptr<host::DeviceTypes> get_DeviceTypes() const override { return types; }
-  std::shared_ptr<host::Models> get_Models() const override { return library_->get_Models(); }
-  std::vector<std::shared_ptr<host::LibraryModule>> get_Modules() const override {
-    return library_->get_Modules();
-  }
-  std::string get_PicturesFolder() const override { return library_->get_PicturesFolder(); }
 
   const std::shared_ptr<Types> types = std::make_shared<Types>();
-
- private:
-  std::shared_ptr<host::LibraryManager> library_;
 };
 
 /// Saves a wizard's system; the answer is a copy of it under another name.
@@ -299,7 +290,7 @@ TEST(WizardsSystem, ForeignSystemGivesItsMessageAndANewSystem) {
     tests::writeFile(file, text);
     Wizard wizard;
     wizard.givenOpenSystem(file);
-    const auto library = std::make_shared<WatchedLibrary>(wizard.host->libraryManager());
+    const auto library = std::make_shared<WatchedLibrary>();
     wizard.addIn->IAddInContract_Load(wizard.host->document(), library,
                                       wizard.host->communication(), wizard.host->smallPictures(),
                                       wizard.host->largePictures(), wizard.host->mainWindow());

@@ -70,14 +70,18 @@ class Recovery : public testing::Test {
   }
 
   /// What the dialog says, which is answered by one of its buttons, or Escape without one.
-  static std::string offer(Wizard& wizard, const std::string& button, bool restored) {
+  static std::string offer(Wizard& wizard, const std::string& button, bool restored,
+                           const std::string& opened = {}) {
     std::string words;
     wizard.desktop.whenShown("RecoveryDialog", [&](forms::Form& dialog) {
       words = dialog.control("lblWhat").shownText() + " " + dialog.control("lblWhere").shownText();
+      EXPECT_TRUE(dialog.control("cmdRestore").hasFocus()) << "Enter does no harm";
       button.empty() ? wizard.user.press(forms::keys::escape)
                      : wizard.user.click(dialog.control(button));
     });
-    EXPECT_EQ(wizard.host->mainWindow()->offerUnsaved(), restored);
+    auto& window = *wizard.host->mainWindow();
+    EXPECT_EQ(opened.empty() ? window.offerUnsaved() : window.FileOpen(opened, true) != nullptr,
+              restored);
     return words;
   }
   static void restore(Wizard& wizard) {
@@ -227,7 +231,8 @@ TEST_F(Recovery, OfASystemThatWasSavedOpensItAsChangedAndTellsWhatBecameOfItsFil
   const std::string changed = fileText(file) + "\n";
   writeFile(file, changed);
   Wizard last(options());
-  expectHas(offer(last, "cmdRestore", true), "has been changed since");
+  expectHas(offer(last, "cmdRestore", true, forms::fromMachinePath(file)),
+            "has been changed since");
   last.givenOpenDocument();
   last.run([&] {
     EXPECT_EQ(fileText(file), changed) << "untouched until it is saved";

@@ -1,8 +1,6 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "base/FileIO.h"
-#include "host/Error.h"
 #include "tests/support/Zip.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/archive/Archive.h"

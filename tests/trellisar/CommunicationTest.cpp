@@ -1,7 +1,6 @@
 
 #include "forms/ListView.h"
 #include "forms/TextBox.h"
-#include "host/Error.h"
 #include "tests/receiver/Running.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/compile/CompiledProgram.h"
@@ -49,6 +48,11 @@ class CommunicationTest : public HostTest {
   void upload(const std::string& address) {
     start(address);
     application.processEvents();
+  }
+  Kind sendAgain() {
+    link().StartTransfer(0, handle(), 2);
+    application.processEvents();
+    return link().transferOutcome()->kind;
   }
   std::string startError(std::int32_t deviceHandle) {
     return raisedBy([&] { link().StartTransfer(0, deviceHandle, 2); }).description();
@@ -119,7 +123,7 @@ TEST_F(CommunicationTest, TransferEndsLaterAndThenThePasswordIsSet) {
   EXPECT_FALSE(link().passwordOutcome()) << "a closed wizard hears no end";
 }
 
-TEST_F(CommunicationTest, CancelledTransferIsToldAndCompletesNothing) {
+TEST_F(CommunicationTest, CancelledTransferIsToldAndCompletesNothingAndAPasswordCanBeCancelled) {
   build();
   const Silent silent;
   for (const bool byCloseBox : {false, true}) {
@@ -136,11 +140,7 @@ TEST_F(CommunicationTest, CancelledTransferIsToldAndCompletesNothing) {
     EXPECT_FALSE(link().passwordOutcome());
   }
   EXPECT_EQ(calls, (std::vector<std::string>{"started", "started"}));
-}
 
-TEST_F(CommunicationTest, PasswordForASilentReceiverCanBeCancelled) {
-  const Silent silent;
-  link().setAddress(silent.address());
   application.runLater([&] { user.press(forms::keys::escape); });
   EXPECT_FALSE(link().SetPassword("1234"));
   EXPECT_EQ(link().passwordOutcome()->kind, Kind::cancelled);
@@ -210,9 +210,7 @@ TEST_F(CommunicationTest, AddressThatNobodyChoseIsAskedAbout) {
             "sends the system to " +
             there + ", which is put into the address book.",
         forms::Buttons::yesNoCancel, Icon::question, answer);
-    link().StartTransfer(0, handle(), 2);
-    application.processEvents();
-    return link().transferOutcome()->kind;
+    return sendAgain();
   };
   EXPECT_EQ(uploadAnswering(forms::Answer::cancel), Kind::cancelled);
   desktop.whenShown("AddressBookDialog", [&](forms::Form&) { user.press(forms::keys::escape); });
@@ -225,9 +223,7 @@ TEST_F(CommunicationTest, AddressThatNobodyChoseIsAskedAbout) {
   EXPECT_EQ(lastWords, "Sent to \"Hall\" at " + there + ", running.");
   host.preferences().setAddressBook({});
   EXPECT_EQ(uploadAnswering(forms::Answer::no), Kind::done);
-  link().StartTransfer(0, handle(), 2);
-  application.processEvents();
-  EXPECT_EQ(link().transferOutcome()->kind, Kind::done) << "and is not asked about again";
+  EXPECT_EQ(sendAgain(), Kind::done) << "and is not asked about again";
 }
 
 TEST_F(CommunicationTest, AddressBookIsKeptWithTheReceiverInUse) {

@@ -5,7 +5,6 @@
 
 #include "forms/Components.h"
 #include "forms/Paths.h"
-#include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/window/AddIns.h"
 

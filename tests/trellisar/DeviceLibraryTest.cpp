@@ -1,5 +1,3 @@
-#include "base/FileIO.h"
-#include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/library/DeviceLibrary.h"
 #include "trellisar/window/Pictures.h"

@@ -1,11 +1,9 @@
 #include <cstdlib>
 
-#include "base/FileIO.h"
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"
 #include "forms/Paths.h"
 #include "forms/TextBox.h"
-#include "host/Error.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/compile/CompiledProgram.h"
 #include "trellisar/dialogs/DeviceDialog.h"
@@ -29,6 +27,14 @@ class MainWindowTest : public HostTest {
   }
   void expectRefusal(const std::string& text) {
     desktop.expectMessage("Trellisar", text, Buttons::ok, Icon::exclamation);
+  }
+  /// The question before a file is replaced, of which Yes, the default, keeps it.
+  void expectKeepQuestion(const std::string& text, std::optional<forms::Answer> answer = {}) {
+    desktop.expectMessage("Trellisar", text, Buttons::yesNo, Icon::question, answer);
+  }
+  void build() {
+    bool isCancelled = false;
+    ASSERT_TRUE(window().ShowCreateProgramDialog(isCancelled));
   }
   std::string machine(const std::string& name) { return (folder.path() / name).string(); }
 };
@@ -108,22 +114,21 @@ TEST_F(MainWindowTest, ForeignFileIsReplacedOnlyAsTheHostWasTold) {
   const std::string question =
       "Another system is in the file \"" + machine("Room.tsy") +
       "\".\r\n\r\nDo you want to keep that system? Yes keeps it and does not save; No replaces it.";
-  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question);
+  expectKeepQuestion(question);
   EXPECT_FALSE(save("Room")) << "the default answer does no harm";
   EXPECT_EQ(base::readFile(folder / "Room.tsy"), first);
 
-  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
+  expectKeepQuestion(question, forms::Answer::no);
   EXPECT_TRUE(save("Room"));
   EXPECT_NE(base::readFile(folder / "Room.tsy"), first);
 }
 
 TEST_F(MainWindowTest, ReplacedSystemLeavesNoProgramAndNoPanels) {
-  bool cancelled = false;
   const auto panel = [&] { return fs::exists(folder / "Room/Fenlet.tpj"); };
   auto fenlet = window().AddInterface(host::modelFenlet, data().controlSystem, "");
   saveAsRoom();
   ASSERT_TRUE(window().CreateTouchpanels(fenlet));
-  ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
+  build();
   saveAsRoom();
   EXPECT_TRUE(panel() && fs::exists(folder / "Room/Room.tsp")) << "they are its own";
 
@@ -146,7 +151,7 @@ TEST_F(MainWindowTest, FileThatAnotherProgramChangedIsNotReplacedUnasked) {
       "Another program has changed the file \"" + file.string() +
       "\" since the system was opened.\r\n\r\nDo you want to keep that file? Yes keeps it and does "
       "not save; No replaces it.";
-  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question);
+  expectKeepQuestion(question);
   EXPECT_FALSE(save("Room\\Room"));
   bool saved = true;
   host.document()->Save(folder.inside("Room\\Room"), saved);
@@ -157,7 +162,7 @@ TEST_F(MainWindowTest, FileThatAnotherProgramChangedIsNotReplacedUnasked) {
   EXPECT_EQ(base::readFile(file), theirs);
   EXPECT_FALSE(fs::exists(folder / "Room/Room.tsp"));
 
-  desktop.expectMessage("Trellisar", question, Buttons::yesNo, Icon::question, forms::Answer::no);
+  expectKeepQuestion(question, forms::Answer::no);
   EXPECT_TRUE(save("Room\\Room"));
   EXPECT_NE(base::readFile(file), theirs);
   EXPECT_TRUE(save("Room\\Room")) << "and it is the system's own again";
@@ -170,9 +175,8 @@ TEST_F(MainWindowTest, FileThatAnotherProgramChangedIsNotReplacedUnasked) {
 }
 
 TEST_F(MainWindowTest, ProgramStaysWithTheSystemItWasCompiledFor) {
-  bool cancelled = false;
   saveAsRoom();
-  ASSERT_TRUE(window().ShowCreateProgramDialog(cancelled));
+  build();
   fs::create_directory(folder / "Hall");
   folder.write("Hall/Room.tsp", "another system's");
   data().name = "Hall";
@@ -187,20 +191,16 @@ TEST_F(MainWindowTest, ProgramStaysWithTheSystemItWasCompiledFor) {
 TEST_F(MainWindowTest, WhoWishesItSeesWhatASaveChangesOfABuiltProgram) {
   const fs::path file = folder / "Room" / "Room.tsy";
   saveAsRoom();
-  const auto build = [&] {
-    bool isCancelled = false;
-    ASSERT_TRUE(window().ShowCreateProgramDialog(isCancelled));
-  };
   const auto saveChanged = [&] {
     press(*preset("System Lock"), data().controlSystem, "Lock");
-    return window().FileSaveAs(folder.inside("Room\\Room"), "Orlena");
+    return save("Room\\Room");
   };
   build();
   EXPECT_TRUE(saveChanged()) << "nobody has asked for it";
   host.preferences().setShowsChanges(true);
   EXPECT_TRUE(saveChanged()) << "what is replaced is not built";
   build();
-  EXPECT_TRUE(window().FileSaveAs(folder.inside("Room\\Room"), "Orlena")) << "nothing changes";
+  EXPECT_TRUE(save("Room\\Room")) << "nothing changes";
 
   const std::string built = fileText(file);
   desktop.whenShown("ComparisonDialog", [&](forms::Form&) { user.press(forms::keys::escape); });
@@ -224,9 +224,6 @@ TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {
   EXPECT_TRUE(window().CreateProjectFolder(place + "\\"));
   EXPECT_TRUE(fs::is_directory(folder / "New"));
   EXPECT_TRUE(window().CreateProjectFolder(place));
-  expectRefusal("The system has no name, so its folder can't be made. Give the system a name.");
-  EXPECT_FALSE(window().CreateProjectFolder(folder.inside("") + "\\"));
-
   ASSERT_TRUE(save("New\\New"));
   EXPECT_TRUE(window().CreateProjectFolder(place)) << "the system's own folder";
   openTemplate();
@@ -234,21 +231,6 @@ TEST_F(MainWindowTest, ProjectFolderHoldsOneSystem) {
                 "\" holds another system, \"New.tsy\". Choose another name or another place for "
                 "this system.");
   EXPECT_FALSE(window().CreateProjectFolder(place));
-  folder.write("file", "");
-  expectRefusal("Can't make the folder \"" + machine("file") +
-                "\": a file stands where a folder should be. Choose another folder.");
-  EXPECT_FALSE(window().CreateProjectFolder(folder.inside("file")));
-}
-
-TEST_F(MainWindowTest, DestroyDocForgetsAndToleratesThatThereIsNone) {
-  window().SetApplicationStatus("\\a\\", "A");
-  window().SetApplicationStatus("\\b\\", "B");
-  window().ResetApplicationStatus("\\a\\", "A");
-  ASSERT_EQ(host.openSystems().size(), 1u);
-  window().DestroyDoc();
-  window().DestroyDoc();
-  EXPECT_EQ(host.document(), nullptr);
-  EXPECT_TRUE(host.openSystems().empty());
 }
 
 TEST_F(MainWindowTest, TimeTextsAreReadToHundredths) {
@@ -283,36 +265,6 @@ TEST_F(MainWindowTest, AddDeviceTellsWhatItCantAdd) {
             "\"Thing\" can't be added: there is no device \"Nobody\".");
   EXPECT_EQ(refusal([](auto& a) { a.strName = "Digital Input 1"; }),
             "There is a device named \"Digital Input 1\" in the system already.");
-}
-
-TEST_F(MainWindowTest, DeviceDialogAddsReplacesAndKeeps) {
-  host::DeviceDialogArguments arguments;
-  arguments.iParentID = data().controlSystem;
-  arguments.strName = "Screen";
-  arguments.strTitle = "Select a Device";
-  arguments.strCategory6 = "Screen";
-  std::int32_t place = 0;
-  const auto choose = [&](forms::Form& form) {
-    user.select(in<forms::ListView>(form, "lvwDevices"), place);
-    user.click(form.control("cmdOK"));
-  };
-  const auto cancel = [&](forms::Form&) { user.press(forms::keys::escape); };
-  const auto answerTo = [&](const ScriptedDesktop::Script& script) {
-    desktop.whenShown("DeviceDialog", script);
-    return window().ShowAddReplaceDeviceDialog(arguments);
-  };
-
-  EXPECT_EQ(answerTo(cancel), host::deviceDialogNone);
-  const std::int16_t first = answerTo(choose);
-  ASSERT_GT(first, 0);
-  arguments.iDeviceID = first;
-  EXPECT_EQ(answerTo(choose), host::deviceDialogUnchanged);
-  EXPECT_EQ(answerTo(cancel), host::deviceDialogUnchanged);
-  place = 1;
-  const std::int16_t second = answerTo(choose);
-  EXPECT_GT(second, first);
-  EXPECT_EQ(data().find(first), nullptr);
-  EXPECT_EQ(host.document()->get_Devices()->Item(second)->get_Name(), "Screen");
 }
 
 TEST_F(MainWindowTest, DeviceDialogFindsWordsInAnyOrderAndSorts) {

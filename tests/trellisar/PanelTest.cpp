@@ -1,8 +1,6 @@
 #include <map>
 
-#include "base/FileIO.h"
 #include "forms/Text.h"
-#include "host/Error.h"
 #include "host/ErrorLog.h"
 #include "tests/trellisar/World.h"
 #include "trellisar/panels/PanelState.h"

@@ -1,6 +1,5 @@
 #include "trellisar/settings/Preferences.h"
 
-#include "base/FileIO.h"
 #include "tests/trellisar/World.h"
 
 namespace tests {

@@ -52,12 +52,5 @@ TEST_F(PortsTest, DeviceThatDoesNotFitIsAddedWithoutAPortAndTold) {
   EXPECT_EQ(portText(*screen), "");
 }
 
-TEST_F(PortsTest, TransmittersGetTheirPortsWithTheReceiverThatHasThem) {
-  constexpr std::int16_t wallPlate = 2701;
-  const auto second = added("Wall Plate Transmitter OL2", wallPlate);
-  changeReceiver(host::modelReceiverThreeInputs);
-  EXPECT_EQ(portText(*second), "OL2");
-}
-
 }  // namespace
 }  // namespace tests

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "base/FileIO.h"
 #include "forms/DropDownList.h"
 #include "forms/ListView.h"
 #include "tests/trellisar/World.h"

@@ -5,10 +5,8 @@
 
 #include <array>
 
-#include "base/FileIO.h"
 #include "base/Json.h"
 #include "forms/Paths.h"
-#include "host/Error.h"
 #include "tests/trellisar/World.h"
 
 namespace tests {

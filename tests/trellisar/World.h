@@ -4,9 +4,11 @@
 
 #include <memory>
 
+#include "base/FileIO.h"
 #include "forms/Application.h"
 #include "forms/Form.h"
 #include "forms/User.h"
+#include "host/Error.h"
 #include "host/Numbers.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Files.h"

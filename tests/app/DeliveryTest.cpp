@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <map>
 
 #include "tests/app/Program.h"
@@ -112,9 +110,8 @@ TEST_F(Delivery, reportsAreWrittenFromASavedSystem) {
   EXPECT_EQ(program.run({"report", system, "--out", "papers"}).status, 0) << "its own are replaced";
   fs::create_directory(folder / "other");
   fs::copy_file(system, folder / "other/Meeting Room.tsy");
-  const Outcome refused = program.run({"report", "other/Meeting Room.tsy", "--out", "papers"});
-  EXPECT_EQ(refused.status, 1);
-  expectHas(refused.errors, "Meeting Room - Bill of Materials.html\" is there already");
+  expectRefused(program.run({"report", "other/Meeting Room.tsy", "--out", "papers"}), 1,
+                "Meeting Room - Bill of Materials.html\" is there already");
   EXPECT_EQ(
       program.run({"report", "other/Meeting Room.tsy", "--out", "papers", "--replace"}).status, 0);
   EXPECT_EQ(program.run({"report", "nowhere.tsy"}).status, 2);

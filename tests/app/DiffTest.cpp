@@ -43,9 +43,7 @@ TEST_F(OrlenaDiff, endsWithWhetherTwoRoomsAreTheSame) {
             R"({"part":"answers","change":"new","place":"lift","within":[],"behind":"",)"
             R"("what":"the lift is included","before":"","after":"",)"
             R"("words":"lift (the lift is included) is new"})");
-  const Outcome unreadable = program.run({"diff", "a/Hall.tsy", "text.tsy"});
-  EXPECT_EQ(unreadable.status, 2);
-  expectHas(unreadable.errors, "text.tsy");
+  expectRefused(program.run({"diff", "a/Hall.tsy", "text.tsy"}), 2, "text.tsy");
   EXPECT_EQ(program.run({"diff", "a/Hall.tsy"}).status, 2);
 }
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "tests/app/Program.h"
 
 namespace app {
@@ -8,58 +6,50 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The program in a prefix of its own, with nothing but what a test puts there.
-class InstalledOrlena : public testing::Test {
+class InstalledOrlena : public ProgramTest {
  protected:
   void SetUp() override {
-    fs::create_directories(folder_ / "prefix/bin");
-    fs::copy_file(ORLENA_PROGRAM, folder_ / "prefix/bin/orlena");
-    folder_.write("hall.json", R"({"name": "Hall"})");
+    fs::create_directories(folder / "prefix/bin");
+    fs::copy_file(ORLENA_PROGRAM, folder / "prefix/bin/orlena");
+    folder.write("hall.json", R"({"name": "Hall"})");
   }
 
   /// Data with a library that can't be opened: the error tells which one was taken.
-  void givenData(const std::string& where, const std::string& mark) const {
-    folder_.write(
+  void givenData(const std::string& where, const std::string& mark) {
+    folder.write(
         where + "/library/index.json",
         R"({"format": "trellisar-device-library", "version": 1, "files": [")" + mark + R"("]})");
   }
 
   Outcome run(const std::string& arguments, const std::string& environment = {}) {
     const std::string libraries = fs::path(ORLENA_PROGRAM).parent_path().string();
-    return program_.shell("LD_LIBRARY_PATH='" + libraries + "' " + environment +
-                          " prefix/bin/orlena " + arguments);
+    return program.shell("LD_LIBRARY_PATH='" + libraries + "' " + environment +
+                         " prefix/bin/orlena " + arguments);
   }
   std::string errorsOf(const std::string& environment = {}) {
     return run("build hall.json", environment).errors;
   }
-
-  const TemporaryFolder folder_;
-  Program program_{folder_};
 };
 
 TEST_F(InstalledOrlena, TakesTheDataThatIsNamedThenTheOneBesideThenTheInstalledOne) {
-  EXPECT_NE(errorsOf().find("prefix/share/orlena"), std::string::npos) << errorsOf();
+  expectHas(errorsOf(), "prefix/share/orlena");
   givenData("prefix/share/orlena", "installed.json");
-  EXPECT_NE(errorsOf().find("installed.json"), std::string::npos) << errorsOf();
+  expectHas(errorsOf(), "installed.json");
   givenData("prefix/bin/data", "beside.json");
-  EXPECT_NE(errorsOf().find("beside.json"), std::string::npos) << errorsOf();
+  expectHas(errorsOf(), "beside.json");
   givenData("named", "named.json");
-  EXPECT_NE(errorsOf("ORLENA_DATA=named").find("named.json"), std::string::npos);
-  const std::string missing = errorsOf("ORLENA_DATA=missing");
-  EXPECT_NE(missing.find("ORLENA_DATA names \"missing\""), std::string::npos) << missing;
+  expectHas(errorsOf("ORLENA_DATA=named"), "named.json");
+  expectHas(errorsOf("ORLENA_DATA=missing"), "ORLENA_DATA names \"missing\"");
 }
 
 TEST_F(InstalledOrlena, WithoutItsWindowsNamesThePackageThatHasThem) {
-  const Outcome outcome = run("wizard", "QT_QPA_PLATFORM=offscreen");
-  EXPECT_EQ(outcome.status, 2);
-  EXPECT_NE(outcome.errors.find("\"orlena-desktop\""), std::string::npos) << outcome.errors;
+  expectRefused(run("wizard", "QT_QPA_PLATFORM=offscreen"), 2, "\"orlena-desktop\"");
 }
 
 TEST_F(InstalledOrlena, WithBrokenWindowsSaysWhatIsWrongWithThem) {
-  folder_.write("prefix/lib/orlena/parts/liborlena-desktop.so", "no library");
-  const Outcome outcome = run("wizard", "QT_QPA_PLATFORM=offscreen");
-  EXPECT_EQ(outcome.status, 1);
-  EXPECT_NE(outcome.errors.find("lib/orlena/parts/liborlena-desktop.so"), std::string::npos)
-      << outcome.errors;
+  folder.write("prefix/lib/orlena/parts/liborlena-desktop.so", "no library");
+  expectRefused(run("wizard", "QT_QPA_PLATFORM=offscreen"), 1,
+                "lib/orlena/parts/liborlena-desktop.so");
 }
 
 }  // namespace

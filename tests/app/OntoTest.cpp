@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
 
 #include "base/FileIO.h"
@@ -119,10 +117,7 @@ TEST_F(Onto, startsNothingForWhatIsForNewSystems) {
       {"{}", {system, system, "--upload", "localhost"}, "--upload takes one room"},
   };
   for (const Case& each : cases) {
-    const Outcome built = buildOnto(each.answers, each.arguments);
-    EXPECT_EQ(built.status, 2) << each.error;
-    expectHas(built.errors, each.error);
-    EXPECT_EQ(built.output, "");
+    expectRefused(buildOnto(each.answers, each.arguments), 2, each.error);
   }
   EXPECT_EQ(fileText(system), bytes);
 }
@@ -130,20 +125,15 @@ TEST_F(Onto, startsNothingForWhatIsForNewSystems) {
 TEST_F(Onto, refusesAnAnswerThatTheSystemIsNotAskedForAndLeavesItAsItWas) {
   const std::string system = buildNew("Hall", "{}");
   const std::string bytes = fileText(system);
-  const Outcome built =
-      buildOnto(R"({"lockout": {"on": 5}, "power": {"on": "Power_On"}})", {system});
-  EXPECT_EQ(built.status, 2);
-  expectHas(built.errors, "answers.json:1: " + system + ": power.on: is not asked for");
+  expectRefused(buildOnto(R"({"lockout": {"on": 5}, "power": {"on": "Power_On"}})", {system}), 2,
+                "answers.json:1: " + system + ": power.on: is not asked for");
   EXPECT_EQ(fileText(system), bytes);
 }
 
 TEST_F(Onto, answersOfWhatIsNoSystemAreToldWithTheReason) {
   folder.write("cut.tsy", "{\"format\": ");
   for (const char* file : {"nowhere.tsy", "cut.tsy"}) {
-    const Outcome read = program.run({"answers", file});
-    EXPECT_EQ(read.status, 2);
-    EXPECT_EQ(read.output, "");
-    expectHas(read.errors, std::string(file) + ": ");
+    expectRefused(program.run({"answers", file}), 2, std::string(file) + ": ");
   }
 }
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "tests/app/Program.h"
 
 namespace app {

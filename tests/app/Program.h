@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/types.h>
 
+#include <source_location>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,14 @@ struct Outcome {
 
   std::string firstLine() const { return output.substr(0, output.find('\n')); }
 };
+
+/// A run that printed nothing, ended so and told this.
+inline void expectRefused(const Outcome& outcome, int status, const std::string& told,
+                          const std::source_location& place = std::source_location::current()) {
+  EXPECT_EQ(outcome.status, status) << "in line " << place.line();
+  EXPECT_EQ(outcome.output, "") << "in line " << place.line();
+  expectHas(outcome.errors, told, place);
+}
 
 /// The program as a process, run in a folder, which also holds its systems where nothing else is
 /// said.

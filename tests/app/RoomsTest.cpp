@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "tests/app/Program.h"
@@ -45,11 +43,9 @@ TEST_F(OrlenaRooms, leaveWhatIsThereUnlessToldToReplaceIt) {
   EXPECT_EQ(rooms(table).status, 0) << "they say the same";
 
   const std::string changed = "name,lockout.off\nNord,1\nSüd,80\n";
-  const Outcome refused = rooms(changed);
-  EXPECT_EQ(refused.status, 1);
-  EXPECT_EQ(refused.errors,
-            "rooms.csv: row 3, column A: name: made/here/Süd.json is there already and says "
-            "something else; --replace replaces it\n");
+  expectRefused(rooms(changed), 1,
+                "rooms.csv: row 3, column A: name: made/here/Süd.json is there already and says "
+                "something else; --replace replaces it\n");
   EXPECT_EQ(made(), both);
   EXPECT_EQ(rooms(changed, "--replace").status, 0);
   expectHas(fileText(folder / "made/here/Süd.json"), "80");
@@ -63,10 +59,8 @@ TEST_F(OrlenaRooms, leaveWhatIsThereUnlessToldToReplaceIt) {
 
 TEST_F(OrlenaRooms, areNotThereWhereSomethingIsWrong) {
   folder.write("room.json", R"({"lockout": {"on": 20}})");
-  const Outcome wrong = rooms("name;lockout.off\nHall;60\nNord;sixty\n");
-  EXPECT_EQ(wrong.status, 2);
-  EXPECT_EQ(wrong.errors,
-            "rooms.csv: row 3, column B: lockout.off: must be a whole number from 0 to 999\n");
+  expectRefused(rooms("name;lockout.off\nHall;60\nNord;sixty\n"), 2,
+                "rooms.csv: row 3, column B: lockout.off: must be a whole number from 0 to 999\n");
   std::string many = "name;lockout.off\n";
   for (int i = 0; i < 103; ++i) many += "Room " + std::to_string(i) + ";-1\n";
   EXPECT_TRUE(rooms(many).errors.ends_with("\nrooms.csv: and 3 more\n"));

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
 
 #include "tests/app/Program.h"
@@ -13,10 +11,7 @@ TEST(OrlenaShow, saysWhatIsWrongWithAFileThatItCanNotRead) {
   folder.write("text.tsy", "no system");
   folder.write("foreign.tsy", R"({"format": "other"})");
   for (const std::string file : {"missing.tsy", "text.tsy", "foreign.tsy", "."}) {
-    const Outcome outcome = program.run({"show", file, "--json"});
-    EXPECT_EQ(outcome.status, 2) << file;
-    EXPECT_EQ(outcome.output, "") << file;
-    expectHas(outcome.errors, file);
+    expectRefused(program.run({"show", file, "--json"}), 2, file);
   }
 }
 
@@ -31,10 +26,7 @@ TEST(OrlenaSchema, isThatOfTheLibrary) {
   };
   EXPECT_NE(displays({"schema"}).find("Bravonne P2200"), std::string::npos);
   EXPECT_EQ(displays({"schema", "--library", "own"}), "[]");
-  const Outcome outcome = program.run({"schema", "--library", "missing"});
-  EXPECT_EQ(outcome.status, 2);
-  EXPECT_NE(outcome.errors.find("orlena: "), std::string::npos) << outcome.errors;
-  EXPECT_NE(outcome.errors.find("missing"), std::string::npos) << outcome.errors;
+  expectRefused(program.run({"schema", "--library", "missing"}), 2, "missing");
 }
 
 TEST(OrlenaLibrary, listsTheNamesOfALibraryWithoutAFault) {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "tests/app/Program.h"
 
 namespace app {
@@ -9,9 +7,7 @@ TEST(OrlenaWindow, withoutADisplayIsRefusedWithTheWayAround) {
   const TemporaryFolder folder;
   Program program(folder);
   for (const auto& arguments : {std::vector<std::string>{}, {"wizard"}, {"wizard", "Hall.tsy"}}) {
-    const Outcome outcome = program.run(arguments);
-    EXPECT_EQ(outcome.status, 2);
-    expectHas(outcome.errors, "\"orlena build\" works without one");
+    expectRefused(program.run(arguments), 2, "\"orlena build\" works without one");
   }
 }
 
@@ -35,9 +31,7 @@ TEST(OrlenaWindow, onASystemThatIsNotThereDoesNotOpen) {
   Program program(folder);
   program.setPlatform("offscreen");
   for (const auto& arguments : {std::vector<std::string>{"wizard", "Hall.tsy"}, {"Hall.tsy"}}) {
-    const Outcome outcome = program.run(arguments);
-    EXPECT_EQ(outcome.status, 1);
-    expectHas(outcome.errors, "\"Hall.tsy\"");
+    expectRefused(program.run(arguments), 1, "\"Hall.tsy\"");
   }
 }
 

@@ -67,14 +67,6 @@ TEST(AttributeText, onlyThreeWordsAreTrue) {
   }
 }
 
-TEST(AttributeText, numberIsTheLeadingOneRoundedHalfToEven) {
-  EXPECT_EQ(common::GetAttributeValueInt("Delay= 12 s;", "Delay"), 12);
-  EXPECT_EQ(common::GetAttributeValueInt("Delay=2.5;", "Delay"), 2);
-  EXPECT_EQ(common::GetAttributeValueInt("Delay=-32768.4;", "Delay"), -32768);
-  EXPECT_EQ(common::GetAttributeValueInt("Delay=soon;", "Delay"), 0);
-  EXPECT_EQ(common::GetAttributeValueLong("Delay=65536;", "Delay"), 65536);
-}
-
 TEST(AttributeText, numberTooLargeForItsTypeIsToldAndReadsZero) {
   tests::ScriptedDesktop desktop;
   const forms::Application application(desktop, "\\program");

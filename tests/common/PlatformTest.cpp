@@ -62,21 +62,6 @@ TEST_F(PlatformTest, helpThatCannotBeShownIsTold) {
   common::ShowHelpTopic(0, 62);
 }
 
-TEST_F(PlatformTest, helpTopicZeroIsThatOfTheActiveForm) {
-  application.setHelpFile("Orlena.chm");
-  common::ShowHelpTopic(3, 0);
-  EXPECT_TRUE(desktop.helpTopics().empty());
-
-  forms::Form form("frmAny");
-  form.setHelpContext(69);
-  desktop.whenShown("frmAny", [](forms::Form& shown) {
-    common::ShowHelpTopic(3, 0);
-    shown.hide();
-  });
-  form.showModal(nullptr);
-  EXPECT_EQ(desktop.helpTopics(), std::vector<std::int16_t>{69});
-}
-
 TEST_F(PlatformTest, closingHelpGoesToTheProgramsFolder) {
   application.changeFolder("\\");
   EXPECT_TRUE(common::CloseAllHelp());

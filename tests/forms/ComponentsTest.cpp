@@ -10,11 +10,8 @@ namespace {
 struct Builder : forms::Object {};
 struct Other : forms::Object {};
 
-/// A step with two members that are called by name.
 struct Step : forms::UserControl {
   Step(forms::Container& container, std::string name) : UserControl(container, std::move(name)) {
-    offer<bool&>("BeforeTabChange", [](bool& cancel) { cancel = true; });
-    offer("SetData", [this] { ++filled; });
     resized.connect([this] { ++resizes; });
   }
   void initProperties() override {
@@ -23,7 +20,6 @@ struct Step : forms::UserControl {
   }
   forms::TextBox box{*this, "box"};
   bool initialised = false;
-  int filled = 0;
   int resizes = 0;
 };
 
@@ -63,34 +59,6 @@ TEST_F(ComponentsTest, CreationFromProgramIds) {
   EXPECT_EQ(raisedBy([&] { form.removeControl("ctl0"); }).number(), 344);
   forms::TextBox own(form, "own");
   EXPECT_EQ(raisedBy([&] { form.removeControl("own"); }).number(), 344) << "not made by addControl";
-}
-
-TEST_F(ComponentsTest, MembersByName) {
-  Step step(form, "step");
-  bool cancel = false;
-  step.call<bool&>("BeforeTabChange", cancel);
-  EXPECT_TRUE(cancel);
-  step.call("SetData");
-  EXPECT_EQ(step.filled, 1);
-  EXPECT_EQ(raisedBy([&] { step.call("OtherTabClicked"); }).number(), 438);
-  EXPECT_EQ(raisedBy([&] { step.call("BeforeTabChange", false); }).number(), 13);
-
-  forms::ignoringErrors([&] { step.call("OtherTabClicked"); });
-  forms::ignoringErrors([&] { step.call("SetData"); });
-  EXPECT_EQ(step.filled, 2);
-}
-
-TEST_F(ComponentsTest, PropertyStore) {
-  forms::PropertyBag bag;
-  bag.write<std::uint32_t>("BackColor", 0x8000000F, 0x8000000F);
-  bag.write<std::int32_t>("Style", 1, 0);
-  bag.write<bool>("ShowBackNext", true, false);
-  bag.write<bool>("ShowBackNext", false, false);
-  EXPECT_EQ(bag.order(), (Journal{"BackColor", "Style", "ShowBackNext"}));
-  EXPECT_FALSE(bag.isStored("BackColor")) << "a default is not stored";
-  EXPECT_FALSE(bag.isStored("ShowBackNext")) << "nor kept once it is the default again";
-  EXPECT_EQ(bag.read<std::int32_t>("Style", 0), 1);
-  EXPECT_EQ(bag.read<bool>("Style", true), true) << "stored as another type";
 }
 
 TEST_F(ComponentsTest, SizeAndContainer) {

@@ -76,24 +76,6 @@ TEST_F(FocusTest, LeavingAControl) {
           {"out of a selector, refused for the page", "selector", name, ofList, "list"}});
 }
 
-TEST_F(FocusTest, ActiveControlOfEachRootOnTheWay) {
-  Wizard wizard;
-  onForm(wizard, [&](forms::Form&) {
-    user.moveFocus(wizard.page.selector.list);
-    EXPECT_EQ(wizard.activeControl(), &wizard.tabs);
-    EXPECT_EQ(wizard.tabs.activeControl(), &wizard.page);
-    EXPECT_EQ(wizard.page.activeControl(), &wizard.page.selector);
-    user.moveFocus(wizard.next);
-    EXPECT_EQ(wizard.activeControl(), &wizard.next);
-    EXPECT_TRUE(!wizard.tabs.activeControl() && !wizard.page.activeControl());
-    EXPECT_TRUE(wizard.page.validateActiveControl());
-
-    user.moveFocus(wizard.page.name);
-    wizard.refusing = "name";
-    EXPECT_FALSE(wizard.page.validateActiveControl());
-  });
-}
-
 TEST_F(FocusTest, HandlersThatInterfereWithAMove) {
   Wizard wizard;
   onForm(wizard, [&](forms::Form&) {
@@ -283,25 +265,6 @@ TEST_F(FocusTest, UserIsRefusedWhatAPersonIsRefused) {
       EXPECT_THROW(user.click(wizard.next), forms::Refused);
       EXPECT_THROW(user.close(wizard), forms::Refused);
     });
-  });
-}
-
-TEST_F(FocusTest, AShortcutClicksItsButtonAndGivesTheFocusBack) {
-  Wizard wizard;
-  wizard.next.setShortcut(U'S');
-  onForm(wizard, [&](forms::Form&) {
-    wizard.page.delay.setFocus();
-    wizard.journal.clear();
-    user.press('S', 2);
-    EXPECT_EQ(wizard.journal.front(), "validate delay (none)");
-    EXPECT_NE(std::find(wizard.journal.begin(), wizard.journal.end(), "click next"),
-              wizard.journal.end());
-    EXPECT_TRUE(wizard.page.delay.hasFocus());
-    wizard.next.setEnabled(false);
-    wizard.journal.clear();
-    user.press('S', 2);
-    user.press('S', 3);
-    EXPECT_EQ(wizard.journal, Journal());
   });
 }
 

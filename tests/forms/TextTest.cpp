@@ -45,14 +45,6 @@ TEST(NumbersTest, RoundedAndHeldInTheirTypes) {
   EXPECT_EQ(forms::absolute(-120), 120);
 }
 
-TEST(NumbersTest, DecimalTexts) {
-  EXPECT_EQ(forms::decimal(0.1F), "0.1");
-  EXPECT_EQ(forms::decimal(2.0F), "2");
-  EXPECT_EQ(forms::decimal(1e10F), "10000000000");
-  EXPECT_EQ(forms::decimalWithSignPlace(5), " 5");
-  EXPECT_EQ(forms::decimalWithSignPlace(-5), "-5");
-}
-
 TEST(TextTest, CountsCodePoints) {
   const std::string text = "a\u00e4\u20ac\U0001F600";
   EXPECT_EQ(forms::length(text), 4);

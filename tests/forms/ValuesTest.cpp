@@ -151,25 +151,6 @@ TEST_F(ValuesTest, TypingEndsWhereTheFocusIsTaken) {
   EXPECT_EQ(box.text(), "a");
 }
 
-TEST_F(ValuesTest, LabelEdits) {
-  Counted form;
-  form.rows.afterLabelEdit.connect([](bool& cancel, std::string& text) {
-    cancel = text.empty();
-    text = text.substr(0, 6);
-  });
-  onForm(form, [&](forms::Form&) {
-    EXPECT_THROW(user.editLabel(form.rows, 1, "x"), forms::Refused) << "not editable";
-    form.rows.setLabelEditable(true);
-    user.editLabel(form.rows, 1, "Laptop left");
-    EXPECT_EQ(form.rows.text(1, 0), "Laptop") << "changed by the program";
-    user.editLabel(form.rows, 1, "");
-    EXPECT_EQ(form.rows.text(1, 0), "Laptop") << "refused";
-    form.rows.afterLabelEdit.connect([&](bool&, std::string&) { form.rows.clear(); });
-    user.editLabel(form.rows, 2, "x");
-    EXPECT_EQ(form.rows.rowCount(), 0);
-  });
-}
-
 TEST_F(ValuesTest, SelectionFollowsRemovedRows) {
   struct Case {
     int selected, removed, after;

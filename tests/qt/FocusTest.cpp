@@ -99,18 +99,6 @@ TEST_F(FocusTest, AMessageOnTheWayDeliversTheClickOnceAllTheSame) {
   });
 }
 
-TEST_F(FocusTest, ADisabledOrCoveredControlTakesNoClick) {
-  form.button.setEnabled(false);
-  form.frame.setEnabled(false);
-  show(form, [&] {
-    click(form.button);
-    click(form.three);
-    click(form.grey);
-    EXPECT_TRUE(form.clicks == 0 && !form.three.isChosen());
-    EXPECT_EQ(focus(form), "box");
-  });
-}
-
 TEST_F(FocusTest, KeysAndTheButtonsOfTheMouseAreToldApart) {
   std::string pressed;
   form.button.setDefault(true);
@@ -128,14 +116,6 @@ TEST_F(FocusTest, KeysAndTheButtonsOfTheMouseAreToldApart) {
     click(form.button);
     key(Qt::Key_Escape);
     EXPECT_EQ(pressed, "right default left default cancel ");
-  });
-}
-
-TEST_F(FocusTest, WhatTheProgramHidesLaterGivesTheFocusOn) {
-  show(form, [&] {
-    form.box.setVisible(false);
-    settle();
-    EXPECT_EQ(focus(form), "check");
   });
 }
 

@@ -18,6 +18,7 @@
 #include "app/Rooms.h"
 #include "app/Schema.h"
 #include "app/Show.h"
+#include "app/Try.h"
 #include "app/Window.h"
 #include "forms/Text.h"
 
@@ -76,6 +77,21 @@ Command showCommand(CLI::App& program) {
   named(command->add_option("FILE.tsy", options->systemFile, "A saved system"))->required();
   command->add_flag("--json", options->asJson, "Prints the listing for other programs");
   return {command, [options] { return show(*options); }, statusesOfAReader()};
+}
+
+Command tryCommand(CLI::App& program) {
+  auto options = std::make_shared<TryOptions>();
+  CLI::App* command = program.add_subcommand(
+      "try", "Tries a system in virtual time: does what a script says and prints what happens");
+  named(command->add_option("FILE.tsy", options->systemFile, "A saved system"))->required();
+  command->add_option("--script", options->script, "What is done in the room; - is standard input")
+      ->type_name("FILE.json");
+  command->add_flag("--json", options->asJson, "Prints the trace for other programs");
+  return {command,
+          [options] { return tryRoom(*options); },
+          {{"0", "the script was played"},
+           {"1", "the output can't be written"},
+           {"2", "the command line, the system or the script is wrong"}}};
 }
 
 Command answersCommand(CLI::App& program) {
@@ -274,9 +290,9 @@ Commands::Commands()
   program.set_version_flag("--version", "orlena " ORLENA_VERSION, "Prints the version");
   all = {buildCommand(program),   wizardCommand(program),  answersCommand(program),
          roomsCommand(program),   showCommand(program),    explainCommand(program),
-         diffCommand(program),    gitDiffCommand(program), checkCommand(program),
-         reportCommand(program),  schemaCommand(program),  libraryCommand(program),
-         receiverCommand(program)};
+         tryCommand(program),     diffCommand(program),    gitDiffCommand(program),
+         checkCommand(program),   reportCommand(program),  schemaCommand(program),
+         libraryCommand(program), receiverCommand(program)};
   CLI::Option* opened =
       named(program.add_option("FILE.tsy", file, "A system, or an archive (.tsa), to be opened"))
           ->check(isSystemOrArchive);

@@ -1,4 +1,3 @@
-#include "base/Digest.h"
 #include "base/Json.h"
 #include "program/ProgramFields.h"
 #include "program/ProgramHead.h"

@@ -10,8 +10,9 @@ namespace tests {
 /// nothing else.
 using FuzzTarget = void (*)(std::string_view bytes);
 
-/// By name: settings, system, library, answers, archive, protocol, project, preferences,
-/// table, program, and structure, which changes a valid file of one of the others by what the bytes decide.
+/// By name: settings, system, library, answers, archive, protocol, project, preferences, table,
+/// program, and structure, which changes a valid file of one of the others by what the bytes
+/// decide.
 const std::map<std::string, FuzzTarget>& fuzzTargets();
 
 }  // namespace tests

@@ -67,6 +67,7 @@ std::vector<std::string> answersThatMend(const simulator::Fault& fault) {
     case Concern::mains:
       return {"display.relay.on_delay"};
     case Concern::displayPower:
+      if (fault.truth == Truth::nothingIsLost) return {};  // no answer makes the room wait for it
       return {"power.control", "power.on", "power.off"};
     case Concern::relay:
       return {"display.relay"};
@@ -75,9 +76,9 @@ std::vector<std::string> answersThatMend(const simulator::Fault& fault) {
     case Concern::lift:
       return {"lift.on", "lift.off"};
     case Concern::rgbSource:
-      return {"display.rgb"};
+      return {"display.rgb", "lockout.on"};
     case Concern::compositeSource:
-      return {"display.composite"};
+      return {"display.composite", "lockout.on"};
     case Concern::lock:
       return {"lockout.contact"};
     case Concern::helpDesk:

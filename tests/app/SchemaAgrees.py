@@ -156,7 +156,8 @@ def main(program, source):
     schema = jsonschema.Draft202012Validator(whole)
     read_library(source)
 
-    files = sorted([*source.glob("examples/**/*.json"), *source.glob("tests/golden/*/answers.json")])
+    examples = [file for file in source.glob("examples/**/*.json") if file.parent.name != "trials"]
+    files = sorted([*examples, *source.glob("tests/golden/*/answers.json")])
     assert len(files) > 20, files
     rooms = [json.loads(file.read_text()) for file in files]
     assert schema.is_valid({"display": {"rgb": "RGB_1"}}), "without a device each one's commands are taken"

@@ -1,7 +1,5 @@
 #include "answers/Paths.h"
 
-#include "forms/Text.h"
-
 namespace answers {
 
 using base::Json;
@@ -16,10 +14,11 @@ std::pair<Json*, std::string> placeOf(Json& answers, std::string path) {
 }
 
 bool isAnswered(const Json& answers, const std::string& path) {
-  const std::string pointer =
-      "/" + forms::replacedAll(forms::replacedAll(forms::replacedAll(path, "].", "/"), "[", "/"),
-                               ".", "/");
-  return answers.contains(Json::json_pointer(forms::replacedAll(pointer, "]", "")));
+  std::string pointer = "/";
+  for (const char c : path) {
+    if (c != ']') pointer += c == '.' || c == '[' ? '/' : c;
+  }
+  return answers.contains(Json::json_pointer(pointer));
 }
 
 bool takeOut(Json& answers, const std::string& path) {

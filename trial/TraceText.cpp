@@ -48,7 +48,8 @@ std::string unitText(const Json& unit) {
   const auto add = [&](const std::string& part) { text += (text.empty() ? "" : ", ") + part; };
   if (unit.contains("state")) add(unit["state"]);
   if (unit.contains("input")) {
-    add(unit["input"].is_null() ? "no input chosen" : "input " + unit["input"].get<std::string>());
+    const std::string input = unit["input"].is_null() ? "" : unit["input"].get<std::string>();
+    add(input.empty() ? "no input chosen" : "input " + input);
   }
   if (unit.contains("locked")) add(unit["locked"].get<bool>() ? "locked" : "not locked");
   if (unit.contains("enabled")) add(unit["enabled"].get<bool>() ? "enabled" : "disabled");
@@ -65,8 +66,9 @@ std::string traceText(const simulator::Trial& trial, bool isAtRest) {
     text += row(numberText(line.number), simulator::inSeconds(line.at), numberText(line.because),
                 words(trial, line));
   }
-  text += "\n" + std::string(isAtRest ? "At rest after " : "Not at rest after ") +
-          simulator::inSeconds(trial.machine().now()) + " s:\n";
+  const std::string now = simulator::inSeconds(trial.machine().now());
+  text += isAtRest ? "\nAt rest after " : "\nNot at rest after ";
+  text += now + " s:\n";
   const Json rest = restJson(trial);
   for (const auto& [name, unit] : rest.items()) {
     if (const std::string stands = unitText(unit); !stands.empty()) {

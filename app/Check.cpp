@@ -64,12 +64,16 @@ Checked checked(const fs::path& system, int depth, const answers::RoomOptions& o
 
 void addPart(const std::string& heading, const std::vector<std::string>& lines, std::string& text) {
   if (lines.empty()) return;
-  text += "\n" + heading + "\n";
+  text += '\n';
+  text += heading + "\n";
   for (const std::string& line : lines) text += line;
 }
 
 std::vector<std::string> indented(std::vector<std::string> lines) {
-  for (std::string& line : lines) line = "  " + line + "\n";
+  for (std::string& line : lines) {
+    line.insert(0, "  ");
+    line += '\n';
+  }
   return lines;
 }
 
@@ -77,7 +81,9 @@ std::vector<std::string> findings(const Checked& system, bool isEveryday) {
   std::vector<std::string> texts;
   for (const simulator::Finding& finding : system.search.findings) {
     if (finding.isEveryday != isEveryday) continue;
-    texts.push_back((texts.empty() ? "" : "\n") + trial::findingText(finding, system.program));
+    std::string text = trial::findingText(finding, system.program);
+    if (!texts.empty()) text.insert(text.begin(), '\n');
+    texts.push_back(std::move(text));
   }
   return texts;
 }
@@ -93,10 +99,13 @@ std::string textOf(const Checked& system, int depth) {
   addPart("What visitors can bring about", findings(system, /*isEveryday=*/true), text);
   addPart("What the help desk and the buttons for single devices can bring about",
           findings(system, /*isEveryday=*/false), text);
-  text += "\n" + (system.faults() == 0 ? "Nothing was found" : counted(system.faults(), "fault"));
+  text += '\n';
+  text += system.faults() == 0 ? "Nothing was found" : counted(system.faults(), "fault");
   if (system.errors.empty()) {
-    text += " after every order of up to " + counted(static_cast<std::size_t>(depth), "act") +
-            ", in " + counted(system.search.states, "state");
+    const std::string acts = counted(static_cast<std::size_t>(depth), "act");
+    const std::string states = counted(system.search.states, "state");
+    text += " after every order of up to ";
+    text += acts + ", in " + states;
   }
   return text + ".\n";
 }
@@ -124,15 +133,18 @@ int check(const CheckOptions& options) {
       .openWizard = openUnattended,
       .library = std::make_shared<trellisar::DeviceLibrary>(dataFolder() / "library")};
   base::Json systems = base::Json::array();
-  std::string text;
+  bool isFirst = true;
   int status = exitStatus::ok;
   for (const fs::path& file : options.systemFiles) {
     try {
       const Checked system = checked(file, options.depth, roomOptions);
       if (system.faults() > 0) status = std::max(status, exitStatus::different);
       if (options.asJson) systems.push_back(jsonOf(file, system, options.depth));
-      if (!options.asJson)
-        print((text.empty() ? "" : "\n") + (text = textOf(system, options.depth)));
+      if (!options.asJson) {
+        if (!isFirst) print("\n");
+        print(textOf(system, options.depth));
+        isFirst = false;
+      }
     } catch (const host::Error& error) {
       RunReport(file.string()).line(error.description());
       status = exitStatus::wrongInput;

@@ -31,7 +31,7 @@ void BackgroundWriter::wait() {
 
 bool BackgroundWriter::isBusy() {
   const std::lock_guard lock(mutex_);
-  return next_ || isWriting_;
+  return next_ || isWriting_ || !failure_.empty();
 }
 
 std::string BackgroundWriter::takeFailure() {

@@ -23,7 +23,7 @@ class BackgroundWriter {
   void write(std::filesystem::path file, std::string content);
   /// Returns when nothing is being written any more.
   void wait();
-  /// Whether something waits to be written, or is being written.
+  /// Whether something waits to be written, is being written, or has failed and nobody knows yet.
   bool isBusy();
   /// What kept the last write from its end; empty: nothing. It is told once.
   std::string takeFailure();
